@@ -1,0 +1,45 @@
+# Warnings, sanitizers and include root, the same for every target of the project.
+function(loquitor_configure target)
+  target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
+                                           -Woverloaded-virtual)
+  if(LOQUITOR_WERROR)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(LOQUITOR_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=${LOQUITOR_SANITIZE} -fno-sanitize-recover=all
+                                             -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${LOQUITOR_SANITIZE})
+  endif()
+endfunction()
+
+# A static library of the project: loquitor_library(name SOURCES a.cpp b.cpp LINK lib1 lib2)
+function(loquitor_library target)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_library(${target} STATIC ${ARG_SOURCES})
+  target_link_libraries(${target} PUBLIC ${ARG_LINK})
+  loquitor_configure(${target})
+endfunction()
+
+# One of the installed programs; it lands in bin/.
+function(loquitor_program target)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${target} ${ARG_SOURCES})
+  target_link_libraries(${target} PRIVATE ${ARG_LINK})
+  set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${LOQUITOR_BIN}")
+  loquitor_configure(${target})
+endfunction()
+
+# A GoogleTest program, its cases found by CTest.
+# MAIN: the program brings its own main (the window tests do, for QApplication).
+function(loquitor_test target)
+  cmake_parse_arguments(ARG "MAIN" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${target} ${ARG_SOURCES})
+  target_link_libraries(${target} PRIVATE ${ARG_LINK} GTest::gmock)
+  if(NOT ARG_MAIN)
+    target_link_libraries(${target} PRIVATE GTest::gtest_main)
+  endif()
+  loquitor_configure(${target})
+  gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 DISCOVERY_MODE PRE_TEST
+                       PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()

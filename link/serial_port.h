@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace loquitor {
+
+/// How a serial port is opened. Always 8 data bits, no parity, 1 stop bit.
+struct SerialPortSettings {
+  std::string device;        ///< name or path of the device, as the platform spells it
+  std::string baudRate;      ///< the stored text, for example "9600"; refused if not a speed
+  bool hardwareHandshaking;  ///< RTS/CTS when true, none when false
+};
+
+/// One serial port. The real one is link/qt/qt_serial_port.h; tests script their own.
+///
+/// No call blocks. A port that fails (device gone, write refused) reports IsOpen() false from the
+/// first failure on, once, whatever the layer below goes on to say.
+class SerialPort {
+ public:
+  virtual ~SerialPort() = default;
+
+  /// Opens the port for this program alone. False when it cannot be opened with these settings;
+  /// the port is closed then.
+  virtual bool Open(const SerialPortSettings& zSettings) = 0;
+
+  /// Closes the port; bytes that cannot go out are discarded. Closing a closed port does nothing.
+  virtual void Close() = 0;
+
+  /// True from a successful Open until Close or the port's failure.
+  virtual bool IsOpen() const = 0;
+
+  /// Throws away everything received so far.
+  virtual void DiscardReceived() = 0;
+
+  /// True while the port's own queue holds fewer than about sixteen bytes, so that another may be
+  /// handed over and a stop sequence never waits behind a long phrase. False when not open.
+  virtual bool IsReadyForByte() const = 0;
+
+  /// Hands one byte over. False when the port refused it or has failed.
+  virtual bool WriteByte(std::uint8_t zByte) = 0;
+};
+
+}  // namespace loquitor

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace loquitor {
+
+/// The settings file (Loquitor.ini) in the program's folder. Keeps nothing in memory: each call
+/// goes to the file. All texts are bytes in Windows-1252.
+class SettingsFile {
+ public:
+  /// `zFolder` is the folder of the program.
+  explicit SettingsFile(std::filesystem::path zFolder);
+
+  /// The value under `zSection`, `zKey`: at most 255 bytes, without blanks around it and without
+  /// trailing NULs; `zDefault`, exactly as given, when nothing is left or the key is missing.
+  std::string GetIniValue(std::string_view zSection, std::string_view zKey,
+                          std::string_view zDefault) const;
+
+  /// Writes the value under `zSection`, `zKey`. False when it could not be stored.
+  bool SaveIniValue(std::string_view zSection, std::string_view zKey,
+                    std::string_view zValue) const;
+
+  /// Whole numbers are written in decimal, truth values as the words True and False.
+  bool SaveIniValue(std::string_view zSection, std::string_view zKey, int zValue) const;
+  bool SaveIniValue(std::string_view zSection, std::string_view zKey, bool zValue) const;
+  bool SaveIniValue(std::string_view zSection, std::string_view zKey, const char* zValue) const;
+
+  /// The folder given to the constructor.
+  const std::filesystem::path& Folder() const { return folder_; }
+
+ private:
+  std::filesystem::path File() const;
+
+  std::filesystem::path folder_;
+};
+
+/// A stored truth value: the word True, or any number but 0, is true; everything else is false.
+/// Letter case does not count.
+bool IsTrueText(std::string_view zText);
+
+}  // namespace loquitor

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "link/serial_port.h"
+
+namespace loquitor::testing {
+
+/// A port that records what it gets and fails or stalls on demand.
+class ScriptedPort : public SerialPort {
+ public:
+  bool Open(const SerialPortSettings& zSettings) override {
+    opened.push_back(zSettings);
+    isOpen_ = !refusesToOpen;
+    return isOpen_;
+  }
+  void Close() override {
+    closeCount += isOpen_ ? 1 : 0;
+    isOpen_ = false;
+  }
+  bool IsOpen() const override { return isOpen_; }
+  void DiscardReceived() override { ++discardCount; }
+  bool IsReadyForByte() const override { return isOpen_ && !isHeldBack; }
+  bool WriteByte(std::uint8_t zByte) override {
+    if (bytesUntilFailure == 0) {
+      isOpen_ = false;
+      return false;
+    }
+    bytesUntilFailure -= bytesUntilFailure > 0 ? 1 : 0;
+    written.push_back(static_cast<char>(zByte));
+    if (onByte) {
+      onByte();
+    }
+    return true;
+  }
+
+  /// What has been written since the last call.
+  std::string TakeWritten() { return std::exchange(written, {}); }
+
+  std::string written;
+  std::vector<SerialPortSettings> opened;
+  int closeCount = 0;
+  int discardCount = 0;
+  bool refusesToOpen = false;
+  bool isHeldBack = false;
+  int bytesUntilFailure = -1;    ///< from 0 on: that many more bytes are taken, then the port fails
+  std::function<void()> onByte;  ///< runs after each byte
+
+ private:
+  bool isOpen_ = false;
+};
+
+}  // namespace loquitor::testing

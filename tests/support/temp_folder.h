@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace loquitor::testing {
+
+/// A folder of a test's own, removed with everything in it at its end.
+class TempFolder {
+ public:
+  TempFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "loquitor-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) {
+      throw std::runtime_error("no temporary folder");
+    }
+    path_ = pattern;
+  }
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  const std::filesystem::path& Path() const { return path_; }
+  std::filesystem::path operator/(std::string_view zName) const { return path_ / zName; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+inline void WriteBytes(const std::filesystem::path& zFile, std::string_view zBytes) {
+  std::ofstream out(zFile, std::ios::binary | std::ios::trunc);
+  out.write(zBytes.data(), static_cast<std::streamsize>(zBytes.size()));
+  if (!out.flush()) {
+    throw std::runtime_error("cannot write " + zFile.string());
+  }
+}
+
+inline std::string ReadBytes(const std::filesystem::path& zFile) {
+  std::ifstream in(zFile, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+}  // namespace loquitor::testing

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QVector>
+
+namespace loquitor {
+
+/// A check box whose caption may wrap to several lines ("&&" shows as one "&").
+class CheckBox : public QAbstractButton {
+  Q_OBJECT
+ public:
+  CheckBox(const QString& zCaption, QWidget* zParent);
+
+  /// 1 when ticked, 0 when not. Setting it raises Click when that changes it.
+  int Value() const { return isChecked() ? 1 : 0; }
+  void SetValue(int zValue) { setChecked(zValue != 0); }
+
+ signals:
+  /// Its state has changed, by the user or by code.
+  void Click();
+
+ protected:
+  void paintEvent(QPaintEvent* zEvent) override;
+  void keyPressEvent(QKeyEvent* zEvent) override;
+};
+
+/// An option button. Which ones exclude each other says the OptionGroup that holds them.
+class OptionButton : public QAbstractButton {
+  Q_OBJECT
+ public:
+  OptionButton(const QString& zCaption, QWidget* zParent);
+
+ protected:
+  void paintEvent(QPaintEvent* zEvent) override;
+  void keyPressEvent(QKeyEvent* zEvent) override;
+};
+
+/// Option buttons of which at most one is chosen; it may start with none chosen.
+class OptionGroup : public QObject {
+  Q_OBJECT
+ public:
+  explicit OptionGroup(QObject* zParent);
+
+  /// Adds a button under its index in its control group.
+  void Add(OptionButton* zButton, int zIndex);
+
+  /// Chooses the member (raises Click when it was not chosen), or clears it.
+  void SetChosen(int zIndex, bool zIsChosen);
+  bool IsChosen(int zIndex) const;
+
+  /// The chosen member, or -1.
+  int Chosen() const;
+
+ signals:
+  /// The member has become chosen, by the user or by code.
+  void Click(int zIndex);
+
+ private:
+  struct Member {
+    OptionButton* button;
+    int index;
+  };
+  void OnToggled(OptionButton* zButton, int zIndex, bool zIsChosen);
+
+  QVector<Member> members_;
+};
+
+}  // namespace loquitor
