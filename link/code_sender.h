@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,19 +12,15 @@ namespace loquitor {
 /// What the port box shows.
 enum class PortState { Closed, Open, Failed };
 
-/// Which events may be handled while the sender waits.
-enum class EventScope {
-  All,          ///< everything, the user's clicks and keys included
-  NoUserInput,  ///< everything but the user's input
-};
-
 /// What the sender needs of the program around it: the main window, loquitor-say, or a test.
+/// link/qt/event_turns.h has the last three for programs with a Qt event loop.
 class SenderHost {
  public:
   virtual ~SenderHost() = default;
 
-  /// The text of the port number box, Windows-1252.
-  virtual std::string PortNumberText() const = 0;
+  /// The device of the port number that the user has chosen; empty when there is none. See
+  /// port_numbers.h.
+  virtual std::string PortDevice() const = 0;
 
   /// Whether the flow control check box is ticked.
   virtual bool IsFlowControlTicked() const = 0;
@@ -31,59 +28,87 @@ class SenderHost {
   /// Shows the state of the port: white, green or red.
   virtual void ShowPortState(PortState zState) = 0;
 
-  /// The device for a port number; empty when there is none. See port_numbers.h.
-  virtual std::string DeviceForPort(long long zPortNumber) = 0;
-
   /// Asks whether a phrase of more than 64 codes is sent without flow control. True for Yes.
   virtual bool ConfirmLongPhrase() = 0;
-
-  /// Handles the events that are pending and returns.
-  virtual void LetEventsRun(EventScope zScope) = 0;
-
-  /// Handles events until something may have changed for the port (it took bytes, failed, was
-  /// closed) or a short time has passed; used when the port cannot take a byte yet.
-  virtual void WaitForEvents(EventScope zScope) = 0;
 
   /// The closing timer of the main window. When it fires the host calls
   /// CodeSender::CloseSerialPort.
   virtual void StopClosingTimer() = 0;
   virtual void StartClosingTimer(int zMilliseconds) = 0;
+
+  /// Handles the events that are pending, the user's input included, and returns.
+  virtual void LetEventsRun() = 0;
+
+  /// Waits for events and handles them: returns after the first ones, and after a few milliseconds
+  /// at the latest. Used while the port cannot take a byte.
+  virtual void WaitForEvents() = 0;
+
+  /// While ticking is on the host calls CodeSender::Tick every few milliseconds out of its event
+  /// loop, also out of the loop of a modal window or message box.
+  virtual void SetTicking(bool zIsOn) = 0;
 };
 
 /// The one way to the chip. Opens the port on demand, writes bytes one at a time and lets the user
-/// interface live between them. All calls on one thread; SendCodesToOrvatone may be entered again
-/// from the events that it lets run.
+/// interface live between them. All calls on one thread; every one of them may come out of the
+/// events that a send lets run.
+///
+/// A send that starts within another replaces what is left of it: its own bytes go out, then the
+/// outer send finds nothing left and ends. Sends nest only to a fixed depth, so that a bar dragged
+/// on a slow line does not exhaust the stack: beyond it SendCodesToOrvatone leaves its bytes to the
+/// innermost send under way and returns at once. Sends left in one turn of the event loop follow
+/// each other, as they would have if each had been waited for.
 class CodeSender {
  public:
+  /// All three outlive the sender.
   CodeSender(SerialPort& zPort, SenderHost& zHost, const SettingsFile& zSettings);
+  ~CodeSender();
+  CodeSender(const CodeSender&) = delete;
+  CodeSender& operator=(const CodeSender&) = delete;
 
   /// Sends `zCodes`, one byte a character, exactly as given. `zIsPhrase`: true for spoken code
-  /// strings (long-phrase question, hardware flow control), false for command strings.
+  /// strings (long-phrase question, hardware flow control), false for command strings. A port that
+  /// cannot be opened, or fails on the way, ends the send and shows red; nothing else is reported
+  /// (see HasFailed).
   void SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase);
 
   /// Closes the port if it is open and shows it closed; else does nothing (a red box stays red).
+  /// A send under way ends.
   void CloseSerialPort();
 
   /// Empties PendingOutput, so that a send under way ends after the byte that it is writing.
-  void ClearPendingOutput() { pendingOutput_.clear(); }
+  void ClearPendingOutput();
 
-  /// The bytes of the present send that are not yet written.
-  const std::string& PendingOutput() const { return pendingOutput_; }
+  /// The bytes of the present send that are not yet written. Valid until the next call.
+  std::string_view PendingOutput() const;
+
+  /// Writes the next byte of a send whose own loop is held up by a modal window that was opened
+  /// meanwhile. Does nothing when none is pending or the port is not ready.
+  void Tick();
 
   /// True while a send is under way (one of those that nest in each other).
   bool IsSending() const { return depth_ > 0; }
 
-  /// True when the last send found no open port or lost it on the way.
+  /// True when the last send found no open port, or the port has failed since.
   bool HasFailed() const { return hasFailed_; }
 
  private:
   void OpenSerialPort(bool zIsPhrase);
+  bool TryToOpen(bool zIsPhrase);
+  bool IsRefused(std::string_view zCodes, bool zIsPhrase);
+  void TakeOver(std::string_view zCodes);
+  void LeaveToInnermost(std::string_view zCodes);
+  void WritePendingOutput();
+  void WriteNextByte();
+  void OnPortFailed();
 
   SerialPort& port_;
   SenderHost& host_;
   const SettingsFile& settings_;
-  std::string pendingOutput_;
-  int depth_ = 0;
+  std::string pendingOutput_;     // the present send, with the bytes already written
+  std::size_t writtenCount_ = 0;  // how many of them those are
+  int depth_ = 0;                 // how many sends are under way within each other
+  bool hasLeftBytes_ = false;     // bytes were left to the innermost send in this turn
+  bool isPortShownOpen_ = false;
   bool hasFailed_ = false;
 };
 

@@ -1,21 +1,28 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace loquitor {
 
 /// How a serial port is opened. Always 8 data bits, no parity, 1 stop bit.
 struct SerialPortSettings {
   std::string device;        ///< name or path of the device, as the platform spells it
-  std::string baudRate;      ///< the stored text, for example "9600"; refused if not a speed
+  std::string baudRate;      ///< the stored text, for example "9600"; refused unless BaudRateOf it
   bool hardwareHandshaking;  ///< RTS/CTS when true, none when false
 };
+
+/// The speed that a stored text means, in bits a second: a positive whole number in plain decimal
+/// digits and nothing else. Nothing for any other text, and for more than 32 bits signed hold.
+std::optional<std::int32_t> BaudRateOf(std::string_view zText);
 
 /// One serial port. The real one is link/qt/qt_serial_port.h; tests script their own.
 ///
 /// No call blocks. A port that fails (device gone, write refused) reports IsOpen() false from the
-/// first failure on, once, whatever the layer below goes on to say.
+/// first failure on, whatever the layer below goes on to say.
 class SerialPort {
  public:
   virtual ~SerialPort() = default;
@@ -39,6 +46,11 @@ class SerialPort {
 
   /// Hands one byte over. False when the port refused it or has failed.
   virtual bool WriteByte(std::uint8_t zByte) = 0;
+
+  /// `zHandler` is called when an open port fails: once for each successful Open at most, from the
+  /// event loop, never from within a call to the port; not when Close or Open came first. It
+  /// replaces the handler before it; an empty one takes it away.
+  virtual void SetFailureHandler(std::function<void()> zHandler) = 0;
 };
 
 }  // namespace loquitor

@@ -37,6 +37,16 @@ class ScriptedPort : public SerialPort {
     return true;
   }
 
+  void SetFailureHandler(std::function<void()> zHandler) override {
+    failureHandler = std::move(zHandler);
+  }
+
+  /// The device goes away while nothing is being written.
+  void Vanish() {
+    isOpen_ = false;
+    failureHandler();
+  }
+
   /// What has been written since the last call.
   std::string TakeWritten() { return std::exchange(written, {}); }
 
@@ -48,6 +58,7 @@ class ScriptedPort : public SerialPort {
   bool isHeldBack = false;
   int bytesUntilFailure = -1;    ///< from 0 on: that many more bytes are taken, then the port fails
   std::function<void()> onByte;  ///< runs after each byte
+  std::function<void()> failureHandler;
 
  private:
   bool isOpen_ = false;

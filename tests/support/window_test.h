@@ -21,19 +21,16 @@ namespace loquitor::testing {
 /// The main window's side of sending, for tests of other windows.
 class ScriptedHost : public SenderHost {
  public:
-  std::string PortNumberText() const override { return "1"; }
+  std::string PortDevice() const override { return "scripted"; }
   bool IsFlowControlTicked() const override { return isFlowControlTicked; }
   void ShowPortState(PortState zState) override { portState = zState; }
-  std::string DeviceForPort(long long) override { return "scripted"; }
   bool ConfirmLongPhrase() override {
     ++longPhraseQuestions;
     return sendsLongPhrases;
   }
-  void LetEventsRun(EventScope zScope) override {
-    QCoreApplication::processEvents(zScope == EventScope::All ? QEventLoop::AllEvents
-                                                              : QEventLoop::ExcludeUserInputEvents);
-  }
-  void WaitForEvents(EventScope zScope) override { LetEventsRun(zScope); }
+  void LetEventsRun() override { QCoreApplication::processEvents(); }
+  void WaitForEvents() override { QCoreApplication::processEvents(QEventLoop::AllEvents, 1); }
+  void SetTicking(bool zIsOn) override { isTicking = zIsOn; }
   void StopClosingTimer() override { isTimerRunning = false; }
   void StartClosingTimer(int) override { isTimerRunning = true; }
 
@@ -41,6 +38,7 @@ class ScriptedHost : public SenderHost {
   bool sendsLongPhrases = true;
   int longPhraseQuestions = 0;
   bool isTimerRunning = false;
+  bool isTicking = false;
   PortState portState = PortState::Closed;
 };
 

@@ -1,0 +1,141 @@
+#include "link/code_sender.h"
+
+namespace loquitor {
+
+namespace {
+
+constexpr std::size_t LongestUnasked = 64;  // codes of a phrase that the chip's own buffer holds
+constexpr int ClosingDelay = 1000;          // milliseconds
+constexpr int DeepestSend = 8;  // sends within each other; a few kilobytes of stack each
+
+}  // namespace
+
+CodeSender::CodeSender(SerialPort& zPort, SenderHost& zHost, const SettingsFile& zSettings)
+    : port_(zPort), host_(zHost), settings_(zSettings) {
+  port_.SetFailureHandler([this] { OnPortFailed(); });
+}
+
+CodeSender::~CodeSender() {
+  port_.SetFailureHandler({});
+}
+
+void CodeSender::SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase) {
+  host_.StopClosingTimer();
+  if (IsRefused(zCodes, zIsPhrase)) {
+    return;
+  }
+  OpenSerialPort(zIsPhrase);
+  hasFailed_ = !port_.IsOpen();
+  if (!hasFailed_ && depth_ == DeepestSend) {
+    LeaveToInnermost(zCodes);
+    return;  // the closing timer starts when the innermost send ends
+  }
+  if (!hasFailed_) {
+    TakeOver(zCodes);
+    WritePendingOutput();
+  }
+  host_.StartClosingTimer(ClosingDelay);
+}
+
+void CodeSender::CloseSerialPort() {
+  if (!port_.IsOpen()) {
+    return;
+  }
+  port_.Close();
+  isPortShownOpen_ = false;
+  ClearPendingOutput();
+  host_.ShowPortState(PortState::Closed);
+}
+
+void CodeSender::ClearPendingOutput() {
+  pendingOutput_.clear();
+  writtenCount_ = 0;
+}
+
+std::string_view CodeSender::PendingOutput() const {
+  return std::string_view(pendingOutput_).substr(writtenCount_);
+}
+
+void CodeSender::Tick() {
+  hasLeftBytes_ = false;
+  if (!PendingOutput().empty() && port_.IsReadyForByte()) {
+    WriteNextByte();
+  }
+}
+
+bool CodeSender::IsRefused(std::string_view zCodes, bool zIsPhrase) {
+  return zIsPhrase && zCodes.size() > LongestUnasked && !host_.IsFlowControlTicked() &&
+         !host_.ConfirmLongPhrase();
+}
+
+void CodeSender::OpenSerialPort(bool zIsPhrase) {
+  isPortShownOpen_ = port_.IsOpen() || TryToOpen(zIsPhrase);
+  host_.ShowPortState(isPortShownOpen_ ? PortState::Open : PortState::Failed);
+}
+
+bool CodeSender::TryToOpen(bool zIsPhrase) {
+  const std::string device = host_.PortDevice();
+  if (device.empty()) {
+    return false;
+  }
+  return port_.Open({.device = device,
+                     .baudRate = settings_.GetIniValue("Serial", "BaudRate", "9600"),
+                     .hardwareHandshaking = zIsPhrase && host_.IsFlowControlTicked()});
+}
+
+void CodeSender::TakeOver(std::string_view zCodes) {
+  pendingOutput_ = zCodes;
+  writtenCount_ = 0;
+  port_.DiscardReceived();
+}
+
+void CodeSender::LeaveToInnermost(std::string_view zCodes) {
+  if (hasLeftBytes_) {
+    pendingOutput_ += zCodes;
+  } else {
+    TakeOver(zCodes);
+  }
+  hasLeftBytes_ = true;
+}
+
+void CodeSender::WritePendingOutput() {
+  if (depth_++ == 0) {
+    host_.SetTicking(true);
+  }
+  while (port_.IsOpen() && !PendingOutput().empty()) {
+    hasLeftBytes_ = false;
+    if (port_.IsReadyForByte()) {
+      WriteNextByte();
+      host_.LetEventsRun();
+    } else {
+      host_.WaitForEvents();
+    }
+  }
+  if (!port_.IsOpen()) {
+    OnPortFailed();
+  }
+  ClearPendingOutput();
+  if (--depth_ == 0) {
+    host_.SetTicking(false);
+  }
+}
+
+void CodeSender::WriteNextByte() {
+  const auto byte = static_cast<std::uint8_t>(pendingOutput_[writtenCount_++]);
+  if (!port_.WriteByte(byte)) {
+    OnPortFailed();
+  }
+}
+
+void CodeSender::OnPortFailed() {
+  if (!isPortShownOpen_) {
+    return;  // closed on purpose, or told already
+  }
+  isPortShownOpen_ = false;
+  hasFailed_ = true;
+  ClearPendingOutput();
+  port_.Close();
+  host_.ShowPortState(PortState::Failed);
+}
+
+}  // namespace loquitor
