@@ -1,0 +1,109 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/code_table.h"
+
+namespace loquitor {
+
+/// What the bytes on the line mean to the chip.
+enum class ChipEventKind {
+  Code,                ///< a code with a mnemonic and without a value: number
+  ControlCode,         ///< a code and its value byte: number, value
+  Play,                ///< code 29: value is the phrase, codes what is stored there
+  Call,                ///< code 28: likewise
+  StoredPhrase,        ///< follows Play or Call, for each further phrase that is reached by the
+                       ///< codes 28 and 29 in stored phrases: value, codes. Each phrase once.
+  Reset,               ///< SCP command R
+  Test,                ///< SCP command V
+  StoreConfiguration,  ///< SCP command W with its five zeros
+  MemoryWrite,         ///< location (number), value
+  RegisterWrite,       ///< register (number), value
+  Sync,                ///< the character U
+  Unknown,             ///< bytes that mean nothing to the chip
+  Incomplete,          ///< the beginning of something whose rest has not come
+};
+
+struct ChipEvent {
+  ChipEventKind kind;
+  int number = 0;       ///< code, location or register
+  int value = 0;        ///< value byte, written value or phrase number
+  std::string codes{};  ///< of the stored phrase
+  std::string bytes{};  ///< as received; the X that ends an SCP sequence belongs to no event
+
+  bool operator==(const ChipEvent&) const = default;
+};
+
+/// A stand-in for the Orvatone: takes the bytes of the line (docs/wire-format.md), says what they
+/// mean, and keeps what the chip would keep. Takes any bytes in portions of any size; the events
+/// do not depend on the portions. Memory and time per byte are bounded.
+class VirtualChip {
+ public:
+  static constexpr int EepromSize = 256;
+  static constexpr int RegisterCount = 16;
+  static constexpr int PhraseCount = 16;
+
+  /// A chip with an erased EEPROM (all 255) and the synthesizer in its quiet state.
+  VirtualChip();
+
+  /// The events that `zBytes` complete, in order.
+  std::vector<ChipEvent> Receive(std::string_view zBytes);
+
+  /// What has begun and waits for its rest (a control code without its value, half an SCP command),
+  /// as an Incomplete event. Changes nothing.
+  std::optional<ChipEvent> Pending() const;
+
+  /// One line of text for an event, without a line end.
+  std::string Describe(const ChipEvent& zEvent) const;
+
+  /// The byte at an EEPROM location, 0 to 255.
+  std::uint8_t Eeprom(int zLocation) const;
+
+  /// The value that a synthesizer register, 0 to 15, holds.
+  int Register(int zRegister) const;
+
+  /// The codes of the stored phrase in slot 0 to 15: from its start offset (location `zSlot`) up
+  /// to, not including, the byte 255, at most up to the end of the phrase area. Empty for a slot
+  /// that is empty or does not exist.
+  std::string StoredPhrase(int zSlot) const;
+
+ private:
+  enum class Mode { Speech, Value, Node, Command, StoreZeros };
+  using Events = std::vector<ChipEvent>;
+
+  void ReceiveByte(char zByte, Events& zEvents);
+  void ReceiveSpeech(char zByte, Events& zEvents);
+  void ReceiveValue(char zByte, Events& zEvents);
+  void ReceiveNode(char zByte, Events& zEvents);
+  void ReceiveCommand(char zByte, Events& zEvents);
+  void ReceiveStoreZero(char zByte, Events& zEvents);
+  void RunCommand(char zLetter, std::string_view zOperand, Events& zEvents);
+  bool RunAddressCommand(char zLetter, std::string_view zOperand, Events& zEvents);
+  bool RunPlainCommand(char zLetter, Events& zEvents);
+  void CloseSequence(Events& zEvents);
+  bool SelectLocation(std::string_view zOperand);
+  bool SelectHighAddress(std::string_view zOperand);
+  bool WriteValue(std::string_view zOperand, Events& zEvents);
+  void AddReachedPhrases(int zSlot, Events& zEvents) const;
+  void ResetRegisters();
+  void EndPiece();
+  void Emit(Events& zEvents, ChipEvent zEvent);
+  void Abandon(ChipEventKind zKind, Events& zEvents);
+  std::string CodeWords(std::string_view zCodes) const;
+
+  CodeTable codeTable_;
+  std::array<std::uint8_t, EepromSize> eeprom_;
+  std::array<int, RegisterCount> registers_;
+  Mode mode_ = Mode::Speech;
+  std::string piece_;             ///< bytes received that belong to no event yet
+  std::size_t operandStart_ = 0;  ///< in `piece_`
+  std::optional<int> location_;   ///< selected by J
+  bool isMemory_ = false;         ///< the high part of the memory's addresses is selected, by H
+};
+
+}  // namespace loquitor
