@@ -1,0 +1,84 @@
+#include "ui/dictedit/word_import.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace loquitor {
+namespace {
+
+using namespace std::string_literals;
+
+struct Imported {
+  std::string text;
+  std::size_t count;
+  std::vector<std::string> lookups;
+};
+
+Imported Import(std::string_view zList, std::size_t zPiece = std::string_view::npos,
+                const std::set<std::string, std::less<>>& zKnown = {}) {
+  std::vector<std::string> lookups;
+  WordImport import([&](std::string_view zWord) {
+    lookups.emplace_back(zWord);
+    return zKnown.count(zWord) == 0;
+  });
+  for (std::size_t at = 0; at < zList.size(); at += std::min(zPiece, zList.size() - at)) {
+    import.Feed(zList.substr(at, zPiece));
+  }
+  import.Finish();
+  return {import.AddedText(), import.Count(), lookups};
+}
+
+TEST(WordImport, RunsOfLettersAreWordsAndAllElseStandsBetween) {
+  const struct {
+    std::string list;
+    std::string added;
+    std::size_t count;
+  } table[] = {
+      {"", "", 0},
+      {" \r\n\t123'=\\", "", 0},
+      {"Ant", "ant=\n", 1},
+      {"don't", "don=\nt=\n", 2},
+      {"a1b2c", "a=\nb=\nc=\n", 3},
+      {"one two\r\nTHREE\nfour\rfive", "one=\ntwo=\nthree=\nfour=\nfive=\n", 5},
+      {"twice Twice", "twice=\ntwice=\n", 2},
+      {"na\xEFve", "na=\nve=\n", 2},
+      {"na\xC3\xAFve", "na=\nve=\n", 2},
+      {"\xEF\xBB\xBF"
+       "first",
+       "first=\n", 1},
+      {"x\0y\x7Fz"s, "x=\ny=\nz=\n", 3},
+      {"@[`{AZaz@", "azaz=\n", 1},
+      {"word=\\OW \\RR", "word=\now=\nrr=\n", 3},
+  };
+  for (const auto& [list, added, count] : table) {
+    for (const std::size_t piece :
+         {std::size_t{1}, std::size_t{2}, std::size_t{3}, list.size() + 1}) {
+      const Imported imported = Import(list, piece);
+      EXPECT_EQ(imported.text, added) << list << " in pieces of " << piece;
+      EXPECT_EQ(imported.count, count) << list << " in pieces of " << piece;
+    }
+  }
+}
+
+TEST(WordImport, OnlyWordsThatTheDictionaryLacksAreAdded) {
+  const Imported imported = Import("The cat THE hat", 5, {"the", "hat"});
+  EXPECT_EQ(imported.text, "cat=\n");
+  EXPECT_EQ(imported.count, 1U);
+  EXPECT_EQ(imported.lookups, (std::vector<std::string>{"the", "cat", "the", "hat"}));
+}
+
+TEST(WordImport, ALineOfAMegabyteIsOneLineLikeAnyOther) {
+  const std::string longWord(1 << 20, 'Q');
+  EXPECT_EQ(Import(longWord + "\r\nx", 4096).text, std::string(1 << 20, 'q') + "=\nx=\n");
+  std::string longLine;
+  for (int i = 0; i < 200'000; ++i) {
+    longLine += "ab, ";
+  }
+  EXPECT_EQ(Import(longLine, 4096).count, 200'000U);
+}
+
+}  // namespace
+}  // namespace loquitor
