@@ -5,8 +5,9 @@
 
 namespace loquitor {
 
-/// While it lives: the hourglass pointer over the window and `zButton` (may be null) disabled.
-/// Pending events run at its beginning and at its end. Nests; safe when the window goes first.
+/// While it lives: the hourglass pointer over the window and `zButton` (may be null) disabled; the
+/// focus returns to the button afterwards if the user has not moved it. Pending events run at its
+/// beginning and at its end. Nests, also out of order; safe when the window goes first.
 class Busy {
  public:
   explicit Busy(QWidget* zWindow, QWidget* zButton = nullptr);
@@ -17,6 +18,7 @@ class Busy {
  private:
   QPointer<QWidget> window_;
   QPointer<QWidget> button_;
+  bool hadFocus_ = false;
 };
 
 }  // namespace loquitor

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QAbstractButton>
-#include <QButtonGroup>
+#include <QCheckBox>
+#include <QRadioButton>
 #include <QVector>
 
 namespace loquitor {
 
-/// A check box whose caption may wrap to several lines ("&&" shows as one "&").
-class CheckBox : public QAbstractButton {
+/// A check box whose caption may wrap to several lines ("&&" shows as one "&"). Space changes it,
+/// Enter does not.
+class CheckBox : public QCheckBox {
   Q_OBJECT
  public:
   CheckBox(const QString& zCaption, QWidget* zParent);
@@ -23,20 +24,29 @@ class CheckBox : public QAbstractButton {
  protected:
   void paintEvent(QPaintEvent* zEvent) override;
   void keyPressEvent(QKeyEvent* zEvent) override;
+  bool hitButton(const QPoint& zPosition) const override { return rect().contains(zPosition); }
 };
 
-/// An option button. Which ones exclude each other says the OptionGroup that holds them.
-class OptionButton : public QAbstractButton {
+/// An option button. Which ones exclude each other says the OptionGroup that holds them. The user
+/// can choose it but not clear it; the arrow keys go on to the other members of its group.
+class OptionButton : public QRadioButton {
   Q_OBJECT
  public:
   OptionButton(const QString& zCaption, QWidget* zParent);
 
+ signals:
+  /// An arrow key was pressed on it: 1 towards the next member, -1 towards the one before.
+  void ArrowPressed(int zStep);
+
  protected:
+  void nextCheckState() override { setChecked(true); }
   void paintEvent(QPaintEvent* zEvent) override;
   void keyPressEvent(QKeyEvent* zEvent) override;
+  bool hitButton(const QPoint& zPosition) const override { return rect().contains(zPosition); }
 };
 
-/// Option buttons of which at most one is chosen; it may start with none chosen.
+/// Option buttons of which at most one is chosen; it may start with none chosen. The Tab key stops
+/// at the chosen member alone, or at the first while none is chosen.
 class OptionGroup : public QObject {
   Q_OBJECT
  public:
@@ -62,6 +72,8 @@ class OptionGroup : public QObject {
     int index;
   };
   void OnToggled(OptionButton* zButton, int zIndex, bool zIsChosen);
+  void OnArrow(OptionButton* zButton, int zStep);
+  void UpdateTabStops();
 
   QVector<Member> members_;
 };

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QFont>
+#include <QHash>
 #include <QString>
+#include <QVector>
 #include <QWidget>
 #include <span>
 
@@ -68,6 +70,8 @@ class Form {
   QWidget* Find(const QString& zName, const QMetaObject& zClass) const;
 
   QWidget* window_;
+  QHash<QString, QWidget*> controls_;
+  QVector<QWidget*> inOrder_;
 };
 
 /// The font of the forms: the desktop's family at 8.25 points (11 logical pixels).

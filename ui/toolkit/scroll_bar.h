@@ -28,6 +28,7 @@ class ScrollBar : public QScrollBar {
 
  protected:
   void focusInEvent(QFocusEvent* zEvent) override;
+  void focusOutEvent(QFocusEvent* zEvent) override;
   void wheelEvent(QWheelEvent* zEvent) override;
   void paintEvent(QPaintEvent* zEvent) override;
 
@@ -37,7 +38,7 @@ class ScrollBar : public QScrollBar {
   void OnReleased();
 
   int valueAtPress_ = 0;
-  bool isUserDragging_ = false;
+  bool isDragStep_ = false;
 };
 
 }  // namespace loquitor

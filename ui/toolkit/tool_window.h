@@ -31,21 +31,19 @@ class ToolWindow : public QDialog {
   void Closed();
 
  protected:
-  /// The window's own steps: once before it is shown, once when it is closed however that comes
-  /// about, and each time that it becomes the active window.
+  /// The window's own steps: once before it is shown, once when it has been closed (it is hidden
+  /// then, and its owner takes input again) however that came about, and each time that it becomes
+  /// the active window.
   virtual void Load() {}
   virtual void Unload() {}
   virtual void Activate() {}
 
-  void closeEvent(QCloseEvent* zEvent) override;
   void keyPressEvent(QKeyEvent* zEvent) override;
   void changeEvent(QEvent* zEvent) override;
-  void reject() override;
   void done(int zResult) override;
 
  private:
   void LoadOnce();
-  void UnloadOnce();
 
   bool isLoaded_ = false;
   bool isUnloaded_ = false;

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+class QWidget;
+
+namespace loquitor {
+
+/// Black or white, whichever is easier to read on `zBackground`.
+QColor ReadableOn(const QColor& zBackground);
+
+/// A colour for thin lines and borders that shows on the window background of `zPalette`, light or
+/// dark, without shouting.
+QColor LineColour(const QPalette& zPalette);
+
+/// Gives `zWidget` this background in the role `zBackground`, and text in the role `zText` that is
+/// readable on it; an invalid colour gives both back to the desktop.
+void SetColours(QWidget* zWidget, QPalette::ColorRole zBackground, QPalette::ColorRole zText,
+                const QColor& zColour);
+
+}  // namespace loquitor

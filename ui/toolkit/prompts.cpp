@@ -1,0 +1,87 @@
+#include "ui/toolkit/prompts.h"
+
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <memory>
+
+#include "ui/toolkit/refusal.h"
+
+namespace loquitor {
+namespace {
+
+/// What a set of buttons stands for in a message box.
+struct BoxButtons {
+  QMessageBox::StandardButtons buttons;
+  QMessageBox::StandardButton onClose;
+};
+
+BoxButtons ButtonsOf(PromptButtons zButtons) {
+  switch (zButtons) {
+    case PromptButtons::OkCancel:
+      return {QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
+    case PromptButtons::YesNo:
+      return {QMessageBox::Yes | QMessageBox::No, QMessageBox::No};
+    case PromptButtons::YesNoCancel:
+      return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel};
+    case PromptButtons::Ok:
+      break;
+  }
+  return {QMessageBox::Ok, QMessageBox::Ok};
+}
+
+PromptAnswer AnswerOf(int zButton) {
+  switch (zButton) {
+    case QMessageBox::Ok:
+      return PromptAnswer::Ok;
+    case QMessageBox::Yes:
+      return PromptAnswer::Yes;
+    case QMessageBox::No:
+      return PromptAnswer::No;
+    default:
+      return PromptAnswer::Cancel;
+  }
+}
+
+QString WithPlainBreaks(const QString& zText) {
+  return QString(zText).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+}  // namespace
+
+PromptAnswer DesktopPrompts::Ask(QWidget* zOwner, const QString& zTitle, const QString& zText,
+                                 PromptButtons zButtons) {
+  const BoxButtons buttons = ButtonsOf(zButtons);
+  // The owner may go while the box is up, and takes the box with it.
+  const QPointer<QMessageBox> box =
+      new QMessageBox(QMessageBox::NoIcon, zTitle, WithPlainBreaks(zText), buttons.buttons, zOwner);
+  box->setTextFormat(Qt::PlainText);
+  box->setEscapeButton(buttons.onClose);
+  const int answer = box->exec();
+  if (!box) {
+    return AnswerOf(buttons.onClose);
+  }
+  delete box;
+  return AnswerOf(answer);
+}
+
+std::optional<QString> DesktopPrompts::AskText(QWidget* zOwner, const QString& zTitle,
+                                               const QString& zPrompt, const QString& zInitial) {
+  const QPointer<QInputDialog> box = new QInputDialog(zOwner);
+  box->setWindowTitle(zTitle);
+  box->setLabelText(WithPlainBreaks(zPrompt));
+  box->setTextValue(zInitial);
+  if (auto* line = box->findChild<QLineEdit*>()) {
+    line->setValidator(new CodePageValidator(line));
+    line->selectAll();
+  }
+  const bool isAccepted = box->exec() == QDialog::Accepted;
+  if (!box) {
+    return std::nullopt;
+  }
+  const std::unique_ptr<QInputDialog> owned(box);
+  return isAccepted ? std::optional(owned->textValue()) : std::nullopt;
+}
+
+}  // namespace loquitor

@@ -1,0 +1,136 @@
+#include "ui/toolkit/text_area.h"
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextBlock>
+#include <QTextCursor>
+
+#include "ui/toolkit/code_page.h"
+#include "ui/toolkit/focus_reason.h"
+#include "ui/toolkit/refusal.h"
+
+namespace loquitor {
+namespace {
+
+/// The text as it is stored: line breaks are '\n'.
+std::string StoredForm(QString zText) {
+  zText.replace(QChar::ParagraphSeparator, u'\n');
+  zText.replace(QChar::LineSeparator, u'\n');
+  return ToBytes(zText);
+}
+
+}  // namespace
+
+TextArea::TextArea(QWidget* zParent) : QPlainTextEdit(zParent) {
+  setTabChangesFocus(true);
+}
+
+std::string TextArea::Text() const {
+  return StoredForm(document()->toRawText());
+}
+
+void TextArea::SetText(std::string_view zBytes) {
+  setPlainText(ToQString(zBytes));
+}
+
+void TextArea::ReplaceText(std::string_view zBytes) {
+  QTextCursor cursor(document());
+  cursor.beginEditBlock();
+  cursor.select(QTextCursor::Document);
+  cursor.insertText(ToQString(zBytes));
+  cursor.endEditBlock();
+  moveCursor(QTextCursor::Start);
+}
+
+void TextArea::ReplaceSelection(std::string_view zBytes) {
+  QTextCursor cursor = textCursor();
+  cursor.beginEditBlock();
+  cursor.insertText(ToQString(zBytes));
+  cursor.endEditBlock();
+  setTextCursor(cursor);
+}
+
+std::string TextArea::SelectedText() const {
+  return StoredForm(textCursor().selectedText());
+}
+
+int TextArea::SelectionStart() const {
+  return textCursor().selectionStart();
+}
+
+int TextArea::SelectionLength() const {
+  const QTextCursor cursor = textCursor();
+  return cursor.selectionEnd() - cursor.selectionStart();
+}
+
+void TextArea::Select(int zStart, int zLength) {
+  const int end = document()->characterCount() - 1;
+  QTextCursor cursor = textCursor();
+  cursor.setPosition(qBound(0, zStart, end));
+  cursor.setPosition(qBound(0, zStart + zLength, end), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+}
+
+char TextArea::CharacterAfterCaret() const {
+  const int position = textCursor().position();
+  if (position >= document()->characterCount() - 1) {
+    return 0;
+  }
+  const std::string character = StoredForm(document()->characterAt(position));
+  return character.empty() ? '\0' : character.front();
+}
+
+void TextArea::MoveCaretRight() {
+  Select(textCursor().position() + 1, 0);
+}
+
+void TextArea::focusOutEvent(QFocusEvent* zEvent) {
+  QPlainTextEdit::focusOutEvent(zEvent);
+  if (IsMoveAmongControls(zEvent->reason())) {
+    emit LostFocus();
+  }
+}
+
+void TextArea::keyPressEvent(QKeyEvent* zEvent) {
+  if (zEvent->matches(QKeySequence::InsertLineSeparator)) {
+    textCursor().insertBlock();
+    ensureCursorVisible();
+    return;
+  }
+  const QString typed = zEvent->text();
+  if (!typed.isEmpty() && typed.front().isPrint() && !CanHold(typed)) {
+    ShowRefusal(this, typed);
+    return;
+  }
+  QPlainTextEdit::keyPressEvent(zEvent);
+}
+
+void TextArea::insertFromMimeData(const QMimeData* zSource) {
+  const QString text = Composed(zSource->text());
+  if (!CanHold(text)) {
+    ShowRefusal(this, text);
+    return;
+  }
+  textCursor().insertText(text);
+  ensureCursorVisible();
+}
+
+QMimeData* TextArea::createMimeDataFromSelection() const {
+  auto* copied = new QMimeData;
+  copied->setText(ToQString(SelectedText()));
+  return copied;
+}
+
+void TextArea::inputMethodEvent(QInputMethodEvent* zEvent) {
+  if (CanHold(zEvent->commitString())) {
+    QPlainTextEdit::inputMethodEvent(zEvent);
+    return;
+  }
+  ShowRefusal(this, zEvent->commitString());
+  QInputMethodEvent withoutCommit;
+  QPlainTextEdit::inputMethodEvent(&withoutCommit);
+}
+
+}  // namespace loquitor
