@@ -1,0 +1,106 @@
+#include "link/qt/qt_serial_port.h"
+
+#include <QFile>
+#include <utility>
+
+namespace loquitor {
+
+namespace {
+
+constexpr int QueueLimit = 16;  // bytes that may precede a stop sequence
+
+}  // namespace
+
+QtSerialPort::QtSerialPort() {
+  QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
+                   [this](QSerialPort::SerialPortError zError) { OnError(zError); });
+  // Nothing that arrives is ever read; it must not pile up either.
+  QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { DiscardReceived(); });
+}
+
+QtSerialPort::~QtSerialPort() {
+  Close();
+}
+
+bool QtSerialPort::Open(const SerialPortSettings& zSettings) {
+  Close();
+  const auto baudRate = BaudRateOf(zSettings.baudRate);
+  const QString device =
+      ResolveDevice(QFile::decodeName(QByteArray::fromStdString(zSettings.device)));
+  isOpen_ = baudRate && !device.isEmpty() && lock_.Take(device) &&
+            OpenConfigured(device, *baudRate, zSettings.hardwareHandshaking);
+  if (!isOpen_) {
+    lock_.Release();
+  }
+  return isOpen_;
+}
+
+bool QtSerialPort::OpenConfigured(const QString& zDevice, std::int32_t zBaudRate,
+                                  bool zHardwareHandshaking) {
+  port_.setPortName(zDevice);
+  // Set before opening, so that the line never runs with other settings.
+  const bool isConfigured = port_.setBaudRate(zBaudRate) && port_.setDataBits(QSerialPort::Data8) &&
+                            port_.setParity(QSerialPort::NoParity) &&
+                            port_.setStopBits(QSerialPort::OneStop) &&
+                            port_.setFlowControl(zHardwareHandshaking ? QSerialPort::HardwareControl
+                                                                      : QSerialPort::NoFlowControl);
+  return isConfigured && port_.open(QIODevice::ReadWrite);
+}
+
+void QtSerialPort::Close() {
+  isOpen_ = false;
+  hasFailed_ = false;
+  if (port_.isOpen()) {
+    static_cast<void>(port_.clear(QSerialPort::Output));  // a failed port may refuse
+    DiscardSystemQueue(port_);
+    port_.close();
+  }
+  lock_.Release();
+}
+
+void QtSerialPort::DiscardReceived() {
+  if (isOpen_) {
+    static_cast<void>(port_.readAll());
+  }
+}
+
+bool QtSerialPort::IsReadyForByte() const {
+  return isOpen_ && port_.bytesToWrite() == 0 && BytesInSystemQueue(port_) < QueueLimit &&
+         TakesByteNow(port_);
+}
+
+bool QtSerialPort::WriteByte(std::uint8_t zByte) {
+  const char byte = static_cast<char>(zByte);
+  if (!isOpen_ || port_.write(&byte, 1) != 1) {
+    return false;
+  }
+  static_cast<void>(port_.flush());  // false also when there was nothing to do; errors are latched
+  return isOpen_;
+}
+
+void QtSerialPort::SetFailureHandler(std::function<void()> zHandler) {
+  failureHandler_ = std::move(zHandler);
+}
+
+void QtSerialPort::OnError(QSerialPort::SerialPortError zError) {
+  if (!isOpen_ || zError == QSerialPort::NoError) {
+    return;
+  }
+  isOpen_ = false;
+  hasFailed_ = true;
+  // Closing within the port's own signal would pull the ground from under it.
+  QMetaObject::invokeMethod(
+      &port_, [this] { FinishFailure(); }, Qt::QueuedConnection);
+}
+
+void QtSerialPort::FinishFailure() {
+  if (!hasFailed_) {
+    return;  // closed or opened again meanwhile
+  }
+  Close();
+  if (failureHandler_) {
+    failureHandler_();
+  }
+}
+
+}  // namespace loquitor

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QSerialPort>
+
+#include "link/qt/serial_line.h"
+#include "link/serial_port.h"
+
+namespace loquitor {
+
+/// A serial port of the machine. Needs a QCoreApplication; failures are noticed while its event
+/// loop runs, also when nothing is being sent.
+class QtSerialPort : public SerialPort {
+ public:
+  QtSerialPort();
+  ~QtSerialPort() override;
+
+  /// `zSettings.device`: the name or path of a serial device or pseudo-terminal, symbolic links
+  /// included, as the file system spells it.
+  bool Open(const SerialPortSettings& zSettings) override;
+  void Close() override;
+  bool IsOpen() const override { return isOpen_; }
+  void DiscardReceived() override;
+  bool IsReadyForByte() const override;
+
+  /// The byte is in the hands of the operating system when this returns true.
+  bool WriteByte(std::uint8_t zByte) override;
+
+  void SetFailureHandler(std::function<void()> zHandler) override;
+
+ private:
+  bool OpenConfigured(const QString& zDevice, std::int32_t zBaudRate, bool zHardwareHandshaking);
+  void OnError(QSerialPort::SerialPortError zError);
+  void FinishFailure();
+
+  QSerialPort port_;
+  LineLock lock_;
+  std::function<void()> failureHandler_;
+  bool isOpen_ = false;
+  bool hasFailed_ = false;  // failed, but the layer below is not closed yet
+};
+
+}  // namespace loquitor

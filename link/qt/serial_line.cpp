@@ -1,0 +1,94 @@
+#include "link/qt/serial_line.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <termios.h>
+#include <unistd.h>
+#endif
+
+namespace loquitor {
+
+#ifdef Q_OS_WIN
+
+QString ResolveDevice(const QString& zDevice) {
+  return zDevice;
+}
+
+int BytesInSystemQueue(const QSerialPort& zPort) {
+  COMSTAT status{};
+  DWORD errors = 0;
+  return ClearCommError(zPort.handle(), &errors, &status) ? static_cast<int>(status.cbOutQue) : 0;
+}
+
+bool TakesByteNow(const QSerialPort&) {
+  return true;
+}
+
+void DiscardSystemQueue(const QSerialPort& zPort) {
+  static_cast<void>(PurgeComm(zPort.handle(), PURGE_TXABORT | PURGE_TXCLEAR));  // closing anyway
+}
+
+bool LineLock::Take(const QString&) {
+  return true;
+}
+
+void LineLock::Release() {}
+
+#else
+
+QString ResolveDevice(const QString& zDevice) {
+  const QString path = QFileInfo(zDevice).canonicalFilePath();
+  struct stat status {};
+  const bool isDevice = !path.isEmpty() &&
+                        ::stat(QFile::encodeName(path).constData(), &status) == 0 &&
+                        S_ISCHR(status.st_mode);
+  return isDevice ? path : QString();
+}
+
+int BytesInSystemQueue(const QSerialPort& zPort) {
+  int count = 0;
+  return ::ioctl(zPort.handle(), TIOCOUTQ, &count) == 0 ? count : 0;
+}
+
+bool TakesByteNow(const QSerialPort& zPort) {
+  pollfd line{.fd = zPort.handle(), .events = POLLOUT, .revents = 0};
+  return ::poll(&line, 1, 0) > 0;  // a line that has hung up counts: the write then tells
+}
+
+void DiscardSystemQueue(const QSerialPort& zPort) {
+  static_cast<void>(::tcflush(zPort.handle(), TCOFLUSH));  // a line that has hung up holds nothing
+}
+
+bool LineLock::Take(const QString& zDevice) {
+  Release();
+  descriptor_ =
+      ::open(QFile::encodeName(zDevice).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+  if (descriptor_ < 0) {
+    return false;
+  }
+  if (::isatty(descriptor_) == 0 || ::flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+    Release();
+    return false;
+  }
+  return true;
+}
+
+void LineLock::Release() {
+  if (descriptor_ >= 0) {
+    static_cast<void>(::close(descriptor_));  // nothing was written through it
+    descriptor_ = -1;
+  }
+}
+
+#endif
+
+}  // namespace loquitor

@@ -1,0 +1,212 @@
+#include "link/qt/qt_serial_port.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTest>
+#include <filesystem>
+#include <memory>
+
+#include "tests/support/pseudo_terminal.h"
+#include "tests/support/temp_folder.h"
+
+namespace loquitor {
+namespace {
+
+using testing::PseudoTerminal;
+using testing::TempFolder;
+using testing::WriteBytes;
+
+class QtSerialPortTest : public ::testing::Test {
+ protected:
+  QtSerialPortTest() {
+    port.SetFailureHandler([this] { ++failures; });
+  }
+
+  bool Open(const std::string& zDevice, const std::string& zBaudRate = "9600",
+            bool zHandshaking = false) {
+    return port.Open({zDevice, zBaudRate, zHandshaking});
+  }
+  bool Open() { return Open(terminal.Path()); }
+
+  /// Writes until the line takes no more. Returns how many bytes went.
+  std::size_t FillLine() {
+    std::size_t count = 0;
+    while (port.IsReadyForByte() && port.WriteByte('x')) {
+      ++count;
+    }
+    return count;
+  }
+
+  PseudoTerminal terminal;
+  TempFolder folder;
+  QtSerialPort port;
+  int failures = 0;
+};
+
+TEST_F(QtSerialPortTest, WrittenBytesAreOnTheLineAtOnce) {
+  ASSERT_TRUE(Open());
+  std::string all;
+  for (int code = 0; code < 256; ++code) {
+    all.push_back(static_cast<char>(code));
+    ASSERT_TRUE(port.IsReadyForByte());
+    ASSERT_TRUE(port.WriteByte(static_cast<std::uint8_t>(code)));
+  }
+  EXPECT_EQ(terminal.Received(), all);
+}
+
+TEST_F(QtSerialPortTest, WhatIsNoUsableDeviceIsRefused) {
+  WriteBytes(folder / "regular", "text");
+  std::filesystem::create_symlink(folder / "nowhere", folder / "dangling");
+  std::filesystem::create_symlink("loop", folder / "loop");
+  const std::string devices[] = {"",
+                                 "/",
+                                 folder.Path().string(),
+                                 (folder / "regular").string(),
+                                 (folder / "missing").string(),
+                                 (folder / "dangling").string(),
+                                 (folder / "loop").string(),
+                                 "/dev/null",
+                                 std::string("/dev/nul\0l", 10),
+                                 std::string(5000, 'x')};
+  for (const std::string& device : devices) {
+    EXPECT_FALSE(Open(device)) << device;
+    EXPECT_FALSE(port.IsOpen()) << device;
+    EXPECT_FALSE(port.IsReadyForByte()) << device;
+    EXPECT_FALSE(port.WriteByte(1)) << device;
+  }
+  EXPECT_TRUE(Open());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(failures, 0);
+}
+
+TEST_F(QtSerialPortTest, SpeedAndHandshakingReachTheLine) {
+  const struct {
+    const char* baudRate;
+    bool handshaking;
+    bool opens;
+    speed_t speed;
+  } cases[] = {{"2400", false, true, B2400},     {"4800", true, true, B4800},
+               {"9600", true, true, B9600},      {"19200", false, true, B19200},
+               {"0", false, false, B0},          {"-9600", false, false, B0},
+               {"9600 baud", false, false, B0},  {"", false, false, B0},
+               {"99999999999", false, false, B0}};
+  for (const auto& one : cases) {
+    ASSERT_EQ(Open(terminal.Path(), one.baudRate, one.handshaking), one.opens) << one.baudRate;
+    if (one.opens) {
+      const termios settings = terminal.Settings();
+      EXPECT_EQ(::cfgetospeed(&settings), one.speed) << one.baudRate;
+      EXPECT_EQ((settings.c_cflag & CRTSCTS) != 0, one.handshaking) << one.baudRate;
+      EXPECT_EQ(settings.c_cflag & (CSIZE | PARENB | CSTOPB), unsigned{CS8}) << one.baudRate;
+    }
+  }
+}
+
+TEST_F(QtSerialPortTest, OpensThroughASymbolicLink) {
+  std::filesystem::create_symlink(terminal.Path(), folder / "virtual port");
+  std::filesystem::create_symlink("virtual port", folder / "again");
+  ASSERT_TRUE(Open((folder / "again").string()));
+  EXPECT_TRUE(port.WriteByte('A'));
+  EXPECT_EQ(terminal.Received(), "A");
+}
+
+TEST_F(QtSerialPortTest, APortInUseIsRefusedAndKeepsItsSettings) {
+  ASSERT_TRUE(Open(terminal.Path(), "19200", true));
+  QtSerialPort second;
+  EXPECT_FALSE(second.Open({terminal.Path(), "2400", false}));
+  const termios settings = terminal.Settings();
+  EXPECT_EQ(::cfgetospeed(&settings), B19200);
+  EXPECT_NE(settings.c_cflag & CRTSCTS, 0u);
+  EXPECT_TRUE(port.WriteByte('A'));
+  EXPECT_EQ(terminal.Received(), "A");
+
+  port.Close();
+  EXPECT_TRUE(second.Open({terminal.Path(), "2400", false}));
+}
+
+TEST_F(QtSerialPortTest, AnswersAreThrownAway) {
+  ASSERT_TRUE(Open());
+  terminal.Answer("answer");
+  QTest::qWait(20);
+  port.DiscardReceived();
+  EXPECT_TRUE(port.IsOpen());
+  EXPECT_EQ(terminal.Received(), "");  // no echo
+}
+
+TEST_F(QtSerialPortTest, AHeldBackLineNeitherBlocksNorFails) {
+  ASSERT_TRUE(Open());
+  const std::size_t count = FillLine();
+  EXPECT_GT(count, 100u);
+  QTest::qWait(20);
+  EXPECT_FALSE(port.IsReadyForByte());
+  EXPECT_TRUE(port.IsOpen());
+  EXPECT_EQ(terminal.Received(), std::string(count, 'x'));
+
+  ASSERT_TRUE(QTest::qWaitFor([this] { return port.IsReadyForByte(); }));
+  EXPECT_TRUE(port.WriteByte('y'));
+  EXPECT_EQ(terminal.Received(), "y");
+  EXPECT_EQ(failures, 0);
+}
+
+TEST_F(QtSerialPortTest, ClosingAHeldBackLineReturnsAndItOpensAgain) {
+  ASSERT_TRUE(Open());
+  FillLine();
+  QElapsedTimer timer;
+  timer.start();
+  port.Close();
+  EXPECT_LT(timer.elapsed(), 5000);  // a blocked close takes the system's 30 seconds
+  EXPECT_FALSE(port.IsOpen());
+  port.Close();
+  EXPECT_TRUE(Open());
+}
+
+TEST_F(QtSerialPortTest, AHangUpIsToldOnceWhileIdle) {
+  ASSERT_TRUE(Open());
+  terminal.HangUp();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return failures > 0; }));
+  QTest::qWait(50);
+  EXPECT_EQ(failures, 1);
+  EXPECT_FALSE(port.IsOpen());
+  EXPECT_FALSE(port.WriteByte('A'));
+  EXPECT_FALSE(Open());
+
+  PseudoTerminal another;
+  EXPECT_TRUE(Open(another.Path()));
+}
+
+TEST_F(QtSerialPortTest, AHangUpFailsTheNextByteAndIsToldOnce) {
+  ASSERT_TRUE(Open());
+  terminal.HangUp();
+  EXPECT_TRUE(port.IsReadyForByte());  // so that a sender goes on to write, and learns
+  EXPECT_FALSE(port.WriteByte('A'));
+  EXPECT_FALSE(port.IsOpen());
+  EXPECT_EQ(failures, 0);  // not from within a call
+  QTest::qWait(50);
+  EXPECT_EQ(failures, 1);
+}
+
+TEST_F(QtSerialPortTest, AFailureThatWasClosedOrReplacedIsNotTold) {
+  ASSERT_TRUE(Open());
+  terminal.HangUp();
+  EXPECT_FALSE(port.WriteByte('A'));
+  PseudoTerminal another;
+  ASSERT_TRUE(Open(another.Path()));
+  QTest::qWait(20);
+  EXPECT_TRUE(port.IsOpen());
+  EXPECT_EQ(failures, 0);
+}
+
+TEST_F(QtSerialPortTest, AfterAHangUpTheEventLoopRests) {
+  ASSERT_TRUE(Open());
+  FillLine();  // the layer below still wants to write
+  terminal.HangUp();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return failures > 0; }));
+  const std::clock_t before = std::clock();
+  QTest::qWait(200);
+  EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 10);
+}
+
+}  // namespace
+}  // namespace loquitor

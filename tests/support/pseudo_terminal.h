@@ -1,0 +1,72 @@
+#pragma once
+
+#include <fcntl.h>
+#include <poll.h>
+#include <stdlib.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <array>
+#include <stdexcept>
+#include <string>
+
+namespace loquitor::testing {
+
+/// A pseudo-terminal whose far end plays the chip.
+class PseudoTerminal {
+ public:
+  PseudoTerminal() : chip_(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {
+    std::array<char, 100> name{};
+    if (chip_ < 0 || ::grantpt(chip_) != 0 || ::unlockpt(chip_) != 0 ||
+        ::ptsname_r(chip_, name.data(), name.size()) != 0) {
+      throw std::runtime_error("no pseudo-terminal");
+    }
+    path_ = name.data();
+  }
+  ~PseudoTerminal() { HangUp(); }
+  PseudoTerminal(const PseudoTerminal&) = delete;
+  PseudoTerminal& operator=(const PseudoTerminal&) = delete;
+
+  const std::string& Path() const { return path_; }
+
+  /// What has arrived at the chip since the last call.
+  std::string Received() {
+    std::string bytes;
+    std::array<char, 4096> chunk{};
+    ssize_t count = 0;
+    while ((count = ::read(chip_, chunk.data(), chunk.size())) > 0) {
+      bytes.append(chunk.data(), static_cast<std::size_t>(count));
+    }
+    return bytes;
+  }
+
+  /// The chip answers.
+  void Answer(const std::string& zBytes) {
+    if (::write(chip_, zBytes.data(), zBytes.size()) != static_cast<ssize_t>(zBytes.size())) {
+      throw std::runtime_error("the chip cannot answer");
+    }
+  }
+
+  /// The settings that the program has given to its end.
+  termios Settings() const {
+    termios settings{};
+    if (::tcgetattr(chip_, &settings) != 0) {
+      throw std::runtime_error("no settings");
+    }
+    return settings;
+  }
+
+  /// The adapter is unplugged.
+  void HangUp() {
+    if (chip_ >= 0) {
+      ::close(chip_);
+      chip_ = -1;
+    }
+  }
+
+ private:
+  int chip_ = -1;
+  std::string path_;
+};
+
+}  // namespace loquitor::testing
