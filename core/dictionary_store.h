@@ -6,6 +6,8 @@
 
 namespace loquitor {
 
+class ProfileIndex;
+
 /// The pronunciation dictionary (Loquitor.Dic) in the program's folder, read and written a word at
 /// a time. Never stale: each call proves what it knows against the file. Texts are Windows-1252
 /// bytes.
@@ -17,7 +19,7 @@ class DictionaryStore {
   explicit DictionaryStore(std::filesystem::path zFolder);
 
   /// The entry of `zWord` (any letter case), at most 2559 bytes, without blanks around it or
-  /// trailing NULs; `zDefault`, trimmed likewise, when the file, the section or the word is
+  /// trailing NULs; `zDefault`, cut and trimmed likewise, when the file, the section or the word is
   /// missing. An entry that is present and empty gives the empty text.
   std::string GetDictionaryValue(std::string_view zSection, std::string_view zWord,
                                  std::string_view zDefault) const;
@@ -27,11 +29,15 @@ class DictionaryStore {
   bool SaveDictionaryValue(std::string_view zSection, std::string_view zWord,
                            std::string_view zValue) const;
 
+  /// GetDictionaryValue for `zIndex`, the dictionary file as a caller has it at hand; the empty
+  /// text for a missing word. The view lives as long as the index.
+  static std::string_view EntryIn(const ProfileIndex& zIndex, std::string_view zWord);
+
   /// The path of the dictionary file.
-  std::filesystem::path File() const;
+  const std::filesystem::path& File() const { return file_; }
 
  private:
-  std::filesystem::path folder_;
+  std::filesystem::path file_;
 };
 
 }  // namespace loquitor

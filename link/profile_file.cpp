@@ -1,0 +1,57 @@
+#include "link/profile_file.h"
+
+#include <array>
+#include <utility>
+
+#include "link/fresh_profile.h"
+#include "link/platform_files.h"
+#include "link/profile_edit.h"
+
+namespace loquitor {
+namespace {
+
+/// Changes the file, whose folder is locked. It must exist and be readable, or not exist at all.
+bool Store(const std::filesystem::path& zFile, FolderLock::State zLock, std::string_view zSection,
+           std::string_view zKey, std::string_view zValue) {
+  const auto old = LoadFile(zFile);
+  std::error_code error;
+  if (!old &&
+      std::filesystem::status(zFile, error).type() != std::filesystem::file_type::not_found) {
+    return false;
+  }
+  const std::string_view text = old ? old->View() : std::string_view();
+  const auto edit = EditForValue(text, zSection, zKey, zValue);
+  if (!edit) {
+    return false;
+  }
+  if (old && edit->begin == edit->end && edit->replacement.empty()) {
+    return true;
+  }
+  const std::array<std::string_view, 3> pieces{text.substr(0, edit->begin), edit->replacement,
+                                               text.substr(edit->end)};
+  return SwapFile(zFile, pieces, zLock);
+}
+
+}  // namespace
+
+std::string ReadProfileValue(std::string_view zSection, std::string_view zKey,
+                             std::string_view zDefault, std::size_t zBufferLength,
+                             const std::filesystem::path& zFile) {
+  const std::size_t most = zBufferLength == 0 ? 0 : zBufferLength - 1;
+  const auto index = FreshIndexOf(zFile);
+  const auto value = index ? index->Find(zSection, zKey) : std::nullopt;
+  return std::string(value.value_or(zDefault).substr(0, most));
+}
+
+bool WriteProfileValue(std::string_view zSection, std::string_view zKey, std::string_view zValue,
+                       const std::filesystem::path& zFile) {
+  const auto file = FollowLinks(zFile);
+  if (!file) {
+    return false;
+  }
+  const FolderLock lock(file->parent_path());
+  return lock.Result() != FolderLock::State::TimedOut &&
+         Store(*file, lock.Result(), zSection, zKey, zValue);
+}
+
+}  // namespace loquitor
