@@ -395,15 +395,14 @@ std::string VirtualChip::Describe(const ChipEvent& zEvent) const {
   const std::string value = std::to_string(zEvent.value);
   switch (zEvent.kind) {
     case ChipEventKind::Code:
+      return "code " + CodeWords(zEvent.bytes);
     case ChipEventKind::ControlCode:
-      return CodeWords(zEvent.bytes);
+      return "control " + CodeWords(zEvent.bytes);
     case ChipEventKind::Play:
     case ChipEventKind::Call:
-      return CodeWords(zEvent.bytes) + ": " +
-             (zEvent.codes.empty() ? "empty" : CodeWords(zEvent.codes));
+      return "control " + CodeWords(zEvent.bytes) + ": " + PhraseWords(zEvent.codes);
     case ChipEventKind::StoredPhrase:
-      return "  phrase " + value + ": " +
-             (zEvent.codes.empty() ? "empty" : CodeWords(zEvent.codes));
+      return "  phrase " + value + ": " + PhraseWords(zEvent.codes);
     case ChipEventKind::Reset:
       return "SCP reset";
     case ChipEventKind::Test:
@@ -417,13 +416,17 @@ std::string VirtualChip::Describe(const ChipEvent& zEvent) const {
       return "SCP register write: register " + std::to_string(zEvent.number) + " = " + value +
              " (" + RegisterName(zEvent.number) + ")";
     case ChipEventKind::Sync:
-      return "85 U (sync character)";
+      return "sync character U";
     case ChipEventKind::Unknown:
       return "unknown: " + ByteWords(zEvent.bytes);
     case ChipEventKind::Incomplete:
       return "incomplete: " + ByteWords(zEvent.bytes);
   }
   return {};
+}
+
+std::string VirtualChip::PhraseWords(std::string_view zCodes) const {
+  return zCodes.empty() ? "empty" : CodeWords(zCodes);
 }
 
 /// Codes by number and mnemonic, each with its value byte if it takes one.

@@ -94,6 +94,7 @@ class VirtualChip {
   void EndPiece();
   void Emit(Events& zEvents, ChipEvent zEvent);
   void Abandon(ChipEventKind zKind, Events& zEvents);
+  std::string PhraseWords(std::string_view zCodes) const;
   std::string CodeWords(std::string_view zCodes) const;
 
   CodeTable codeTable_;

@@ -1,0 +1,204 @@
+#include "sim/virtual_chip.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "link/scp.h"
+
+namespace loquitor {
+namespace {
+
+using namespace std::string_literals;
+using Kind = ChipEventKind;
+
+std::string Lines(VirtualChip& zChip, std::string_view zBytes) {
+  std::string lines;
+  for (const ChipEvent& event : zChip.Receive(zBytes)) {
+    lines += zChip.Describe(event) + "\n";
+  }
+  return lines;
+}
+
+/// Stores `zCodes` as the phrase of `zSlot`, from `zStart` on.
+void Store(VirtualChip& zChip, int zSlot, int zStart, std::string_view zCodes) {
+  std::string write = MemoryWriteGroup(zSlot, static_cast<std::uint8_t>(zStart));
+  for (const char code : std::string(zCodes) + "\xff") {
+    write += MemoryWriteGroup(zStart++, static_cast<std::uint8_t>(code));
+  }
+  zChip.Receive(write + std::string(scp::Test));
+}
+
+struct LineRow {
+  std::string bytes;
+  std::string lines;
+};
+
+TEST(VirtualChipTest, SaysWhatTheBytesMean) {
+  const LineRow rows[] = {
+      {"", ""},
+      {"\xb7\x83\x80"s, "code 183 \\HE\ncode 131 \\EH\ncode 128 \\IY\n"},
+      {"\x00\x10\x1f\xfe"s, "code 0 \\P0\ncode 16 \\WAIT\ncode 31 \\RESET\ncode 254 \\M2\n"},
+      {"\x16\x64\x14\x00\x1e\xff"s,
+       "control 22 \\PITCH 100\ncontrol 20 \\VOLUME 0\ncontrol 30 \\DELAY 255\n"},
+      {"\x16\\\x80"s, "control 22 \\PITCH 92\ncode 128 \\IY\n"},  // any byte can be a value
+      {"\x17U\xff\x09 A"s,
+       "control 23 \\BEND 85\nunknown: FF  .\nunknown: 09  .\nunknown: 20   \nunknown: 41  A\n"},
+      {"\x1d\x05\x1c\x14"s, "control 29 \\PLAY 5: empty\ncontrol 28 \\CALL 20: empty\n"},
+      {std::string(scp::SyncCharacter), "sync character U\n"},
+      {std::string(scp::Reset), "SCP reset\n"},
+      {StopSequence(), "SCP reset\ncode 31 \\RESET\ncode 0 \\P0\n"},
+      {ConnectionTest(), "code 31 \\RESET\nSCP test\n"},
+      {MemoryWriteGroup(3, 255) + std::string(scp::Test),
+       "SCP memory write: location 3 = 255 (start of phrase 3)\nSCP test\n"},
+      {MemoryWriteGroup(240, 0xD0) + MemoryWriteGroup(255, 7),
+       "SCP memory write: location 240 = 208 (input 0 goes high)\n"
+       "SCP memory write: location 255 = 7 (input 7 goes low)\n"},
+      {MemoryWriteGroup(237, 1) + MemoryWriteGroup(234, 2) + MemoryWriteGroup(0, 16),
+       "SCP memory write: location 237 = 1 (power up and reset)\n"
+       "SCP memory write: location 234 = 2 (phrases)\n"
+       "SCP memory write: location 0 = 16 (start of phrase 0)\n"},
+      {RegisterWrite(7, 96) + RegisterWrite(12, 20) + RegisterWrite(1, 3999) + RegisterWrite(0, 0),
+       "SCP register write: register 7 = 96 (master volume)\n"
+       "SCP register write: register 12 = 20 (volume of oscillator 2)\n"
+       "SCP register write: register 1 = 3999 (frequency of oscillator 1)\n"
+       "SCP register write: register 0 = 0 (envelope frequency)\n"},
+      {RegisterWrite(8, -5), "SCP register write: register 8 = -5 (envelope control)\n"},
+      {std::string(scp::StoreConfiguration) + std::string(scp::Test),
+       "SCP store configuration\nSCP test\n"},
+      // The detune write has no X; what follows is understood all the same.
+      {MemoryWriteGroup(235, 255) + "U",
+       "SCP memory write: location 235 = 255 (clock detune)\nsync character U\n"},
+      {MemoryWriteGroup(235, 16) + "\x80\x41",
+       "SCP memory write: location 235 = 16 (clock detune)\ncode 128 \\IY\nunknown: 41  A\n"},
+      {MemoryWriteGroup(235, 16) + RegisterWrite(6, 1),
+       "SCP memory write: location 235 = 16 (clock detune)\n"
+       "SCP register write: register 6 = 1 (distortion)\n"},
+  };
+  for (const LineRow& row : rows) {
+    VirtualChip chip;
+    EXPECT_EQ(Lines(chip, row.bytes), row.lines) << ::testing::PrintToString(row.bytes);
+    EXPECT_EQ(chip.Pending(), std::nullopt) << ::testing::PrintToString(row.bytes);
+  }
+}
+
+TEST(VirtualChipTest, ShowsWhatFitsNoGrammar) {
+  const LineRow rows[] = {
+      {"\\5RX", "unknown: 5C  \\\nunknown: 35  5\nunknown: 52  R\nunknown: 58  X\n"},
+      {"\\0X\x80", "unknown: 5C 30 58  \\0X\ncode 128 \\IY\n"},
+      {"\\0QX\x80", "unknown: 5C 30 51  \\0Q\ncode 128 \\IY\n"},
+      {"\\003J32H00NX",
+       "unknown: 5C 30 30 33 4A  \\003J\nunknown: 33 32 48  32H\n"
+       "unknown: 30 30 4E  00N\n"},                               // a leading zero
+      {"\\0256J", "unknown: 5C 30 32 35 36 4A  \\0256J\n"},       // no such location
+      {"\\03J31H", "unknown: 5C 30 33 4A 33 31 48  \\03J31H\n"},  // another address
+      {"\\03J32HfFN", "unknown: 5C 30 33 4A 33 32 48 66  \\03J32Hf\nunknown: 46 4E  FN\n"},
+      {"\\03J32H1FFN", "unknown: 5C 30 33 4A 33 32 48 31 46 46 4E  \\03J32H1FFN\n"},
+      {"\\07J96NX", "unknown: 5C 30 37 4A 39 36 4E  \\07J96N\n"},  // no sign place
+      {"\\07J  6NX", "unknown: 5C 30 37 4A 20 20 36 4E  \\07J  6N\n"},
+      {"\\016J 1NX", "unknown: 5C 30 31 36 4A 20 31 4E  \\016J 1N\n"},  // no such register
+      {"\\01J2J", "unknown: 5C 30 31 4A 32 4A  \\01J2J\n"},
+      {"\\01JRX", "unknown: 5C 30 31 4A 52  \\01JR\n"},
+      {"\\05X", "unknown: 5C 30 35 58  \\05X\n"},
+      {"\\0123456789", "unknown: 5C 30 31 32 33 34 35 36 37 38 39  \\0123456789\n"},
+      {"\\024\\0RX", "incomplete: 5C 30 32 34  \\024\nSCP reset\n"},  // a write cut by Shut Up
+      {"\\\\0RX", "incomplete: 5C  \\\nSCP reset\n"},
+      {"\\0W\0\0\\0RX"s, "incomplete: 5C 30 57 00 00  \\0W..\nSCP reset\n"},
+      {"\\0W\x05\x80"s, "incomplete: 5C 30 57  \\0W\ncode 5 \\P5\ncode 128 \\IY\n"},
+  };
+  for (const LineRow& row : rows) {
+    VirtualChip chip;
+    EXPECT_EQ(Lines(chip, row.bytes), row.lines) << ::testing::PrintToString(row.bytes);
+  }
+}
+
+TEST(VirtualChipTest, KeepsWhatIsWrittenAndNothingElse) {
+  VirtualChip chip;
+  EXPECT_EQ(chip.Eeprom(0), 255);
+  EXPECT_EQ(chip.Register(0), 88);
+  EXPECT_EQ(chip.Register(7), 96);
+  chip.Receive(MemoryWriteGroup(0, 16) + MemoryWriteGroup(255, 1) + RegisterWrite(15, 31) +
+               RegisterWrite(7, 127) + "\\01J32H00\\02J 5");
+  EXPECT_EQ(chip.Eeprom(0), 16);
+  EXPECT_EQ(chip.Eeprom(255), 1);
+  EXPECT_EQ(chip.Eeprom(1), 255);
+  EXPECT_EQ(chip.Register(15), 31);
+  EXPECT_EQ(chip.Register(2), 0);
+  EXPECT_EQ(chip.Register(7), 127);
+  chip.Receive(scp::Reset);
+  EXPECT_EQ(chip.Register(15), 0);
+  EXPECT_EQ(chip.Register(7), 96);
+  EXPECT_EQ(chip.Eeprom(0), 16);
+}
+
+TEST(VirtualChipTest, PlaysStoredPhrasesAndTheOnesTheyCall) {
+  VirtualChip chip;
+  Store(chip, 3, 16, "\x80\x83");
+  Store(chip, 4, 30, "\x1c\x03\x16\x1c\x1d\x04\x1c\x05");  // pitch 28 is no call; 4 plays itself
+  Store(chip, 5, 50, "\x1c\x04\x1c\x03");
+  EXPECT_EQ(chip.StoredPhrase(3), "\x80\x83");
+  EXPECT_EQ(Lines(chip, "\x1d\x03"), "control 29 \\PLAY 3: 128 \\IY, 131 \\EH\n");
+  EXPECT_EQ(Lines(chip, "\x1c\x04"),
+            "control 28 \\CALL 4: 28 \\CALL 3, 22 \\PITCH 28, 29 \\PLAY 4, 28 \\CALL 5\n"
+            "  phrase 3: 128 \\IY, 131 \\EH\n"
+            "  phrase 5: 28 \\CALL 4, 28 \\CALL 3\n");
+}
+
+TEST(VirtualChipTest, StoredPhrasesEndWithTheirArea) {
+  struct Row {
+    int start;
+    std::size_t length;
+  };
+  for (const Row& row : {Row{255, 0}, Row{235, 0}, Row{234, 1}, Row{230, 5}}) {
+    VirtualChip chip;
+    std::string write = MemoryWriteGroup(0, static_cast<std::uint8_t>(row.start));
+    for (int location = 1; location < 256; ++location) {
+      write += MemoryWriteGroup(location, 128);
+    }
+    chip.Receive(write);
+    EXPECT_EQ(chip.StoredPhrase(0), std::string(row.length, '\x80')) << row.start;
+  }
+  EXPECT_EQ(VirtualChip().StoredPhrase(-1) + VirtualChip().StoredPhrase(16), "");
+}
+
+TEST(VirtualChipTest, ShowsWhatIsNotCompleteWithoutGivingItUp) {
+  VirtualChip chip;
+  EXPECT_TRUE(chip.Receive("\x16").empty());
+  EXPECT_EQ(chip.Describe(chip.Pending().value()), "incomplete: 16  .");
+  EXPECT_EQ(Lines(chip, "\x05\\07J 9"), "control 22 \\PITCH 5\n");
+  EXPECT_EQ(chip.Describe(chip.Pending().value()), "incomplete: 5C 30 37 4A 20 39  \\07J 9");
+  EXPECT_EQ(Lines(chip, "6NX"), "SCP register write: register 7 = 96 (master volume)\n");
+}
+
+TEST(VirtualChipTest, AnyBytesGiveTheSameEventsInAnyPortionsAndNoneIsLost) {
+  const std::string likely = "\\0123JHNRVWX U-AF\x16\x1d\x1c\x80"s + '\0';
+  std::mt19937 random(7);
+  for (int round = 0; round < 300; ++round) {
+    std::string bytes;
+    for (int i = 0; i < 200; ++i) {
+      const bool isLikely = random() % 8 != 0;
+      bytes += isLikely ? likely[random() % likely.size()] : static_cast<char>(random() % 256);
+    }
+    VirtualChip whole;
+    VirtualChip portions;
+    const std::vector<ChipEvent> expected = whole.Receive(bytes);
+    std::vector<ChipEvent> events;
+    std::string shown;
+    for (const char byte : bytes) {
+      for (ChipEvent& event : portions.Receive({&byte, 1})) {
+        shown += event.bytes;
+        EXPECT_NE(portions.Describe(event), "");
+        events.push_back(std::move(event));
+      }
+    }
+    ASSERT_EQ(events, expected) << ::testing::PrintToString(bytes);
+    shown += portions.Pending() ? portions.Pending()->bytes : "";
+    // Only an X that ends a sequence belongs to no event.
+    std::erase(shown, 'X');
+    std::erase(bytes, 'X');
+    ASSERT_EQ(shown, bytes);
+  }
+}
+
+}  // namespace
+}  // namespace loquitor
