@@ -1,0 +1,62 @@
+// Profile files: reading and writing against a plain reference. An input is a section, a key and a
+// value, each ended by NUL, then the text of the file.
+
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+
+#include "link/profile_edit.h"
+#include "link/profile_index.h"
+#include "tests/support/plain_profile.h"
+
+namespace {
+
+using loquitor::EditForValue;
+using loquitor::ProfileIndex;
+using loquitor::testing::AsLoaded;
+using loquitor::testing::Edited;
+using loquitor::testing::PlainProfile;
+
+std::string TakeField(std::string& zInput) {
+  const std::size_t end = std::min(zInput.find('\0'), zInput.size());
+  std::string field = zInput.substr(0, end);
+  zInput.erase(0, end + 1);
+  return field;
+}
+
+void Require(bool zHolds, const char* zWhat) {
+  if (!zHolds) {
+    std::cerr << "not as the reference: " << zWhat << '\n';
+    std::abort();
+  }
+}
+
+void CompareRead(const std::string& zText, const std::string& zSection, const std::string& zKey) {
+  const ProfileIndex index(AsLoaded(zText));
+  const auto found = index.Find(zSection, zKey);
+  const auto expected = PlainProfile(zText).Read(zSection, zKey);
+  Require(found.has_value() == expected.has_value() && found.value_or("") == expected.value_or(""),
+          "read");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* zData, std::size_t zSize) {
+  std::string text(zData, zData + zSize);
+  const std::string section = TakeField(text);
+  const std::string key = TakeField(text);
+  const std::string value = TakeField(text);
+  CompareRead(text, section, key);
+
+  PlainProfile expected(text);
+  const auto edit = EditForValue(text, section, key, value);
+  Require(edit.has_value() == expected.Write(section, key, value), "refusal of a write");
+  if (edit) {
+    const std::string written = Edited(text, *edit);
+    Require(written == expected.Text(), "written text");
+    CompareRead(written, section, key);
+    Require(ProfileIndex(AsLoaded(written)).Find(section, key).has_value(), "own write found");
+  }
+  return 0;
+}
