@@ -19,6 +19,10 @@ struct SerialPortSettings {
 /// digits and nothing else. Nothing for any other text, and for more than 32 bits signed hold.
 std::optional<std::int32_t> BaudRateOf(std::string_view zText);
 
+/// How many bytes may wait in a port's own queue, and so precede a stop sequence on the line. One
+/// register write fits, and the line does not run dry between two turns of the event loop.
+inline constexpr int PortQueueLimit = 16;
+
 /// One serial port. The real one is link/qt/qt_serial_port.h; tests script their own.
 ///
 /// No call blocks. A port that fails (device gone, write refused) reports IsOpen() false from the
@@ -40,8 +44,9 @@ class SerialPort {
   /// Throws away everything received so far.
   virtual void DiscardReceived() = 0;
 
-  /// True while the port's own queue holds fewer than about sixteen bytes, so that another may be
-  /// handed over and a stop sequence never waits behind a long phrase. False when not open.
+  /// True while the port takes bytes and its own queue holds fewer than PortQueueLimit, so that
+  /// another may be handed over and a stop sequence never waits behind a long phrase. False when
+  /// not open.
   virtual bool IsReadyForByte() const = 0;
 
   /// Hands one byte over. False when the port refused it or has failed.

@@ -1,15 +1,8 @@
 #include "link/qt/qt_serial_port.h"
 
-#include <QFile>
 #include <utility>
 
 namespace loquitor {
-
-namespace {
-
-constexpr int QueueLimit = 16;  // bytes that may precede a stop sequence
-
-}  // namespace
 
 QtSerialPort::QtSerialPort() {
   QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
@@ -25,8 +18,7 @@ QtSerialPort::~QtSerialPort() {
 bool QtSerialPort::Open(const SerialPortSettings& zSettings) {
   Close();
   const auto baudRate = BaudRateOf(zSettings.baudRate);
-  const QString device =
-      ResolveDevice(QFile::decodeName(QByteArray::fromStdString(zSettings.device)));
+  const QString device = ResolveDevice(zSettings.device);
   isOpen_ = baudRate && !device.isEmpty() && lock_.Take(device) &&
             OpenConfigured(device, *baudRate, zSettings.hardwareHandshaking);
   if (!isOpen_) {
@@ -65,7 +57,7 @@ void QtSerialPort::DiscardReceived() {
 }
 
 bool QtSerialPort::IsReadyForByte() const {
-  return isOpen_ && port_.bytesToWrite() == 0 && BytesInSystemQueue(port_) < QueueLimit &&
+  return isOpen_ && port_.bytesToWrite() == 0 && BytesInSystemQueue(port_) < PortQueueLimit &&
          TakesByteNow(port_);
 }
 

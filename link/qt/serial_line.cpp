@@ -1,7 +1,7 @@
 #include "link/qt/serial_line.h"
 
 #include <QFile>
-#include <QFileInfo>
+#include <filesystem>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -10,7 +10,6 @@
 #include <poll.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
-#include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
 #endif
@@ -19,8 +18,8 @@ namespace loquitor {
 
 #ifdef Q_OS_WIN
 
-QString ResolveDevice(const QString& zDevice) {
-  return zDevice;
+QString ResolveDevice(const std::string& zDevice) {
+  return QString::fromLocal8Bit(zDevice.c_str());
 }
 
 int BytesInSystemQueue(const QSerialPort& zPort) {
@@ -45,13 +44,11 @@ void LineLock::Release() {}
 
 #else
 
-QString ResolveDevice(const QString& zDevice) {
-  const QString path = QFileInfo(zDevice).canonicalFilePath();
-  struct stat status {};
-  const bool isDevice = !path.isEmpty() &&
-                        ::stat(QFile::encodeName(path).constData(), &status) == 0 &&
-                        S_ISCHR(status.st_mode);
-  return isDevice ? path : QString();
+QString ResolveDevice(const std::string& zDevice) {
+  std::error_code error;
+  const std::filesystem::path path = std::filesystem::canonical(zDevice.c_str(), error);
+  const bool isDevice = !error && std::filesystem::is_character_file(path, error);
+  return isDevice ? QFile::decodeName(path.c_str()) : QString();
 }
 
 int BytesInSystemQueue(const QSerialPort& zPort) {

@@ -2,14 +2,15 @@
 
 #include <QSerialPort>
 #include <QString>
+#include <string>
 
 namespace loquitor {
 
 /// What the operating systems do differently about serial lines, all in one place.
 
-/// The device that `zDevice` means: symbolic links followed where the system has them. Empty when
-/// it is missing or is no device that could be a serial port.
-QString ResolveDevice(const QString& zDevice);
+/// The device that `zDevice`, a name as the file system spells it, means: symbolic links followed
+/// where the system has them. Empty when it is missing or is no device that could be a serial port.
+QString ResolveDevice(const std::string& zDevice);
 
 /// How many bytes wait in the system's own queue for the line. 0 where the system does not tell.
 int BytesInSystemQueue(const QSerialPort& zPort);

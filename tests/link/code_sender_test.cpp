@@ -1,0 +1,416 @@
+#include "link/code_sender.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+#include "link/scp.h"
+#include "tests/support/scripted_port.h"
+#include "tests/support/simulated_line.h"
+#include "tests/support/temp_folder.h"
+
+namespace loquitor {
+namespace {
+
+using testing::ScriptedPort;
+using testing::SimulatedLine;
+using testing::TempFolder;
+using testing::WriteBytes;
+
+/// A main window whose user acts by a list: one act a turn of the event loop.
+class ScriptedHost : public SenderHost {
+ public:
+  std::string PortDevice() const override { return device; }
+  bool IsFlowControlTicked() const override { return isFlowControlTicked; }
+  void ShowPortState(PortState zState) override {
+    log += zState == PortState::Open ? "green " : zState == PortState::Closed ? "white " : "red ";
+  }
+  bool ConfirmLongPhrase() override {
+    log += "question ";
+    RunTurn();
+    return answer;
+  }
+  void StopClosingTimer() override { isClosingSoon = false; }
+  void StartClosingTimer(int zMilliseconds) override {
+    isClosingSoon = true;
+    closingDelay = zMilliseconds;
+  }
+  void LetEventsRun() override { RunTurn(); }
+  void WaitForEvents() override {
+    ++waits;
+    RunTurn();
+  }
+  void SetTicking(bool zIsOn) override { isTicking = zIsOn; }
+
+  std::string device = "scripted";
+  bool isFlowControlTicked = true;
+  bool answer = true;
+  bool isClosingSoon = false;
+  bool isTicking = false;
+  int closingDelay = 0;
+  int waits = 0;
+  int turnsWithinEachOther = 0;
+  int deepest = 0;
+  std::string log;
+  std::deque<std::function<void()>> acts;
+
+ private:
+  void RunTurn() {
+    deepest = std::max(deepest, ++turnsWithinEachOther);
+    if (!acts.empty()) {
+      const auto act = acts.front();
+      acts.pop_front();
+      act();
+    }
+    --turnsWithinEachOther;
+  }
+};
+
+class CodeSenderTest : public ::testing::Test {
+ protected:
+  void Send(std::string_view zCodes) { sender.SendCodesToOrvatone(zCodes, false); }
+  void Speak(std::string_view zCodes) { sender.SendCodesToOrvatone(zCodes, true); }
+  void ShutUp() {
+    sender.ClearPendingOutput();
+    Send(StopSequence());
+  }
+  /// In the turn after byte `zCount`, or so many turns from now.
+  void AfterTurns(std::size_t zCount, std::function<void()> zAct) {
+    host.acts.resize(zCount - 1, [] {});
+    host.acts.push_back(std::move(zAct));
+  }
+  std::string TakeLog() { return std::exchange(host.log, {}); }
+
+  TempFolder folder;
+  ScriptedPort port;
+  ScriptedHost host;
+  SettingsFile settings{folder.Path()};
+  CodeSender sender{port, host, settings};
+};
+
+TEST_F(CodeSenderTest, EveryByteGoesOutAsGivenAndTheClosingTimerStarts) {
+  std::string all;
+  for (int code = 0; code < 256; ++code) {
+    all.push_back(static_cast<char>(code));
+  }
+  port.onByte = [this] {
+    EXPECT_TRUE(sender.IsSending() && host.isTicking && !host.isClosingSoon);
+  };
+  host.isClosingSoon = true;
+  Send(all);
+  EXPECT_EQ(port.TakeWritten(), all);
+  EXPECT_EQ(TakeLog(), "green ");
+  EXPECT_EQ(port.discardCount, 1);
+  EXPECT_TRUE(host.isClosingSoon);
+  EXPECT_EQ(host.closingDelay, 1000);
+  EXPECT_FALSE(sender.IsSending() || host.isTicking || sender.HasFailed());
+}
+
+TEST_F(CodeSenderTest, AnEmptyStringOpensThePortAndStartsTheClosingTimer) {
+  Speak("");
+  EXPECT_EQ(TakeLog(), "green ");
+  EXPECT_TRUE(port.IsOpen() && host.isClosingSoon);
+}
+
+TEST_F(CodeSenderTest, OnlyLongPhrasesWithoutFlowControlAsk) {
+  const struct {
+    std::size_t length;
+    bool isPhrase, isTicked, answer;
+    const char* log;
+    std::size_t sent;
+  } cases[] = {
+      {64, true, false, false, "green ", 64},      {65, true, false, true, "question green ", 65},
+      {65, true, false, false, "question ", 0},    {200, true, true, false, "green ", 200},
+      {5000, false, false, false, "green ", 5000},
+  };
+  for (const auto& one : cases) {
+    host.isFlowControlTicked = one.isTicked;
+    host.answer = one.answer;
+    sender.SendCodesToOrvatone(std::string(one.length, 'x'), one.isPhrase);
+    EXPECT_EQ(TakeLog(), one.log) << one.length;
+    EXPECT_EQ(port.TakeWritten().size(), one.sent) << one.length;
+    EXPECT_EQ(host.isClosingSoon, one.sent > 0) << one.length;
+  }
+}
+
+TEST_F(CodeSenderTest, AfterNoAnOpenPortStaysOpenWithoutATimer) {
+  Send("a");
+  host.isFlowControlTicked = host.answer = false;
+  Speak(std::string(65, 'x'));
+  EXPECT_TRUE(port.IsOpen());
+  EXPECT_FALSE(host.isClosingSoon);
+  EXPECT_EQ(port.TakeWritten(), "a");
+}
+
+TEST_F(CodeSenderTest, TheSendThatOpensDecidesSpeedAndHandshaking) {
+  const struct {
+    const char* stored;
+    bool isPhrase, isTicked;
+    const char* baudRate;
+    bool handshaking;
+  } cases[] = {
+      {"", true, true, "9600", true},
+      {"[serial]\r\nbaudrate=2400\r\n", true, false, "2400", false},
+      {"[Serial]\r\nBaudRate=\r\n", false, true, "9600", false},
+      {"[Serial]\r\nBaudRate= fast \r\n", false, false, "fast", false},
+  };
+  for (const auto& one : cases) {
+    WriteBytes(folder / "Loquitor.ini", one.stored);
+    host.isFlowControlTicked = one.isTicked;
+    sender.SendCodesToOrvatone("a", one.isPhrase);
+    host.isFlowControlTicked = !one.isTicked;
+    sender.SendCodesToOrvatone("b", !one.isPhrase);  // finds it open
+    ASSERT_EQ(port.opened.size(), 1u);
+    EXPECT_EQ(port.opened[0].baudRate, one.baudRate);
+    EXPECT_EQ(port.opened[0].hardwareHandshaking, one.handshaking);
+    port.opened.clear();
+    sender.CloseSerialPort();
+  }
+  EXPECT_EQ(port.closeCount, 4);
+}
+
+TEST_F(CodeSenderTest, ABaudRateIsAPlainPositiveNumber) {
+  const struct {
+    const char* text;
+    std::optional<std::int32_t> rate;
+  } cases[] = {{"9600", 9600},      {"1", 1},       {"2147483647", 2147483647},
+               {"0", {}},           {"", {}},       {"-1", {}},
+               {"+9600", {}},       {"9600.0", {}}, {" 9600", {}},
+               {"9600 ", {}},       {"0x10", {}},   {"2147483648", {}},
+               {"99999999999", {}}, {"9600,n", {}}};
+  for (const auto& one : cases) {
+    EXPECT_EQ(BaudRateOf(one.text), one.rate) << one.text;
+  }
+}
+
+TEST_F(CodeSenderTest, APortThatDoesNotOpenShowsRedAndTheNextSendTriesAgain) {
+  port.refusesToOpen = true;
+  Send("abc");
+  EXPECT_EQ(TakeLog(), "red ");
+  EXPECT_TRUE(host.isClosingSoon && sender.HasFailed());
+  sender.CloseSerialPort();
+  EXPECT_EQ(TakeLog(), "");  // the red stays
+
+  host.device.clear();  // no such number: there is nothing to open
+  Send("abc");
+  EXPECT_EQ(TakeLog(), "red ");
+  EXPECT_EQ(port.opened.size(), 1u);
+
+  host.device = "another";
+  port.refusesToOpen = false;
+  Send("abc");
+  EXPECT_EQ(TakeLog(), "green ");
+  EXPECT_EQ(port.opened.back().device, "another");
+  EXPECT_EQ(port.TakeWritten(), "abc");
+  EXPECT_FALSE(sender.HasFailed());
+  sender.CloseSerialPort();
+  sender.CloseSerialPort();
+  EXPECT_EQ(TakeLog(), "white ");
+}
+
+TEST_F(CodeSenderTest, APortThatFailsInMidSendIsClosedAndShownRedOnce) {
+  for (int bytes = 0; bytes < 3; ++bytes) {
+    port.bytesUntilFailure = bytes;
+    Send("abc");
+    port.failureHandler();  // told late
+    EXPECT_EQ(port.TakeWritten(), std::string_view("abc").substr(0, static_cast<size_t>(bytes)));
+    EXPECT_EQ(TakeLog(), "green red ");
+    EXPECT_TRUE(sender.HasFailed() && sender.PendingOutput().empty() && host.isClosingSoon);
+    port.bytesUntilFailure = -1;
+    Send("again");
+    EXPECT_EQ(port.TakeWritten(), "again");
+    EXPECT_EQ(TakeLog(), bytes == 0 ? "green " : "green ");
+    sender.CloseSerialPort();
+    TakeLog();
+  }
+}
+
+TEST_F(CodeSenderTest, APortThatVanishesWhileIdleShowsRed) {
+  Send("abc");
+  port.Vanish();
+  EXPECT_TRUE(sender.HasFailed());
+  sender.CloseSerialPort();  // the closing timer
+  EXPECT_EQ(TakeLog(), "green red ");
+}
+
+TEST_F(CodeSenderTest, TheWaitForAHeldBackLineEnds) {
+  const struct {
+    const char* why;
+    std::function<void()> act;
+    const char* written;
+    const char* log;
+  } cases[] = {
+      {"released", [this] { port.isHeldBack = false; }, "abc", "green "},
+      {"emptied", [this] { sender.ClearPendingOutput(); }, "", "green "},
+      {"replaced",
+       [this] {
+         port.isHeldBack = false;
+         ShutUp();
+       },
+       "\\0RX\x1f", "green green "},
+      {"closed", [this] { sender.CloseSerialPort(); }, "", "green white "},
+      {"vanished", [this] { port.Vanish(); }, "", "green red "},
+      {"closed and another opened",
+       [this] {
+         sender.CloseSerialPort();
+         port.isHeldBack = false;
+         Send("x");
+       },
+       "x", "green white green "},
+      {"closed and no other opened",
+       [this] {
+         sender.CloseSerialPort();
+         port.refusesToOpen = true;
+         Send("x");
+       },
+       "", "green white red "},
+  };
+  for (const auto& one : cases) {
+    port.isHeldBack = true;
+    AfterTurns(30, one.act);
+    host.waits = 0;
+    Send("abc");
+    EXPECT_EQ(host.waits, 30) << one.why;
+    std::string written = port.TakeWritten();
+    std::erase(written, '\0');
+    EXPECT_EQ(written, one.written) << one.why;
+    EXPECT_EQ(TakeLog(), one.log) << one.why;
+    EXPECT_TRUE(sender.PendingOutput().empty() && host.isClosingSoon && !sender.IsSending());
+    port.refusesToOpen = false;
+    sender.CloseSerialPort();
+    TakeLog();
+  }
+}
+
+TEST_F(CodeSenderTest, ANestedSendReplacesTheRestOfTheOuterOne) {
+  AfterTurns(2, [this] { Send("xyz"); });
+  Send("abcdef");
+  EXPECT_EQ(port.TakeWritten(), "abxyz");
+}
+
+TEST_F(CodeSenderTest, ARefusedPhraseLeavesTheOuterSendGoingOn) {
+  host.isFlowControlTicked = host.answer = false;
+  AfterTurns(2, [this] { Speak(std::string(65, 'x')); });
+  Send("abcdef");
+  EXPECT_EQ(port.TakeWritten(), "abcdef");
+  EXPECT_TRUE(host.isClosingSoon);
+}
+
+TEST_F(CodeSenderTest, ShutUpCutsALongWriteAtEveryTenthByte) {
+  std::string write;
+  for (int location = 0; location < 234; ++location) {
+    write += MemoryWriteGroup(location, 0xFF);
+  }
+  for (std::size_t cut = 10; cut < write.size(); cut += 10) {
+    host.acts.clear();
+    AfterTurns(cut, [this] { ShutUp(); });
+    Send(write);
+    ASSERT_EQ(port.TakeWritten(), write.substr(0, cut) + StopSequence()) << cut;
+  }
+}
+
+TEST_F(CodeSenderTest, AMillionBytesCostNoMoreEachThanAFew) {
+  const std::string codes(1 << 20, 'x');
+  Send(codes);  // minutes, were each byte to move all those behind it
+  EXPECT_EQ(port.TakeWritten().size(), codes.size());
+}
+
+TEST_F(CodeSenderTest, SendsNestOnlySoDeepAndTheLastGoesOutWhole) {
+  for (int i = 0; i < 1000; ++i) {
+    host.acts.push_back([this, i] {
+      Send(RegisterWrite(7, i));
+      EXPECT_FALSE(sender.IsSending() && host.isClosingSoon && host.turnsWithinEachOther > 8);
+    });
+  }
+  Send(RegisterWrite(7, 2000));
+  EXPECT_LE(host.deepest, 8);
+  EXPECT_TRUE(port.written.ends_with(RegisterWrite(7, 999)));
+  EXPECT_TRUE(host.isClosingSoon);
+}
+
+TEST_F(CodeSenderTest, BeyondTheDepthSendsOfOneTurnFollowEachOtherAndTheNextTurnReplacesThem) {
+  for (int i = 0; i < 7; ++i) {
+    host.acts.push_back([this] { Send("-"); });
+  }
+  host.acts.push_back([this] {  // the turn after the eighth byte: eight sends deep
+    Send("lost");
+    sender.ClearPendingOutput();
+    Send("abc");
+    Send("def");
+    EXPECT_EQ(sender.PendingOutput(), "abcdef");
+    EXPECT_FALSE(host.isClosingSoon);
+  });
+  for (int i = 0; i < 4; ++i) {
+    host.acts.push_back([] {});
+  }
+  host.acts.push_back([this] { Send("xyz"); });
+  Send("outermost");
+  EXPECT_EQ(port.TakeWritten(), "o-------abcdexyz");
+}
+
+TEST_F(CodeSenderTest, TicksCarryOnWhileAModalWindowHoldsUpTheLoop) {
+  AfterTurns(2, [this] {
+    for (int i = 0; i < 3; ++i) {
+      sender.Tick();
+    }
+    EXPECT_EQ(port.written, "abcde");
+    port.isHeldBack = true;
+    sender.Tick();
+    EXPECT_EQ(port.written, "abcde");
+    port.isHeldBack = false;
+    for (int i = 0; i < 9; ++i) {
+      sender.Tick();
+    }
+  });
+  Send("abcdefg");
+  EXPECT_EQ(port.TakeWritten(), "abcdefg");
+}
+
+/// A slow line and a hand on a bar: the mouse moves by the line's clock.
+class DraggingHost : public ScriptedHost {
+ public:
+  DraggingHost(SimulatedLine& zLine, std::function<void(int)> zOnMove)
+      : line_(zLine), onMove_(std::move(zOnMove)) {}
+  void LetEventsRun() override { Turn(0.0001); }
+  void WaitForEvents() override { Turn(0.002); }
+
+  int position = 0;
+
+ private:
+  void Turn(double zSeconds) {
+    deepest = std::max(deepest, ++turnsWithinEachOther);
+    line_.Advance(zSeconds);
+    while (position < 10000 && line_.Now() > 0.008 * position) {
+      onMove_(++position);
+    }
+    --turnsWithinEachOther;
+  }
+
+  SimulatedLine& line_;
+  std::function<void(int)> onMove_;
+};
+
+TEST(DragOnASlowLine, StaysShallowAndPromptAndEndsInTheFinalValue) {
+  TempFolder folder;
+  WriteBytes(folder / "Loquitor.ini", "[Serial]\r\nBaudRate=2400\r\n");
+  SettingsFile settings(folder.Path());
+  SimulatedLine line;
+  std::function<void(int)> onMove;
+  DraggingHost host(line, [&](int zPosition) { onMove(zPosition); });
+  CodeSender sender(line, host, settings);
+  onMove = [&](int zPosition) {
+    EXPECT_LT(line.Now() - 0.008 * zPosition, 0.01);  // the bar follows the mouse
+    sender.SendCodesToOrvatone(RegisterWrite(7, zPosition), false);
+  };
+  sender.SendCodesToOrvatone(RegisterWrite(7, 0), false);
+  line.Drain();
+  EXPECT_EQ(host.position, 10000);
+  EXPECT_LE(host.deepest, 8);
+  EXPECT_TRUE(line.onTheLine.ends_with(RegisterWrite(7, 10000)));
+  EXPECT_LT(line.Now() - 80, 0.2);  // nothing had piled up when the mouse rested
+}
+
+}  // namespace
+}  // namespace loquitor
