@@ -27,11 +27,11 @@ void CodeSender::SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase) {
   OpenSerialPort(zIsPhrase);
   hasFailed_ = !port_.IsOpen();
   if (!hasFailed_ && depth_ == DeepestSend) {
-    LeaveToInnermost(zCodes);
+    LeaveToInnermost(zCodes, zIsPhrase);
     return;  // the closing timer starts when the innermost send ends
   }
   if (!hasFailed_) {
-    TakeOver(zCodes);
+    TakeOver(zCodes, zIsPhrase);
     WritePendingOutput();
   }
   host_.StartClosingTimer(ClosingDelay);
@@ -50,6 +50,7 @@ void CodeSender::CloseSerialPort() {
 void CodeSender::ClearPendingOutput() {
   pendingOutput_.clear();
   writtenCount_ = 0;
+  lastBegin_ = 0;
 }
 
 std::string_view CodeSender::PendingOutput() const {
@@ -83,19 +84,33 @@ bool CodeSender::TryToOpen(bool zIsPhrase) {
                      .hardwareHandshaking = zIsPhrase && host_.IsFlowControlTicked()});
 }
 
-void CodeSender::TakeOver(std::string_view zCodes) {
+void CodeSender::TakeOver(std::string_view zCodes, bool zIsPhrase) {
+  ClearPendingOutput();
   pendingOutput_ = zCodes;
-  writtenCount_ = 0;
+  isLastPhrase_ = zIsPhrase;
   port_.DiscardReceived();
 }
 
-void CodeSender::LeaveToInnermost(std::string_view zCodes) {
-  if (hasLeftBytes_) {
-    pendingOutput_ += zCodes;
-  } else {
-    TakeOver(zCodes);
+void CodeSender::LeaveToInnermost(std::string_view zCodes, bool zIsPhrase) {
+  if (!hasLeftBytes_) {
+    DropWhatMayBeReplaced();
+    isLastPhrase_ = zIsPhrase;
+    port_.DiscardReceived();
   }
+  pendingOutput_ += zCodes;
   hasLeftBytes_ = true;
+}
+
+void CodeSender::DropWhatMayBeReplaced() {
+  const bool hasLastBegun = writtenCount_ > lastBegin_;
+  if (!hasLastBegun) {
+    pendingOutput_.resize(lastBegin_);
+  } else if (isLastPhrase_) {
+    pendingOutput_.resize(writtenCount_);
+  }
+  pendingOutput_.erase(0, writtenCount_);
+  writtenCount_ = 0;
+  lastBegin_ = pendingOutput_.size();
 }
 
 void CodeSender::WritePendingOutput() {

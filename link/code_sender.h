@@ -55,8 +55,10 @@ class SenderHost {
 /// A send that starts within another replaces what is left of it: its own bytes go out, then the
 /// outer send finds nothing left and ends. Sends nest only to a fixed depth, so that a bar dragged
 /// on a slow line does not exhaust the stack: beyond it SendCodesToOrvatone leaves its bytes to the
-/// innermost send under way and returns at once. Sends left in one turn of the event loop follow
-/// each other, as they would have if each had been waited for.
+/// innermost send under way and returns at once. What is left so in one turn of the event loop
+/// stays together in order, and takes the place of what was left earlier and has not begun; a
+/// command string that has begun goes out whole first. So while the bar moves the chip gets as many
+/// whole commands as the line carries, each with the latest value.
 class CodeSender {
  public:
   /// All three outlive the sender.
@@ -95,8 +97,9 @@ class CodeSender {
   void OpenSerialPort(bool zIsPhrase);
   bool TryToOpen(bool zIsPhrase);
   bool IsRefused(std::string_view zCodes, bool zIsPhrase);
-  void TakeOver(std::string_view zCodes);
-  void LeaveToInnermost(std::string_view zCodes);
+  void TakeOver(std::string_view zCodes, bool zIsPhrase);
+  void LeaveToInnermost(std::string_view zCodes, bool zIsPhrase);
+  void DropWhatMayBeReplaced();
   void WritePendingOutput();
   void WriteNextByte();
   void OnPortFailed();
@@ -104,10 +107,12 @@ class CodeSender {
   SerialPort& port_;
   SenderHost& host_;
   const SettingsFile& settings_;
-  std::string pendingOutput_;     // the present send, with the bytes already written
-  std::size_t writtenCount_ = 0;  // how many of them those are
-  int depth_ = 0;                 // how many sends are under way within each other
-  bool hasLeftBytes_ = false;     // bytes were left to the innermost send in this turn
+  std::string pendingOutput_;     // with bytes that are already written at its start
+  std::size_t writtenCount_ = 0;  // how many of them there are
+  std::size_t lastBegin_ = 0;     // where the bytes begin that came last
+  bool isLastPhrase_ = false;
+  bool hasLeftBytes_ = false;  // bytes were left to the innermost send in this turn
+  int depth_ = 0;              // how many sends are under way within each other
   bool isPortShownOpen_ = false;
   bool hasFailed_ = false;
 };

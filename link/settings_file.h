@@ -14,8 +14,8 @@ class SettingsFile {
   explicit SettingsFile(std::filesystem::path zFolder);
 
   /// The value under `zSection`, `zKey`: at most 255 bytes, without blanks around it and without
-  /// trailing NULs. When the key is missing, `zDefault` is cut and trimmed likewise; when nothing is
-  /// left either way, the result is `zDefault` exactly as given.
+  /// trailing NULs. When the key is missing, `zDefault` is cut and trimmed likewise; when nothing
+  /// is left either way, the result is `zDefault` exactly as given.
   std::string GetIniValue(std::string_view zSection, std::string_view zKey,
                           std::string_view zDefault) const;
 
