@@ -1,0 +1,114 @@
+// Profile files of 1,000, 10,000 and 130,000 entries: the first lookup against reading the file and
+// counting its lines, later lookups, a write, the next word.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "bench/support/sample_dictionary.h"
+#include "core/dictionary_store.h"
+#include "core/next_word.h"
+#include "link/fresh_profile.h"
+#include "link/profile_file.h"
+
+namespace loquitor::bench {
+namespace {
+
+/// The least work that any reader of the file has: its bytes in memory, its lines known.
+void ReadAndCountLines(benchmark::State& zState) {
+  const SampleDictionary sample(zState.range(0));
+  for (auto _ : zState) {
+    const auto file = LoadFile(sample.File());
+    benchmark::DoNotOptimize(std::count(file->bytes.get(), file->bytes.get() + file->size, '\n'));
+  }
+}
+
+void FirstLookup(benchmark::State& zState) {
+  const SampleDictionary sample(zState.range(0));
+  const std::string word = sample.Word(sample.Size() / 2);
+  for (auto _ : zState) {
+    FreshProfile profile(sample.File());
+    benchmark::DoNotOptimize(profile.Index()->Find("Words", word));
+  }
+}
+
+void LaterLookup(benchmark::State& zState) {
+  const SampleDictionary sample(zState.range(0));
+  sample.LetItSettle();
+  int i = 0;
+  for (auto _ : zState) {
+    i = (i + 7919) % sample.Size();
+    benchmark::DoNotOptimize(ReadProfileValue("Words", sample.Word(i), "", 2560, sample.File()));
+  }
+}
+
+void LookupOfMissingWord(benchmark::State& zState) {
+  const SampleDictionary sample(zState.range(0));
+  sample.LetItSettle();
+  for (auto _ : zState) {
+    benchmark::DoNotOptimize(ReadProfileValue("Words", "missing", "", 2560, sample.File()));
+  }
+}
+
+void WriteOneWord(benchmark::State& zState) {
+  const SampleDictionary sample(zState.range(0));
+  const std::string word = sample.Word(sample.Size() / 2);
+  int i = 0;
+  for (auto _ : zState) {
+    benchmark::DoNotOptimize(WriteProfileValue("Words", word, std::to_string(++i), sample.File()));
+  }
+}
+
+void WriteAndReadBack(benchmark::State& zState) {
+  const SampleDictionary sample(zState.range(0));
+  const std::string word = sample.Word(sample.Size() / 2);
+  int i = 0;
+  for (auto _ : zState) {
+    benchmark::DoNotOptimize(WriteProfileValue("Words", word, std::to_string(++i), sample.File()));
+    benchmark::DoNotOptimize(ReadProfileValue("Words", word, "", 2560, sample.File()));
+  }
+}
+
+void NextWordOfAll(benchmark::State& zState) {
+  const SampleDictionary sample(zState.range(0));
+  sample.LetItSettle();
+  const DictionaryStore store(sample.Folder());
+  std::string word;
+  for (auto _ : zState) {
+    word = NextWord(store, word).value();
+  }
+}
+
+/// The one word with data stands right before the present one: the whole circle is searched.
+void NextWordWithData(benchmark::State& zState) {
+  const SampleDictionary sample(zState.range(0), SampleDictionary::Entries::AllEmptyButFirst);
+  sample.LetItSettle();
+  const DictionaryStore store(sample.Folder());
+  const auto hasData = [](std::string_view zSayData) {
+    return zSayData.find_first_not_of(' ') != std::string_view::npos;
+  };
+  for (auto _ : zState) {
+    if (NextWord(store, sample.Word(0), hasData) != sample.Word(0)) {
+      zState.SkipWithError("the word with data was not found");
+    }
+  }
+}
+
+#define LOQUITOR_SIZES Arg(1'000)->Arg(10'000)->Arg(130'000)->Unit(benchmark::kMicrosecond)
+BENCHMARK(ReadAndCountLines)->LOQUITOR_SIZES;
+BENCHMARK(FirstLookup)->LOQUITOR_SIZES;
+BENCHMARK(LaterLookup)->LOQUITOR_SIZES;
+BENCHMARK(LookupOfMissingWord)->LOQUITOR_SIZES;
+BENCHMARK(WriteOneWord)->LOQUITOR_SIZES->UseRealTime();
+BENCHMARK(WriteAndReadBack)->LOQUITOR_SIZES->UseRealTime();
+BENCHMARK(NextWordOfAll)->LOQUITOR_SIZES;
+BENCHMARK(NextWordWithData)->LOQUITOR_SIZES;
+
+}  // namespace
+}  // namespace loquitor::bench
+
+BENCHMARK_MAIN();

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <thread>
+
+#include "tests/support/temp_folder.h"
+
+namespace loquitor::bench {
+
+/// A dictionary file of made-up words in a folder of its own, the words in no alphabetical order
+/// and with Say Data of the usual length.
+class SampleDictionary {
+ public:
+  enum class Entries { AllFull, AllEmptyButFirst };
+
+  explicit SampleDictionary(std::int64_t zSize, Entries zEntries = Entries::AllFull)
+      : size_(static_cast<int>(zSize)) {
+    std::string text = "[words]\r\n";
+    for (int i = 0; i < size_; ++i) {
+      text += Word(i) + "=";
+      if (zEntries == Entries::AllFull || i == 0) {
+        text += Sounds(i);
+      }
+      text += "\r\n";
+    }
+    testing::WriteBytes(File(), text);
+  }
+
+  int Size() const { return size_; }
+  const std::filesystem::path& Folder() const { return folder_.Path(); }
+  const std::filesystem::path& File() const { return file_; }
+
+  /// Word number `zIndex`: 5 to 12 letters, different for each number.
+  static std::string Word(int zIndex) {
+    auto mixed = static_cast<std::uint32_t>(zIndex) * 2654435761U;  // odd factor: no two alike
+    std::string word;
+    do {
+      word += static_cast<char>('a' + mixed % 26);
+      mixed /= 26;
+    } while (mixed != 0);
+    return word.append(static_cast<std::size_t>(zIndex % 6), 'e');
+  }
+
+  /// Waits until the file's times tell every later change (see LoadedFile::isSettled).
+  static void LetItSettle() { std::this_thread::sleep_for(std::chrono::milliseconds(50)); }
+
+ private:
+  static std::string Sounds(int zIndex) {
+    std::string sounds;
+    for (int i = 0; i < 4 + zIndex % 5; ++i) {
+      sounds += i == 0 ? "\\HE" : " \\EH";
+    }
+    return sounds;
+  }
+
+  testing::TempFolder folder_;
+  std::filesystem::path file_ = folder_ / "Loquitor.Dic";
+  int size_;
+};
+
+}  // namespace loquitor::bench
