@@ -11,19 +11,28 @@ namespace {
 
 constexpr int Gap = 4;  // pixels between the mark and the caption
 
+/// The part of the button that the frame around it does not cut off.
+QRect VisiblePart(const QWidget* zButton) {
+  const QWidget* parent = zButton->parentWidget();
+  return parent == nullptr ? zButton->rect()
+                           : zButton->rect() & parent->rect().translated(-zButton->pos());
+}
+
 /// Draws mark and wrapped caption; the style's own drawing keeps a caption in one line.
 void PaintWrapped(QAbstractButton* zButton, QStyleOptionButton zOption,
                   QStyle::PrimitiveElement zMark, QSize zMarkSize) {
   QStylePainter painter(zButton);
-  const QRect all = zButton->rect();
+  const QRect all = VisiblePart(zButton);
   const QString caption = ShownCaption(zButton->text());
   const QRect text = all.adjusted(zMarkSize.width() + Gap, 0, 0, 0);
   const bool hasFocus = (zOption.state & QStyle::State_HasFocus) != 0;
 
-  zOption.rect = QRect(QPoint(0, (all.height() - zMarkSize.height()) / 2), zMarkSize);
+  const QSize mark = zMarkSize.boundedTo({all.height(), all.height()});
+  zOption.rect = QRect(
+      QPoint((zMarkSize.width() - mark.width()) / 2, (all.height() - mark.height()) / 2), mark);
   painter.drawPrimitive(zMark, zOption);
 
-  painter.setFont(WrappingFont(zButton->font(), caption, text.size()));
+  painter.setFont(WrappingFont(zButton->font(), caption, {text.width(), zButton->height()}));
   constexpr int Flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
   const QRect used = painter.fontMetrics().boundingRect(text, Flags, caption);
   painter.setPen(zButton->palette().color(QPalette::WindowText));
