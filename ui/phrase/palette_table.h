@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/code_table.h"
+#include "ui/toolkit/twips.h"
+
+namespace loquitor {
+
+/// A caption of up to seven ASCII characters that can be put together at compile time.
+class PaletteCaption {
+ public:
+  constexpr PaletteCaption() = default;
+  constexpr PaletteCaption(const char* zText) { Append(zText); }  // NOLINT: rows read better
+
+  constexpr PaletteCaption& Append(std::string_view zText) {
+    for (const char character : zText) {
+      characters_[length_++] = character;
+    }
+    return *this;
+  }
+  constexpr std::string_view Text() const { return {characters_.data(), length_}; }
+
+  /// The caption as a text that ends with a NUL; lives as long as the caption.
+  constexpr const char* CString() const { return characters_.data(); }
+
+ private:
+  std::array<char, 8> characters_{};
+  std::size_t length_ = 0;
+};
+
+/// One clickable member of the sound palette. What it does follows from its caption alone, which is
+/// a mnemonic of the code table without its backslash, in any letter case.
+struct PaletteMember {
+  int index;                  ///< in the control group Command1
+  PaletteCaption caption;     ///< for example "IY", "Wait", "NTC#1"
+  const char* frame;          ///< the name of the frame that holds it
+  TwipRect place;             ///< in the frame
+  const char* tooltip = "";   ///< empty for the notes, see TooltipOf, and for most sound effects
+  const char* valueBox = "";  ///< the box with the value that follows its code, or empty
+};
+
+inline constexpr std::size_t PaletteMemberCount = 183;
+
+/// The palette, frame by frame; within a frame in reading order.
+extern const std::array<PaletteMember, PaletteMemberCount> PaletteTable;
+
+/// The member of that index, or null for an index that is not used.
+const PaletteMember* FindPaletteMember(int zIndex);
+
+/// The mnemonic of a member with its backslash, in the caption's letter case.
+std::string MnemonicOf(const PaletteMember& zMember);
+
+/// The tooltip of a member (ASCII); for a note it names the note. Empty when there is none.
+std::string TooltipOf(const PaletteMember& zMember);
+
+}  // namespace loquitor
