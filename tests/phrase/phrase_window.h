@@ -1,0 +1,100 @@
+#pragma once
+
+#include <QPushButton>
+#include <memory>
+#include <string>
+
+#include "tests/support/window_test.h"
+#include "ui/phrase/frm_phrase.h"
+#include "ui/toolkit/check_box.h"
+#include "ui/toolkit/click_label.h"
+#include "ui/toolkit/scroll_bar.h"
+#include "ui/toolkit/text_area.h"
+#include "ui/toolkit/text_box.h"
+
+namespace loquitor::testing {
+
+/// The control-code prefix of the default voice settings.
+inline const std::string DefaultPrefix = "\x14\x60\x15\x72\x16\x58\x17\x05";
+
+/// The phrase editor, opened, with verbs for what its user does.
+class PhraseWindowTest : public WindowTest {
+ protected:
+  void Open() {
+    window = std::make_unique<frmPhrase>(nullptr, context);
+    window->Open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+
+  template <class T>
+  T* Get(const char* zName) {
+    T* control = window->findChild<T*>(zName);
+    if (control == nullptr) {
+      throw std::invalid_argument(std::string("no control ") + zName);
+    }
+    return control;
+  }
+  ClickLabel* Member(std::string_view zCaption) {
+    for (ClickLabel* label : window->findChildren<ClickLabel*>()) {
+      if (label->text() == QLatin1String(zCaption.data())) {
+        return label;
+      }
+    }
+    throw std::invalid_argument("no member " + std::string(zCaption));
+  }
+  TextArea* SayDataBox() { return Get<TextArea>("txtSayData"); }
+  TextBox* Box(const char* zName) { return Get<TextBox>(zName); }
+  ScrollBar* Bar(const char* zName) { return Get<ScrollBar>(zName); }
+
+  void Press(const char* zButton) { QTest::mouseClick(Get<QPushButton>(zButton), Qt::LeftButton); }
+  void Tick(const char* zCheckBox, bool zIsTicked) {
+    Get<CheckBox>(zCheckBox)->SetValue(zIsTicked ? 1 : 0);
+  }
+  void Click(std::string_view zCaption) { QTest::mouseClick(Member(zCaption), Qt::LeftButton); }
+
+  /// Two presses with the event loop running in between, as from a hand.
+  void DoubleClick(std::string_view zCaption, int zMilliseconds = 60) {
+    ClickLabel* label = Member(zCaption);
+    QTest::mouseClick(label, Qt::LeftButton);
+    QTest::qWait(zMilliseconds);
+    QTest::mouseDClick(label, Qt::LeftButton);
+  }
+
+  /// Types a text into a box in place of what it holds; the focus stays there.
+  void Type(const char* zBox, const char* zText) {
+    Box(zBox)->setFocus();
+    Box(zBox)->selectAll();
+    QTest::keyClicks(Box(zBox), zText);
+    if (*zText == '\0') {
+      QTest::keyClick(Box(zBox), Qt::Key_Delete);
+    }
+  }
+
+  /// The Say Data with the selection in brackets, or the caret as a bar.
+  std::string SayData() {
+    std::string text = SayDataBox()->Text();
+    const auto start = static_cast<std::size_t>(SayDataBox()->SelectionStart());
+    const auto length = static_cast<std::size_t>(SayDataBox()->SelectionLength());
+    if (length == 0) {
+      return text.insert(start, "|");
+    }
+    return text.insert(start + length, "]").insert(start, "[");
+  }
+
+  /// Puts a text in that form into the Say Data.
+  void GivenSayData(std::string zMarked) {
+    const std::size_t start = zMarked.find_first_of("|[");
+    zMarked.erase(start, 1);
+    const std::size_t end = zMarked.find(']');
+    if (end != std::string::npos) {
+      zMarked.erase(end, 1);
+    }
+    SayDataBox()->SetText(zMarked);
+    SayDataBox()->Select(static_cast<int>(start),
+                         end == std::string::npos ? 0 : static_cast<int>(end - start));
+  }
+
+  std::unique_ptr<frmPhrase> window;
+};
+
+}  // namespace loquitor::testing
