@@ -1,0 +1,268 @@
+#include "ui/toolkit/text_history.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QTextBlock>
+#include <algorithm>
+#include <utility>
+
+#include "ui/toolkit/code_page.h"
+
+namespace loquitor {
+namespace {
+
+/// How many characters of the document are looked at in one piece.
+constexpr int PieceLength = 1 << 16;
+
+/// The bytes of a piece of the document. Every character gets one, a foreign one a question mark,
+/// so that positions in the document and in the bytes stay the same.
+std::string BytesOf(QString zPiece) {
+  zPiece.replace(QChar::ParagraphSeparator, QChar::LineFeed);
+  zPiece.replace(QChar::LineSeparator, QChar::LineFeed);
+  if (!CanHold(zPiece)) {
+    for (QChar& character : zPiece) {
+      character = CanHold(QString(character)) ? character : QChar('?');
+    }
+  }
+  return ToBytes(zPiece);
+}
+
+/// How many bytes two texts have in common at their beginning, or at their end.
+std::size_t CommonPrefix(std::string_view zOne, std::string_view zOther) {
+  const auto end = std::mismatch(zOne.begin(), zOne.end(), zOther.begin(), zOther.end()).first;
+  return static_cast<std::size_t>(end - zOne.begin());
+}
+
+std::size_t CommonSuffix(std::string_view zOne, std::string_view zOther) {
+  const auto end = std::mismatch(zOne.rbegin(), zOne.rend(), zOther.rbegin(), zOther.rend()).first;
+  return static_cast<std::size_t>(end - zOne.rbegin());
+}
+
+/// Sets a flag as long as it lives.
+class FlagRaised {
+ public:
+  explicit FlagRaised(bool& zFlag) : flag_(zFlag), before_(std::exchange(zFlag, true)) {}
+  ~FlagRaised() { flag_ = before_; }
+  FlagRaised(const FlagRaised&) = delete;
+  FlagRaised& operator=(const FlagRaised&) = delete;
+
+ private:
+  bool& flag_;
+  bool before_;
+};
+
+}  // namespace
+
+TextHistory::TextHistory(TextArea* zArea) : QObject(zArea), area_(zArea) {
+  text_ = AreaText(0, area_->document()->characterCount() - 1);
+  area_->setUndoRedoEnabled(false);
+  area_->installEventFilter(this);
+  area_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(area_, &QWidget::customContextMenuRequested, this, &TextHistory::ShowContextMenu);
+  connect(area_->document(), &QTextDocument::contentsChange, this,
+          [this](int zFrom, int zRemoved, int) { RecordChange(zFrom, zRemoved); });
+}
+
+void TextHistory::Load(std::string zText) {
+  undo_.clear();
+  ForgetRedo();
+  bytesHeld_ = 0;
+  text_ = std::move(zText);
+  Show();
+}
+
+void TextHistory::ReplaceAll(std::string zText) {
+  Step step{0, zText.size(), std::move(text_), area_->textCursor().position()};
+  text_ = std::move(zText);
+  Show();
+  ForgetRedo();
+  PushUndo(std::move(step));
+}
+
+void TextHistory::Append(std::string_view zText) {
+  if (zText.empty()) {
+    return;
+  }
+  area_->moveCursor(QTextCursor::End);
+  {
+    const FlagRaised ownChange(isOwnChange_);
+    area_->insertPlainText(ToQString(zText));
+  }
+  area_->ensureCursorVisible();
+  Step step{text_.size(), zText.size(), {}};
+  text_.append(zText);
+  ForgetRedo();
+  PushUndo(std::move(step));
+}
+
+void TextHistory::Undo() {
+  if (!undo_.empty()) {
+    Step step = std::move(undo_.back());
+    undo_.pop_back();
+    redo_.push_back(Apply(std::move(step)));
+  }
+}
+
+void TextHistory::Redo() {
+  if (!redo_.empty()) {
+    Step step = std::move(redo_.back());
+    redo_.pop_back();
+    undo_.push_back(Apply(std::move(step)));
+  }
+}
+
+/// Exchanges what the step holds with what the box holds, and returns the step that exchanges them
+/// again.
+TextHistory::Step TextHistory::Apply(Step zStep) {
+  bytesHeld_ -= zStep.other.size();
+  Step inverse{zStep.start, zStep.other.size(), {}};
+  if (zStep.caret >= 0) {
+    inverse.caret = area_->textCursor().position();
+  }
+  const bool isWhole = zStep.start == 0 && zStep.length == text_.size();
+  if (isWhole) {
+    inverse.other = std::exchange(text_, std::move(zStep.other));
+    Show();
+  } else {
+    inverse.other = text_.substr(zStep.start, zStep.length);
+    text_.replace(zStep.start, zStep.length, zStep.other);
+    const FlagRaised ownChange(isOwnChange_);
+    QTextCursor cursor(area_->document());
+    cursor.setPosition(static_cast<int>(zStep.start));
+    cursor.setPosition(static_cast<int>(zStep.start + zStep.length), QTextCursor::KeepAnchor);
+    cursor.insertText(ToQString(zStep.other));
+    area_->setTextCursor(cursor);
+  }
+  if (zStep.caret >= 0 || isWhole) {
+    const auto end = static_cast<int>(text_.size());
+    area_->Select(zStep.caret >= 0 ? std::min(zStep.caret, end) : end, 0);
+  }
+  area_->ensureCursorVisible();
+  bytesHeld_ += inverse.other.size();
+  return inverse;
+}
+
+void TextHistory::Show() {
+  const FlagRaised ownChange(isOwnChange_);
+  area_->SetText(text_);
+}
+
+/// The user has changed the area. `zRemoved` may count the end of the document, and the stretch may
+/// be larger than what has really changed; what was added follows from the lengths.
+void TextHistory::RecordChange(int zFrom, int zRemoved) {
+  if (isOwnChange_) {
+    return;
+  }
+  const auto start = std::min(static_cast<std::size_t>(zFrom), text_.size());
+  const auto removed = std::min(static_cast<std::size_t>(zRemoved), text_.size() - start);
+  const int length = area_->document()->characterCount() - 1;
+  const auto behind = static_cast<int>(text_.size() - start - removed);
+  const std::string added = AreaText(zFrom, length - behind);
+
+  const std::string_view before = std::string_view(text_).substr(start, removed);
+  const std::size_t prefix = CommonPrefix(before, added);
+  const std::size_t suffix =
+      CommonSuffix(before.substr(prefix), std::string_view(added).substr(prefix));
+  const std::string_view now =
+      std::string_view(added).substr(prefix, added.size() - prefix - suffix);
+  Step step{start + prefix, now.size(),
+            std::string(before.substr(prefix, removed - prefix - suffix))};
+  if (step.length == 0 && step.other.empty()) {
+    return;
+  }
+  step.isRun = now.size() + step.other.size() == 1 && now != "\n";
+  text_.replace(step.start, step.other.size(), now);
+  ForgetRedo();
+  if (!JoinsLastStep(step)) {
+    PushUndo(std::move(step));
+  }
+}
+
+/// Makes a typed or erased character part of the run before it, when it carries that on.
+bool TextHistory::JoinsLastStep(const Step& zStep) {
+  if (undo_.empty() || !undo_.back().isRun || !zStep.isRun) {
+    return false;
+  }
+  Step& last = undo_.back();
+  if (zStep.length > 0) {
+    const bool joins = last.other.empty() && last.start + last.length == zStep.start;
+    last.length += joins ? 1 : 0;
+    return joins;
+  }
+  const bool isBefore = zStep.start + 1 == last.start;
+  if (last.length > 0 || (!isBefore && zStep.start != last.start)) {
+    return false;
+  }
+  last.other.insert(isBefore ? 0 : last.other.size(), zStep.other);
+  last.start = zStep.start;
+  ++bytesHeld_;
+  return true;
+}
+
+void TextHistory::PushUndo(Step zStep) {
+  bytesHeld_ += zStep.other.size();
+  undo_.push_back(std::move(zStep));
+  KeepWithinBound();
+}
+
+void TextHistory::KeepWithinBound() {
+  const std::size_t bound = std::max(MinimumBytes, 2 * text_.size());
+  const auto isTooMuch = [this, bound] { return bytesHeld_ + undo_.size() * sizeof(Step) > bound; };
+  while (undo_.size() > 1 && isTooMuch()) {
+    bytesHeld_ -= undo_.front().other.size();
+    undo_.pop_front();
+  }
+}
+
+void TextHistory::ForgetRedo() {
+  for (const Step& step : redo_) {
+    bytesHeld_ -= step.other.size();
+  }
+  redo_.clear();
+}
+
+/// The bytes of the document from `zFrom` to before `zEnd`, made in pieces.
+std::string TextHistory::AreaText(int zFrom, int zEnd) const {
+  std::string bytes;
+  bytes.reserve(static_cast<std::size_t>(std::max(zEnd - zFrom, 0)));
+  QTextCursor cursor(area_->document());
+  for (int from = zFrom; from < zEnd; from += PieceLength) {
+    cursor.setPosition(from);
+    cursor.setPosition(std::min(from + PieceLength, zEnd), QTextCursor::KeepAnchor);
+    bytes += BytesOf(cursor.selectedText());
+  }
+  return bytes;
+}
+
+bool TextHistory::eventFilter(QObject* zWatched, QEvent* zEvent) {
+  if (zEvent->type() == QEvent::KeyPress) {
+    const auto* key = static_cast<QKeyEvent*>(zEvent);
+    if (key->matches(QKeySequence::Undo)) {
+      Undo();
+      return true;
+    }
+    if (key->matches(QKeySequence::Redo)) {
+      Redo();
+      return true;
+    }
+  }
+  return QObject::eventFilter(zWatched, zEvent);
+}
+
+void TextHistory::ShowContextMenu(const QPoint& zPosition) {
+  QMenu* menu = area_->createStandardContextMenu(zPosition);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const QList<QAction*> actions = menu->actions();
+  const auto replace = [menu, this](QAction* zOld, bool zIsEnabled, auto zStep) {
+    auto* own = new QAction(zOld->icon(), zOld->text(), menu);
+    own->setEnabled(zIsEnabled);
+    connect(own, &QAction::triggered, this, zStep);
+    menu->insertAction(zOld, own);
+    menu->removeAction(zOld);
+  };
+  replace(actions.at(0), CanUndo(), &TextHistory::Undo);
+  replace(actions.at(1), CanRedo(), &TextHistory::Redo);
+  menu->popup(area_->viewport()->mapToGlobal(zPosition));
+}
+
+}  // namespace loquitor

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QObject>
+#include <cstddef>
+#include <deque>
+#include <string>
+#include <string_view>
+
+#include "ui/toolkit/text_area.h"
+
+namespace loquitor {
+
+/// Keeps the text of a TextArea as bytes beside it, and its undo steps within bounded memory, for
+/// texts of many megabytes. It takes the place of the area's own undo: Ctrl+Z, Ctrl+Y and the
+/// context menu reach this one. A run of typing or erasing is one step, and so is each call that
+/// changes the text. A step holds only the text that is not in the box, so that replacing a whole
+/// text costs its size once. Positions count bytes; a line break is one LF.
+class TextHistory : public QObject {
+  Q_OBJECT
+ public:
+  /// What the steps may hold together: `MinimumBytes`, or twice the text where that is more. The
+  /// newest step is kept whatever its size; the oldest go first.
+  static constexpr std::size_t MinimumBytes = std::size_t{8} << 20;
+
+  /// Becomes a child of `zArea`, whose text it takes over.
+  explicit TextHistory(TextArea* zArea);
+
+  /// The text of the area.
+  const std::string& Text() const { return text_; }
+
+  /// Shows `zText` and forgets all steps. The caret stands at the start.
+  void Load(std::string zText);
+
+  /// Replaces the whole text, which is one step. The caret stands at the start.
+  void ReplaceAll(std::string zText);
+
+  /// Adds `zText` behind the last character, which is one step. The caret ends behind it, in view.
+  void Append(std::string_view zText);
+
+  bool CanUndo() const { return !undo_.empty(); }
+  bool CanRedo() const { return !redo_.empty(); }
+
+  /// Takes back the latest step, or does it again. Nothing happens when there is none.
+  void Undo();
+  void Redo();
+
+  /// How many bytes of text the steps hold.
+  std::size_t BytesHeld() const { return bytesHeld_; }
+
+ protected:
+  bool eventFilter(QObject* zWatched, QEvent* zEvent) override;
+
+ private:
+  /// To take a step back: `length` bytes from `start` on become `other`.
+  struct Step {
+    std::size_t start = 0;
+    std::size_t length = 0;
+    std::string other;
+    int caret = -1;      ///< where the caret goes; -1: behind `other`
+    bool isRun = false;  ///< one character typed or erased, and those that followed it
+  };
+
+  void RecordChange(int zFrom, int zRemoved);
+  bool JoinsLastStep(const Step& zStep);
+  void PushUndo(Step zStep);
+  void KeepWithinBound();
+  Step Apply(Step zStep);
+  void Show();
+  std::string AreaText(int zFrom, int zEnd) const;
+  void ForgetRedo();
+  void ShowContextMenu(const QPoint& zPosition);
+
+  TextArea* area_;
+  std::string text_;
+  std::deque<Step> undo_;
+  std::deque<Step> redo_;
+  std::size_t bytesHeld_ = 0;
+  bool isOwnChange_ = false;
+};
+
+}  // namespace loquitor
