@@ -31,6 +31,9 @@ class WordImport {
   /// How many words that is.
   std::size_t Count() const { return count_; }
 
+  /// How many bytes that takes, with those of a word that goes on.
+  std::size_t Size() const { return addedText_.size() + word_.size(); }
+
  private:
   void TakeWord();
 

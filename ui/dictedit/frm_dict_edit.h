@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+#include "ui/dictedit/word_import.h"
+#include "ui/toolkit/editor_context.h"
+#include "ui/toolkit/form.h"
+#include "ui/toolkit/text_history.h"
+#include "ui/toolkit/tool_window.h"
+
+namespace loquitor {
+
+/// The dictionary editor: the dictionary file as one text that can be typed in, searched, saved,
+/// sorted, cleaned and fed with the words of ImportWords.txt (in the working directory). Only the
+/// saving buttons write the file; closing the window drops what has not been saved.
+class frmDictEdit : public ToolWindow {
+  Q_OBJECT
+ public:
+  /// Beyond this many bytes a dictionary is not shown, and an import ends.
+  static constexpr std::size_t MaximumBytes = std::size_t{100} << 20;
+
+  frmDictEdit(QWidget* zOwner, const EditorContext& zContext);
+
+ protected:
+  void Load() override;
+
+ private:
+  void btnSaveChanges_Click();
+  void btnFind_Click();
+  void btnSort_Click();
+  void btnEraseBlank_Click();
+  void btnReadTerms_Click();
+  void btnDone_Click();
+
+  void ConnectControls();
+  void LoadDictionary();
+  void TellOnceShown(const QString& zText);
+  void SaveAndRewrite(QWidget* zButton, std::string (*zRewrite)(std::string));
+  bool SaveText();
+  bool MayReplaceFile();
+  void FindNext();
+  void ShowSelection();
+  QString ImportFailure(WordImport& zImport);
+
+  EditorContext context_;
+  Form form_;
+  TextArea* txtDictionary_;
+  TextHistory* history_;
+  QString sought_;
+  bool isUnread_ = false;  ///< the file is there, but the box does not show what is in it
+};
+
+}  // namespace loquitor
