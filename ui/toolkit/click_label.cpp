@@ -95,8 +95,7 @@ void ClickLabel::paintEvent(QPaintEvent* zEvent) {
   QLabel::paintEvent(zEvent);
   if (isCurrent_) {
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    DrawFocusMark(painter, rect(), palette());
   }
 }
 

@@ -1,5 +1,6 @@
 #include "ui/toolkit/colours.h"
 
+#include <QPainter>
 #include <QWidget>
 
 namespace loquitor {
@@ -18,6 +19,13 @@ QColor LineColour(const QPalette& zPalette) {
   const auto mix = [](float zBack, float zText) { return zBack + (zText - zBack) * Share; };
   return QColor::fromRgbF(mix(back.redF(), text.redF()), mix(back.greenF(), text.greenF()),
                           mix(back.blueF(), text.blueF()));
+}
+
+void DrawFocusMark(QPainter& zPainter, const QRect& zPlace, const QPalette& zPalette) {
+  zPainter.setPen(zPalette.color(QPalette::Highlight));
+  zPainter.setBrush(Qt::NoBrush);
+  zPainter.drawRect(zPlace.adjusted(0, 0, -1, -1));
+  zPainter.drawRect(zPlace.adjusted(1, 1, -2, -2));
 }
 
 void SetColours(QWidget* zWidget, QPalette::ColorRole zBackground, QPalette::ColorRole zText,

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QPalette>
 
+class QPainter;
+class QRect;
 class QWidget;
 
 namespace loquitor {
@@ -13,6 +15,9 @@ QColor ReadableOn(const QColor& zBackground);
 /// A colour for thin lines and borders that shows on the window background of `zPalette`, light or
 /// dark, without shouting.
 QColor LineColour(const QPalette& zPalette);
+
+/// Draws the mark of the focus just inside `zPlace`.
+void DrawFocusMark(QPainter& zPainter, const QRect& zPlace, const QPalette& zPalette);
 
 /// Gives `zWidget` this background in the role `zBackground`, and text in the role `zText` that is
 /// readable on it; an invalid colour gives both back to the desktop.

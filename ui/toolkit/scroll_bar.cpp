@@ -1,9 +1,11 @@
 #include "ui/toolkit/scroll_bar.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <utility>
 
+#include "ui/toolkit/colours.h"
 #include "ui/toolkit/focus_reason.h"
 
 namespace loquitor {
@@ -18,7 +20,8 @@ ScrollBar::ScrollBar(int zMaximum, int zPage, int zValue, QWidget* zParent)
   setContextMenuPolicy(Qt::NoContextMenu);
   connect(this, &QScrollBar::sliderPressed, this, &ScrollBar::OnPressed);
   connect(this, &QScrollBar::sliderReleased, this, &ScrollBar::OnReleased);
-  connect(this, &QScrollBar::sliderMoved, this, [this] { isDragStep_ = true; });
+  connect(this, &QScrollBar::actionTriggered, this,
+          [this](int zAction) { isDragStep_ = zAction == SliderMove && isSliderDown(); });
   connect(this, &QScrollBar::valueChanged, this, &ScrollBar::OnValueChanged);
 }
 
@@ -27,7 +30,7 @@ void ScrollBar::OnPressed() {
 }
 
 void ScrollBar::OnValueChanged() {
-  // A drag announces each of its steps by sliderMoved just before the value changes.
+  // A drag announces each of its steps as an action just before the value changes; code does not.
   if (std::exchange(isDragStep_, false)) {
     emit Scroll();
     return;
@@ -63,12 +66,25 @@ void ScrollBar::wheelEvent(QWheelEvent* zEvent) {
   QScrollBar::wheelEvent(zEvent);
 }
 
+void ScrollBar::keyPressEvent(QKeyEvent* zEvent) {
+  // Qt turns all keys of a scroll bar round, which makes these two go the wrong way.
+  switch (zEvent->key()) {
+    case Qt::Key_Left:
+      triggerAction(SliderSingleStepSub);
+      break;
+    case Qt::Key_Right:
+      triggerAction(SliderSingleStepAdd);
+      break;
+    default:
+      QScrollBar::keyPressEvent(zEvent);
+  }
+}
+
 void ScrollBar::paintEvent(QPaintEvent* zEvent) {
   QScrollBar::paintEvent(zEvent);
   if (hasFocus()) {
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    DrawFocusMark(painter, rect(), palette());
   }
 }
 

@@ -29,6 +29,7 @@ class ScrollBar : public QScrollBar {
  protected:
   void focusInEvent(QFocusEvent* zEvent) override;
   void focusOutEvent(QFocusEvent* zEvent) override;
+  void keyPressEvent(QKeyEvent* zEvent) override;
   void wheelEvent(QWheelEvent* zEvent) override;
   void paintEvent(QPaintEvent* zEvent) override;
 

@@ -99,9 +99,10 @@ void TextArea::keyPressEvent(QKeyEvent* zEvent) {
     ensureCursorVisible();
     return;
   }
-  const QString typed = zEvent->text();
-  if (!typed.isEmpty() && typed.front().isPrint() && !CanHold(typed)) {
-    ShowRefusal(this, typed);
+  const bool isCommand = zEvent->modifiers() == Qt::ControlModifier ||
+                         zEvent->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+  if (!isCommand && !CanHold(zEvent->text())) {
+    ShowRefusal(this, zEvent->text());
     return;
   }
   QPlainTextEdit::keyPressEvent(zEvent);

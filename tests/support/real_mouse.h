@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+
+namespace loquitor::testing {
+
+/// A mouse as the desktop's: its presses go to the window under it (a modal box that is up swallows
+/// them) and carry the real time, so that Qt itself tells double clicks from two clicks. QTest's
+/// own presses never make a double click.
+class RealMouse {
+ public:
+  RealMouse() : origin_(QTest::lastMouseTimestamp + 10'000) { clock_.start(); }
+
+  void Press(const QWidget* zWidget) {
+    QTest::lastMouseTimestamp = Now();
+    QTest::mousePress(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
+  }
+  void Release(const QWidget* zWidget) {
+    QTest::lastMouseTimestamp = Now();
+    QTest::mouseRelease(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
+  }
+  void Click(const QWidget* zWidget) {
+    Press(zWidget);
+    Release(zWidget);
+  }
+
+  /// Clicks, and once more `zMilliseconds` later, from whatever event loop runs then. Returns when
+  /// the first click has been handled.
+  void ClickTwice(QWidget* zWidget, int zMilliseconds) {
+    QTimer::singleShot(zMilliseconds, Qt::PreciseTimer, zWidget,
+                       [this, zWidget] { Click(zWidget); });
+    Click(zWidget);
+  }
+
+ private:
+  int Now() const { return origin_ + static_cast<int>(clock_.elapsed()); }
+  static QWindow* Window(const QWidget* zWidget) { return zWidget->window()->windowHandle(); }
+  static QPoint Middle(const QWidget* zWidget) {
+    return zWidget->mapTo(zWidget->window(), zWidget->rect().center());
+  }
+
+  int origin_;
+  QElapsedTimer clock_;
+};
+
+}  // namespace loquitor::testing

@@ -1,0 +1,115 @@
+#include "ui/toolkit/click_label.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <utility>
+
+#include "tests/support/real_mouse.h"
+
+namespace loquitor {
+namespace {
+
+/// A label in a window, writing down its events: c for Click, d for DoubleClick.
+class ClickLabelTest : public ::testing::Test {
+ protected:
+  ClickLabelTest() {
+    label->setGeometry(10, 10, 60, 20);
+    window.resize(100, 60);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    QObject::connect(label, &ClickLabel::Click, &window, [this] {
+      events += 'c';
+      if (whenClicked) {
+        whenClicked();
+      }
+    });
+    QObject::connect(label, &ClickLabel::DoubleClick, &window, [this] { events += 'd'; });
+  }
+
+  QWidget window;
+  ClickLabel* label = new ClickLabel("IY", &window);
+  testing::RealMouse mouse;
+  std::string events;
+  std::function<void()> whenClicked;
+};
+
+TEST_F(ClickLabelTest, ClicksWhenReleasedInsideWithTheLeftButton) {
+  QTest::mouseClick(label, Qt::LeftButton);
+  EXPECT_EQ(events, "c");
+  QTest::mousePress(label, Qt::LeftButton);
+  QTest::mouseRelease(label, Qt::LeftButton, {}, {200, 200});
+  QTest::mouseClick(label, Qt::RightButton);
+  QTest::mouseRelease(label, Qt::LeftButton);
+  EXPECT_EQ(events, "c");
+}
+
+TEST_F(ClickLabelTest, ADoubleClickIsAClickFirstAndSeenWhileTheClickIsStillAtWork) {
+  whenClicked = [] { QTest::qWait(350); };
+  for (const int interval : {50, 300}) {
+    events.clear();
+    mouse.ClickTwice(label, interval);
+    EXPECT_EQ(events, "cd") << interval;
+    QTest::qWait(450);  // the next press is no second one
+  }
+}
+
+TEST_F(ClickLabelTest, TwoSlowClicksAreTwoClicks) {
+  mouse.ClickTwice(label, 600);
+  QTest::qWait(750);
+  EXPECT_EQ(events, "cc");
+}
+
+/// Answers the box that the click opens, after a while.
+void AskAndAnswer() {
+  QMessageBox box;
+  QTimer::singleShot(300, &box, &QMessageBox::accept);
+  box.exec();
+}
+
+TEST_F(ClickLabelTest, AClickThatOpensABoxWaitsForTheSecondPress) {
+  label->SetDelaysClick(true);
+  whenClicked = AskAndAnswer;
+  mouse.ClickTwice(label, 150);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return events == "cd"; }, 3000)) << events;
+  events.clear();
+  QTest::qWait(450);
+  mouse.Click(label);
+  EXPECT_EQ(events, "") << "held back";
+  EXPECT_TRUE(QTest::qWaitFor([this] { return events == "c"; }, 3000)) << events;
+}
+
+TEST_F(ClickLabelTest, MayDisappearInItsOwnClick) {
+  whenClicked = [this] { delete std::exchange(label, nullptr); };
+  QAccessible::queryAccessibleInterface(label)->actionInterface()->doAction("Double press");
+  EXPECT_EQ(events, "c");
+}
+
+TEST_F(ClickLabelTest, CanBePressedByAssistivePrograms) {
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(label);
+  EXPECT_EQ(accessible->role(), QAccessible::Button);
+  EXPECT_EQ(accessible->text(QAccessible::Name), "IY");
+  QAccessibleActionInterface* actions = accessible->actionInterface();
+  actions->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(events, "c");
+  actions->doAction(actions->actionNames().back());
+  EXPECT_EQ(events, "ccd");
+}
+
+TEST_F(ClickLabelTest, ShowsItsBackgroundAndItsPlaceInTheGroup) {
+  const QColor plain = label->grab().toImage().pixelColor(1, 1);
+  label->SetBackground(Qt::darkBlue);
+  EXPECT_EQ(label->grab().toImage().pixelColor(1, 1), QColor(Qt::darkBlue));
+  EXPECT_EQ(label->palette().color(QPalette::Text), QColor(Qt::white));
+  label->SetBackground({});
+  EXPECT_EQ(label->grab().toImage().pixelColor(1, 1), plain);
+  label->SetCurrent(true);
+  EXPECT_NE(label->grab().toImage().pixelColor(0, 0), plain);
+}
+
+}  // namespace
+}  // namespace loquitor

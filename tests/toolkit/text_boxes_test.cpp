@@ -1,0 +1,254 @@
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QDialog>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolTip>
+
+#include "ui/toolkit/code_page.h"
+#include "ui/toolkit/text_area.h"
+#include "ui/toolkit/text_box.h"
+
+namespace loquitor {
+namespace {
+
+/// All characters that the code page has but the line breaks, which boxes treat on their own.
+std::string AllButLineBreaks() {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) {
+    if (byte != '\r' && byte != '\n') {
+      bytes.push_back(static_cast<char>(byte));
+    }
+  }
+  return bytes;
+}
+
+/// A window with one box of each kind and a default button.
+class TextBoxes : public ::testing::Test {
+ protected:
+  TextBoxes() {
+    box.setGeometry(10, 10, 200, 24);
+    area.setGeometry(10, 40, 300, 100);
+    button.setGeometry(10, 150, 80, 24);
+    button.setDefault(true);
+    window.resize(320, 200);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  static void Type(QWidget& zBox, const QString& zText) {
+    zBox.setFocus();
+    for (const char32_t character : zText.toUcs4()) {
+      QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUcs4(&character, 1));
+      QCoreApplication::sendEvent(&zBox, &press);
+    }
+  }
+  static void Paste(QWidget& zBox, const QString& zText) {
+    zBox.setFocus();
+    QGuiApplication::clipboard()->setText(zText);
+    QTest::keySequence(&zBox, QKeySequence::Paste);
+  }
+  static void Commit(QWidget& zBox, const QString& zText) {
+    zBox.setFocus();
+    QInputMethodEvent commit;
+    commit.setCommitString(zText);
+    QCoreApplication::sendEvent(&zBox, &commit);
+  }
+  static void Drop(QWidget& zBox, const QString& zText) {
+    QMimeData data;
+    data.setText(zText);
+    QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&zBox, &enter);
+    QDropEvent drop(QPointF(3, 3), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&zBox, &drop);
+  }
+  void TearDown() override { QToolTip::hideText(); }
+
+  QDialog window;
+  TextBox box{&window};
+  TextArea area{&window};
+  QPushButton button{&window};
+};
+
+TEST_F(TextBoxes, TakeWhatTheCodePageHoldsAndRefuseTheRestWithAHint) {
+  using Insert = void (*)(QWidget&, const QString&);
+  struct Row {
+    const char* way;
+    Insert insert;
+  };
+  for (const Row& row : {Row{"typed", &Type}, {"pasted", &Paste}, {"input method", &Commit}}) {
+    box.SetText("");
+    area.SetText("");
+    for (QWidget* each : std::initializer_list<QWidget*>{&box, &area}) {
+      QToolTip::hideText();
+      row.insert(*each, QString::fromUtf8("é€"));
+      QCoreApplication::processEvents();
+      EXPECT_FALSE(QToolTip::text().contains("cannot be used")) << row.way;
+      row.insert(*each, QString::fromUtf8("ř"));
+      row.insert(*each, QString::fromUtf8("🙂"));
+      QCoreApplication::processEvents();
+      EXPECT_TRUE(QToolTip::text().contains(QString::fromUtf8("“🙂” cannot be used")))
+          << row.way;
+    }
+    EXPECT_EQ(box.Text(), "\xE9\x80") << row.way;
+    EXPECT_EQ(area.Text(), "\xE9\x80") << row.way;
+  }
+}
+
+TEST_F(TextBoxes, RefuseADropAndAPasteWholeSoThatNothingIsHalfInserted) {
+  box.SetText("kept");
+  area.SetText("kept");
+  for (const auto insert : {&Paste, &Drop}) {
+    insert(box, QString::fromUtf8("good řbad"));
+    insert(*area.viewport(), QString::fromUtf8("good řbad"));
+  }
+  Paste(area, QString::fromUtf8("good řbad"));
+  EXPECT_EQ(box.Text(), "kept");
+  EXPECT_EQ(area.Text(), "kept");
+  Drop(box, "+");
+  Drop(*area.viewport(), "+");
+  EXPECT_EQ(box.Text().size(), 5U);
+  EXPECT_EQ(area.Text().size(), 5U);
+}
+
+TEST_F(TextBoxes, ComposeAccentsThatArriveAsTwoCharacters) {
+  Paste(box, QString::fromUtf8("cafe\u0301"));
+  Paste(area, QString::fromUtf8("cafe\u0301"));
+  EXPECT_EQ(box.Text(), "caf\xE9");
+  EXPECT_EQ(area.Text(), "caf\xE9");
+}
+
+TEST_F(TextBoxes, LineBreaksPastedIntoOneLineBecomeBlanks) {
+  Paste(box, "one\r\n\r\ntwo\nthree\n");
+  EXPECT_EQ(box.Text(), "one two three");
+  EXPECT_EQ(box.cursorPosition(), 13);
+}
+
+TEST_F(TextBoxes, GiveBackExactlyWhatTheyWereGiven) {
+  const std::string all = AllButLineBreaks();
+  box.SetText(all);
+  EXPECT_EQ(box.Text(), all);
+  area.SetText(all + "\n" + all + "\n");
+  EXPECT_EQ(area.Text(), all + "\n" + all + "\n");
+  area.ReplaceText(all);
+  EXPECT_EQ(area.Text(), all);
+  area.Select(0, 0);
+  area.ReplaceSelection(all);
+  EXPECT_EQ(area.Text(), all + all);
+  area.Select(0x9E, 3);
+  EXPECT_EQ(area.SelectedText(), "\xA0\xA1\xA2");
+}
+
+TEST_F(TextBoxes, TheClipboardCarriesEveryCharacterFromAreaToArea) {
+  const std::string text = AllButLineBreaks().substr(1) + "\nsecond";  // X selections end at a NUL
+  area.SetText(text);
+  area.selectAll();
+  area.copy();
+  EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasHtml());
+  area.SetText("");
+  area.paste();
+  EXPECT_EQ(area.Text(), text);
+}
+
+TEST_F(TextBoxes, EveryLineBreakOfAnAreaIsOneCharacter) {
+  area.SetText("a\r\nb\rc\nd\n");
+  EXPECT_EQ(area.Text(), "a\nb\nc\nd\n");
+  area.Select(2, 4);
+  EXPECT_EQ(area.SelectedText(), "b\nc\n");
+  EXPECT_EQ(area.SelectionStart(), 2);
+  EXPECT_EQ(area.SelectionLength(), 4);
+  area.ReplaceSelection("x\r\ny");
+  EXPECT_EQ(area.Text(), "a\nx\nyd\n");
+  EXPECT_EQ(area.SelectionStart(), 5);
+  EXPECT_EQ(area.CharacterAfterCaret(), 'd');
+  area.MoveCaretRight();
+  EXPECT_EQ(area.CharacterAfterCaret(), '\n');
+  area.Select(100, 7);
+  EXPECT_EQ(area.SelectionStart(), 7);
+  EXPECT_EQ(area.CharacterAfterCaret(), 0);
+  area.MoveCaretRight();
+  EXPECT_EQ(area.SelectionStart(), 7);
+  QTest::keyClick(&area, Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(area.Text(), "a\nx\nyd\n\n");
+}
+
+TEST_F(TextBoxes, AReplacementIsOneUndoableStep) {
+  area.SetText("start");
+  EXPECT_FALSE(area.document()->isUndoAvailable());
+  area.Select(2, 2);
+  area.ReplaceSelection("X\nY ");
+  area.ReplaceText("other\ntext");
+  EXPECT_EQ(area.SelectionStart(), 0);
+  area.undo();
+  EXPECT_EQ(area.Text(), "stX\nY t");
+  area.undo();
+  EXPECT_EQ(area.Text(), "start");
+  area.redo();
+  EXPECT_EQ(area.Text(), "stX\nY t");
+}
+
+TEST_F(TextBoxes, LoseTheFocusToAnotherControlButNotToAMenuOrAnotherProgram) {
+  QSignalSpy fromBox(&box, &TextBox::LostFocus);
+  QSignalSpy fromArea(&area, &TextArea::LostFocus);
+  struct Row {
+    Qt::FocusReason reason;
+    bool isLoss;
+  };
+  for (const Row& row : {Row{Qt::MouseFocusReason, true},
+                         {Qt::TabFocusReason, true},
+                         {Qt::OtherFocusReason, true},
+                         {Qt::ActiveWindowFocusReason, false},
+                         {Qt::PopupFocusReason, false},
+                         {Qt::MenuBarFocusReason, false}}) {
+    for (QWidget* each : std::initializer_list<QWidget*>{&box, &area}) {
+      QFocusEvent out(QEvent::FocusOut, row.reason);
+      QCoreApplication::sendEvent(each, &out);
+    }
+    EXPECT_EQ(fromBox.count(), row.isLoss) << row.reason;
+    EXPECT_EQ(fromArea.count(), row.isLoss) << row.reason;
+    fromBox.clear();
+    fromArea.clear();
+  }
+}
+
+TEST_F(TextBoxes, TabLeavesAnAreaAndEnterInABoxPressesNoButton) {
+  QSignalSpy pressed(&button, &QPushButton::clicked);
+  QSignalSpy lost(&area, &TextArea::LostFocus);
+  box.setFocus();
+  QTest::keyClick(&box, Qt::Key_Return);
+  QTest::keyClick(&box, Qt::Key_Enter);
+  EXPECT_EQ(pressed.count(), 0);
+  area.setFocus();
+  QTest::keyClick(&area, Qt::Key_Tab);
+  EXPECT_FALSE(area.hasFocus());
+  EXPECT_EQ(lost.count(), 1);
+  EXPECT_EQ(area.Text(), "");
+}
+
+TEST_F(TextBoxes, TextStaysReadableOnEveryBackground) {
+  const QPalette plain = box.palette();
+  struct Row {
+    QColor background;
+    QColor text;
+  };
+  for (const Row& row : {Row{Qt::white, Qt::black},
+                         {QColor(0, 255, 0), Qt::black},
+                         {QColor(255, 0, 0), Qt::white},
+                         {QColor(0, 0, 128), Qt::white}}) {
+    box.SetBackground(row.background);
+    EXPECT_EQ(box.palette().color(QPalette::Base), row.background);
+    EXPECT_EQ(box.palette().color(QPalette::Text), row.text);
+    EXPECT_EQ(box.Background(), row.background);
+  }
+  box.SetBackground({});
+  EXPECT_EQ(box.palette().color(QPalette::Base), plain.color(QPalette::Base));
+  EXPECT_EQ(box.palette().color(QPalette::Text), plain.color(QPalette::Text));
+}
+
+}  // namespace
+}  // namespace loquitor
