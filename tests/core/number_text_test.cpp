@@ -1,0 +1,137 @@
+#include "core/number_text.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace loquitor {
+namespace {
+
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+
+TEST(NumberTextTest, ReadsTheNumberAtTheStart) {
+  struct Row {
+    const char* text;
+    double number;
+  };
+  const Row rows[] = {
+      {"", 0},
+      {"abc", 0},
+      {"7abc", 7},
+      {"12.5", 12.5},
+      {" 3", 3},
+      {"\t1 2\n3 ", 123},
+      {"1\r2", 1},  // a carriage return is no blank
+      {"-4", -4},
+      {"+4", 4},
+      {"- 4", -4},
+      {"--4", 0},
+      {"-", 0},
+      {".5", .5},
+      {"5.", 5},
+      {".", 0},
+      {"1.2.3", 1.2},
+      {"1,5", 1},
+      {"00012", 12},
+      {"0.000", 0},
+      {"-0", 0},
+      {"1E2", 100},
+      {"1d2", 100},
+      {"1e+2", 100},
+      {"25E-1", 2.5},
+      {"1E", 1},
+      {"1E+", 1},
+      {"1EX", 1},
+      {"E5", 0},
+      {".E5", 0},
+      {"1E2E3", 100},
+      {"1 E 2", 100},
+      {"0.001E3", 1},
+      {"1E400", Infinity},
+      {"-1E400", -Infinity},
+      {"1E-400", 0},
+      {"0E999999999999999999999", 0},
+      {"1E999999999999999999999", Infinity},
+      {"1E-999999999999999999999", 0},
+      {"&HFF", 255},
+      {"&hff", 255},
+      {"& H F F", 255},
+      {" &H10Z", 16},
+      {"&HZZ", 0},
+      {"&H", 0},
+      {"&", 0},
+      {"&O17", 0},
+      {"-&HFF", 0},
+      {"1&HFF", 1},
+      {"\xA0"
+       "5",
+       0},  // a no-break space is no blank
+      {"nan", 0},
+      {"inf", 0},
+      {"0x10", 0},
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(NumberAtStart(row.text), row.number) << row.text;
+    EXPECT_FALSE(std::signbit(NumberAtStart(row.text)) && row.number == 0) << row.text;
+  }
+}
+
+TEST(NumberTextTest, ReadsNumbersOfAnyLength) {
+  const std::string zeros(1'000'000, '0');
+  EXPECT_EQ(NumberAtStart(std::string(1'000'000, '9')), Infinity);
+  EXPECT_EQ(NumberAtStart(zeros + "7"), 7);
+  EXPECT_EQ(NumberAtStart("0." + zeros + "7E1000001"), 7);
+  EXPECT_EQ(NumberAtStart("1" + zeros + "E-1000000"), 1);
+  EXPECT_EQ(NumberAtStart(std::string(1'000'000, ' ') + "7"), 7);
+  EXPECT_EQ(NumberAtStart("1E" + zeros + "2"), 100);
+  EXPECT_EQ(NumberAtStart("&H" + std::string(1'000'000, 'F')), Infinity);
+  // Exactly half way between two doubles, and a little above it far behind the point.
+  EXPECT_EQ(NumberAtStart("9007199254740993"), 9007199254740992.0);
+  EXPECT_EQ(NumberAtStart("9007199254740993." + zeros + "1"), 9007199254740994.0);
+}
+
+TEST(NumberTextTest, DoesNotDependOnTheLocale) {
+  const std::string before = std::setlocale(LC_ALL, nullptr);
+  static_cast<void>(std::setlocale(LC_ALL, "de_DE.UTF-8"));  // where it is installed
+  EXPECT_EQ(NumberAtStart("2.5"), 2.5);
+  std::setlocale(LC_ALL, before.c_str());
+}
+
+TEST(NumberTextTest, RoundsToTheNearestWholeNumberHalvesToEven) {
+  struct Row {
+    const char* text;
+    std::optional<int> whole;
+  };
+  const Row rows[] = {
+      {"2.5", 2},
+      {"3.5", 4},
+      {"-2.5", -2},
+      {"-3.5", -4},
+      {"0.5", 0},
+      {"-0.5", 0},
+      {"1.5", 2},
+      {"2.4999", 2},
+      {"2.5001", 3},
+      {"0.49999999999999994", 0},
+      {"7abc", 7},
+      {"", 0},
+      {"2147483647", 2147483647},
+      {"2147483647.4", 2147483647},
+      {"2147483647.5", std::nullopt},
+      {"-2147483648.5", -2147483647 - 1},
+      {"-2147483649", std::nullopt},
+      {"99999999999", std::nullopt},
+      {"1E400", std::nullopt},
+      {"-1E400", std::nullopt},
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(WholeNumberAtStart(row.text), row.whole) << row.text;
+  }
+  EXPECT_EQ(RoundToWhole(std::nan("")), std::nullopt);
+}
+
+}  // namespace
+}  // namespace loquitor
