@@ -14,8 +14,8 @@
 #include <random>
 #include <string>
 
+#include "core/dictionary_text.h"
 #include "tests/support/window_test.h"
-#include "ui/dictedit/dictionary_text.h"
 
 namespace loquitor {
 namespace {

@@ -10,8 +10,8 @@
 #include <optional>
 #include <utility>
 
+#include "core/dictionary_text.h"
 #include "link/file_bytes.h"
-#include "ui/dictedit/dictionary_text.h"
 #include "ui/dictedit/word_list.h"
 #include "ui/toolkit/busy.h"
 #include "ui/toolkit/code_page.h"

@@ -3,7 +3,7 @@
 #include <QString>
 #include <string>
 
-#include "ui/dictedit/word_import.h"
+#include "core/word_import.h"
 #include "ui/toolkit/editor_context.h"
 #include "ui/toolkit/form.h"
 #include "ui/toolkit/text_history.h"

@@ -1,4 +1,4 @@
-#include "ui/dictedit/dictionary_text.h"
+#include "core/dictionary_text.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "ui/dictedit/word_import.h"
+#include "core/word_import.h"
 
 #include <algorithm>
 #include <iterator>
