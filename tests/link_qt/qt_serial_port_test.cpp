@@ -1,6 +1,8 @@
 #include "link/qt/qt_serial_port.h"
 
 #include <gtest/gtest.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -18,6 +20,24 @@ namespace {
 using testing::PseudoTerminal;
 using testing::TempFolder;
 using testing::WriteBytes;
+
+/// A user without rights, for whom alone permissions and the exclusive mode of devices hold.
+class AsNobody {
+ public:
+  AsNobody() {
+    if (isSuperuser_ && ::seteuid(65534) != 0) {
+      throw std::runtime_error("cannot give up rights");
+    }
+  }
+  ~AsNobody() {
+    if (isSuperuser_ && ::seteuid(0) != 0) {
+      std::abort();
+    }
+  }
+
+ private:
+  bool isSuperuser_ = ::geteuid() == 0;
+};
 
 class QtSerialPortTest : public ::testing::Test {
  protected:
@@ -124,6 +144,26 @@ TEST_F(QtSerialPortTest, APortInUseIsRefusedAndKeepsItsSettings) {
 
   port.Close();
   EXPECT_TRUE(second.Open({terminal.Path(), "2400", false}));
+}
+
+TEST_F(QtSerialPortTest, ADeviceWithoutPermissionIsRefused) {
+  ASSERT_EQ(::chmod(terminal.Path().c_str(), 0), 0);
+  AsNobody nobody;
+  EXPECT_FALSE(Open());
+}
+
+TEST_F(QtSerialPortTest, ADeviceInUseByAnyOtherProgramIsRefused) {
+  ASSERT_EQ(::chmod(terminal.Path().c_str(), 0666), 0);
+  AsNobody nobody;
+  const int other = ::open(terminal.Path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+  ASSERT_GE(other, 0);
+  ASSERT_EQ(::ioctl(other, TIOCEXCL), 0);
+  EXPECT_FALSE(Open());
+  ASSERT_EQ(::ioctl(other, TIOCNXCL), 0);
+  EXPECT_TRUE(Open());
+  ::close(other);
+  EXPECT_LT(::open(terminal.Path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC), 0);  // now it is ours
+  EXPECT_TRUE(Open());  // and opens again for us
 }
 
 TEST_F(QtSerialPortTest, AnswersAreThrownAway) {

@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QTimer>
+
+#include "link/code_sender.h"
+#include "link/qt/event_turns.h"
+#include "link/qt/qt_serial_port.h"
+#include "link/scp.h"
+#include "tests/support/pseudo_terminal.h"
+#include "tests/support/temp_folder.h"
+
+namespace loquitor {
+namespace {
+
+using testing::PseudoTerminal;
+using testing::TempFolder;
+
+/// A host with a real event loop and a real closing timer.
+class LoopHost : public SenderHost {
+ public:
+  explicit LoopHost(std::function<void()> zOnTick) : turns(std::move(zOnTick)) {}
+
+  std::string PortDevice() const override { return device; }
+  bool IsFlowControlTicked() const override { return true; }
+  void ShowPortState(PortState zState) override {
+    log += zState == PortState::Open ? "green " : zState == PortState::Closed ? "white " : "red ";
+  }
+  bool ConfirmLongPhrase() override { return true; }
+  void StopClosingTimer() override { closingTimer.stop(); }
+  void StartClosingTimer(int) override { closingTimer.start(20); }
+  void LetEventsRun() override { turns.LetEventsRun(); }
+  void WaitForEvents() override { turns.WaitForEvents(); }
+  void SetTicking(bool zIsOn) override { turns.SetTicking(zIsOn); }
+
+  EventTurns turns;
+  QTimer closingTimer;
+  std::string device;
+  std::string log;
+};
+
+/// The whole way from a string to the chip's end of a pseudo-terminal.
+class SendingTest : public ::testing::Test {
+ protected:
+  SendingTest() {
+    host.device = chip.Path();
+    host.closingTimer.setSingleShot(true);
+    QObject::connect(&host.closingTimer, &QTimer::timeout, [this] { sender.CloseSerialPort(); });
+  }
+
+  void Send(const std::string& zCodes) { sender.SendCodesToOrvatone(zCodes, false); }
+
+  /// Runs `zAct` out of the event loop once, while a send waits for the line that is held back.
+  void OnceHeldBack(std::function<void()> zAct) {
+    QObject::connect(&poll, &QTimer::timeout, &poll, [this, zAct = std::move(zAct)] {
+      const std::size_t pending = sender.PendingOutput().size();
+      if (std::exchange(lastPending, pending) == pending && pending > 0) {
+        poll.stop();
+        poll.disconnect();
+        zAct();
+      }
+    });
+    poll.start(20);
+  }
+
+  PseudoTerminal chip;
+  TempFolder folder;
+  QtSerialPort port;
+  LoopHost host{[this] { sender.Tick(); }};
+  SettingsFile settings{folder.Path()};
+  CodeSender sender{port, host, settings};
+  QTimer poll;
+  std::size_t lastPending = 0;
+  const std::string tooLong = std::string(100000, 'x');  // more than a pseudo-terminal holds
+};
+
+TEST_F(SendingTest, AllBytesArriveAndThePortClosesLater) {
+  std::string codes;
+  for (int code = 0; code < 3000; ++code) {
+    codes.push_back(static_cast<char>(code));
+  }
+  Send(codes);
+  EXPECT_EQ(chip.Received(), codes);
+  EXPECT_EQ(host.log, "green ");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !port.IsOpen(); }));
+  EXPECT_EQ(host.log, "green white ");
+}
+
+TEST_F(SendingTest, AHeldBackLineGoesOnWhenItIsReleased) {
+  std::string received;
+  QTimer reading;
+  QObject::connect(&reading, &QTimer::timeout, [&] { received += chip.Received(); });
+  OnceHeldBack([&] { reading.start(1); });
+  Send(tooLong);
+  EXPECT_EQ(received + chip.Received(), tooLong);
+}
+
+TEST_F(SendingTest, AHeldBackLineIsLeftWhenTheSendIsEndedByOthers) {
+  const struct {
+    std::function<void()> act;
+    const char* log;
+  } cases[] = {{[this] { sender.ClearPendingOutput(); }, "green "},
+               {[this] { sender.CloseSerialPort(); }, "green white "},
+               {[this] { chip.HangUp(); }, "green red "}};
+  for (const auto& one : cases) {
+    OnceHeldBack(one.act);
+    Send(tooLong);
+    EXPECT_EQ(host.log, one.log);
+    EXPECT_FALSE(sender.IsSending());
+    sender.CloseSerialPort();
+    host.log.clear();
+  }
+}
+
+TEST_F(SendingTest, ShutUpFollowsWhatHasGoneOut) {
+  std::string received;
+  OnceHeldBack([&] {
+    received = chip.Received();
+    sender.ClearPendingOutput();
+    Send(StopSequence());
+  });
+  Send(tooLong);
+  received += chip.Received();
+  EXPECT_TRUE(received.ends_with(StopSequence()));
+  EXPECT_EQ(received.find_first_not_of('x'), received.size() - StopSequence().size());
+}
+
+TEST_F(SendingTest, ALoopOfAModalWindowDoesNotStopTheSend) {
+  std::string received;
+  QTimer reading;
+  QObject::connect(&reading, &QTimer::timeout, [&] { received += chip.Received(); });
+  OnceHeldBack([&] {
+    received = chip.Received();
+    const std::size_t held = received.size();
+    reading.start(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return received.size() > held + 50; }));
+  });
+  Send(tooLong);
+  EXPECT_EQ(received + chip.Received(), tooLong);
+}
+
+TEST_F(SendingTest, AHangUpInMidSendAndWhileIdleShowsRedOnceAndTheNextSendTriesAgain) {
+  Send("abc");
+  chip.HangUp();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return sender.HasFailed(); }));
+  QTest::qWait(50);
+  EXPECT_EQ(host.log, "green red ");
+  Send("abc");
+  EXPECT_EQ(host.log, "green red red ");
+
+  PseudoTerminal another;
+  host.device = another.Path();
+  Send("abc");
+  EXPECT_EQ(another.Received(), "abc");
+  EXPECT_EQ(host.log, "green red red green ");
+}
+
+}  // namespace
+}  // namespace loquitor
