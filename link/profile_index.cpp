@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
+#include <iterator>
 #include <utility>
 
 #include "link/letter_case.h"
@@ -10,41 +12,76 @@
 namespace loquitor {
 namespace {
 
-constexpr std::size_t FewestSlots = 16;
-constexpr std::size_t SampleSize = 1 << 14;
+constexpr std::uint64_t Multiplier = 0x9E3779B97F4A7C15U;  ///< 2 to the 64th over the golden ratio
 
-/// FNV-1a over lower-case letters, its result mixed so that every bit depends on every byte.
-/// Source: the algorithm's published constants.
-class NameHash {
- public:
-  explicit NameHash(std::uint64_t zSeed) : hash_(0xCBF29CE484222325U ^ zSeed) {}
-  void Add(char zByte) {
-    const char lower = LowerCaseTable[static_cast<unsigned char>(zByte)];
-    hash_ = (hash_ ^ static_cast<unsigned char>(lower)) * 0x100000001B3U;
+/// `zBytes` of a name packed into a number, the same for capitals and small letters. Setting bit 5
+/// of a byte makes a small letter of a capital, as long as all are ASCII; that two other characters
+/// become one does no harm to a hash.
+std::uint64_t Folded(std::uint64_t zBytes) {
+  constexpr std::uint64_t bit5 = 0x2020202020202020U;
+  constexpr std::uint64_t bit7 = 0x8080808080808080U;
+  if ((zBytes & bit7) != 0) {
+    std::uint64_t lower = 0;
+    for (int shift = 0; shift < 64; shift += 8) {
+      const auto byte = static_cast<unsigned char>(LowerCaseTable[zBytes >> shift & 0xFF]);
+      lower |= std::uint64_t{byte} << shift;
+    }
+    return lower | bit5;
   }
-  std::uint32_t Tag() const {
-    return static_cast<std::uint32_t>((hash_ ^ (hash_ >> 29)) * 0x9E3779B97F4A7C15U >> 32);
-  }
-
- private:
-  std::uint64_t hash_;
-};
-
-std::uint32_t TagOf(std::string_view zName, std::uint64_t zSeed) {
-  NameHash hash(zSeed);
-  for (const char c : zName) {
-    hash.Add(c);
-  }
-  return hash.Tag();
+  return zBytes | bit5;
 }
 
-/// About as many as the lines of `zText`, from a look at its start.
-std::size_t EstimatedLines(std::string_view zText) {
-  const std::string_view sample = zText.substr(0, SampleSize);
-  const auto ends =
-      static_cast<std::size_t>(std::max(std::count(sample.begin(), sample.end(), '\n'),
-                                        std::count(sample.begin(), sample.end(), '\r')));
-  return sample.empty() ? 0 : zText.size() / sample.size() * ends;
+template <typename Number>
+std::uint64_t Load(const char* zBytes) {
+  Number number;
+  std::memcpy(&number, zBytes, sizeof number);
+  return number;
+}
+
+/// Up to eight bytes as one number. They may overlap in it, which is quicker than a loop and tells
+/// names of one length apart as well.
+std::uint64_t LoadShort(const char* zBytes, std::size_t zCount) {
+  if (zCount >= 4) {
+    return Load<std::uint32_t>(zBytes) | Load<std::uint32_t>(zBytes + zCount - 4) << 32;
+  }
+  if (zCount == 0) {
+    return 0;
+  }
+  return Load<std::uint8_t>(zBytes) | Load<std::uint8_t>(zBytes + zCount / 2) << 8 |
+         Load<std::uint8_t>(zBytes + zCount - 1) << 16;
+}
+
+std::uint64_t Mixed(std::uint64_t zHash) {
+  zHash *= Multiplier;
+  return zHash ^ (zHash >> 32);
+}
+
+/// The hash of a name in any letter case.
+std::uint32_t TagOf(std::string_view zName, std::uint64_t zSeed) {
+  std::uint64_t hash = Mixed(zSeed + zName.size());
+  const char* at = zName.data();
+  std::size_t left = zName.size();
+  for (; left > 8; left -= 8, at += 8) {
+    hash = Mixed(hash ^ Folded(Load<std::uint64_t>(at)));
+  }
+  return static_cast<std::uint32_t>(Mixed(hash ^ Folded(LoadShort(at, left))));
+}
+
+/// The key of a line that is no header, without blanks around it; nothing when it has none.
+std::optional<std::string_view> KeyOf(std::string_view zLine) {
+  const std::size_t equals = zLine.find('=');
+  if (equals == std::string_view::npos) {
+    return std::nullopt;
+  }
+  const std::string_view key = TrimBlanks(zLine.substr(0, equals));
+  return key.empty() || key.front() != ';' ? std::make_optional(key) : std::nullopt;
+}
+
+/// Fetches `zMemory` into the processor's cache ahead of its use.
+void Prefetch([[maybe_unused]] const void* zMemory) {
+#ifdef __GNUC__
+  __builtin_prefetch(zMemory, 1);
+#endif
 }
 
 }  // namespace
@@ -58,11 +95,11 @@ bool ProfileIndex::SameName::operator()(std::string_view zLeft, std::string_view
 }
 
 ProfileIndex::ProfileIndex(LoadedFile zFile) : file_(std::move(zFile)) {
-  Resize(std::bit_ceil(std::max(FewestSlots, EstimatedLines(Text()) * 3 / 2)));
-  ReadLines();
+  FillSlots(ReadLines());
 }
 
-void ProfileIndex::ReadLines() {
+std::vector<ProfileIndex::Slot> ProfileIndex::ReadLines() {
+  std::vector<Slot> entries;
   ProfileLineReader reader(Text());
   ProfileLine line;
   bool isReadable = false;  // false in front of the first header and in a section named before
@@ -72,10 +109,12 @@ void ProfileIndex::ReadLines() {
         sections_.back().end = line.begin;
       }
       isReadable = OpenSection(*name, line.next);
-    } else if (isReadable) {
-      AddEntry(line.text, line.begin);
+    } else if (const auto key = isReadable ? KeyOf(line.text) : std::nullopt) {
+      entries.push_back({TagOf(*key, sections_.size()),
+                         static_cast<std::uint32_t>(key->data() - file_.bytes.get())});
     }
   }
+  return entries;
 }
 
 bool ProfileIndex::OpenSection(std::string_view zName, std::size_t zBegin) {
@@ -86,57 +125,34 @@ bool ProfileIndex::OpenSection(std::string_view zName, std::size_t zBegin) {
   return isNew;
 }
 
-void ProfileIndex::AddEntry(std::string_view zLine, std::size_t zBegin) {
-  const char* const end = zLine.data() + zLine.size();
-  const char* start = zLine.data();
-  while (start != end && IsBlank(*start)) {
-    ++start;
-  }
-  if (start == end || *start == ';') {
-    return;
-  }
-  const char* keyEnd = start;
-  const char* at = start;
-  NameHash hash(sections_.size());
-  NameHash hashOfKey = hash;  // without the blanks behind the key
-  for (; at != end && *at != '='; ++at) {
-    hash.Add(*at);
-    if (!IsBlank(*at)) {
-      hashOfKey = hash;
-      keyEnd = at + 1;
+void ProfileIndex::FillSlots(const std::vector<Slot>& zEntries) {
+  constexpr std::size_t ahead = 16;  // entries; about as long as memory takes to answer
+  slots_.resize(std::bit_ceil(zEntries.size() * 2 + 1));
+  for (std::size_t i = 0; i < zEntries.size(); ++i) {
+    if (i + ahead < zEntries.size()) {
+      Prefetch(&slots_[zEntries[i + ahead].tag & (slots_.size() - 1)]);
     }
-  }
-  if (at == end) {
-    return;
-  }
-  const std::string_view key(start, static_cast<std::size_t>(keyEnd - start));
-  const std::uint32_t tag = hashOfKey.Tag();
-  const std::size_t mask = slots_.size() - 1;
-  std::size_t i = tag & mask;
-  for (; slots_[i].place != 0; i = (i + 1) & mask) {
-    if (HoldsKey(slots_[i], tag, sections_.back(), key)) {
-      return;
-    }
-  }
-  slots_[i] = {tag,
-               static_cast<std::uint32_t>(zBegin + static_cast<std::size_t>(start - zLine.data()))};
-  if (++count_ * 2 > slots_.size()) {
-    Resize(slots_.size() * 2);
+    Insert(zEntries[i]);
   }
 }
 
-void ProfileIndex::Resize(std::size_t zSlots) {
-  std::vector<Slot> slots(zSlots);
-  for (const Slot& slot : slots_) {
-    if (slot.place != 0) {
-      std::size_t i = slot.tag & (zSlots - 1);
-      while (slots[i].place != 0) {
-        i = (i + 1) & (zSlots - 1);
-      }
-      slots[i] = slot;
+void ProfileIndex::Insert(const Slot& zEntry) {
+  const std::size_t mask = slots_.size() - 1;
+  std::size_t i = zEntry.tag & mask;
+  for (; slots_[i].place != 0; i = (i + 1) & mask) {
+    if (slots_[i].tag == zEntry.tag && HoldsKey(slots_[i], zEntry.tag, SectionAround(zEntry.place),
+                                                *KeyOf(LineFrom(zEntry.place)))) {
+      return;
     }
   }
-  slots_ = std::move(slots);
+  slots_[i] = zEntry;
+}
+
+const ProfileIndex::Section& ProfileIndex::SectionAround(std::size_t zPlace) const {
+  const auto next =
+      std::upper_bound(sections_.begin(), sections_.end(), zPlace,
+                       [](std::size_t zOne, const Section& zOther) { return zOne < zOther.begin; });
+  return *std::prev(next);
 }
 
 std::string_view ProfileIndex::LineFrom(std::size_t zPlace) const {
@@ -149,8 +165,7 @@ bool ProfileIndex::HoldsKey(const Slot& zSlot, std::uint32_t zTag, const Section
   if (zSlot.tag != zTag || zSlot.place < zSection.begin || zSlot.place >= zSection.end) {
     return false;
   }
-  const std::string_view line = LineFrom(zSlot.place);
-  return EqualNames(TrimBlanks(line.substr(0, line.find('='))), zKey);
+  return EqualNames(*KeyOf(LineFrom(zSlot.place)), zKey);
 }
 
 std::optional<std::string_view> ProfileIndex::Find(std::string_view zSection,

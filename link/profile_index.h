@@ -50,19 +50,19 @@ class ProfileIndex {
     bool operator()(std::string_view zLeft, std::string_view zRight) const;
   };
 
-  void ReadLines();
+  std::vector<Slot> ReadLines();
   bool OpenSection(std::string_view zName, std::size_t zBegin);
-  void AddEntry(std::string_view zLine, std::size_t zBegin);
+  void FillSlots(const std::vector<Slot>& zEntries);
+  void Insert(const Slot& zEntry);
   bool HoldsKey(const Slot& zSlot, std::uint32_t zTag, const Section& zSection,
                 std::string_view zKey) const;
+  const Section& SectionAround(std::size_t zPlace) const;
   std::string_view LineFrom(std::size_t zPlace) const;
-  void Resize(std::size_t zSlots);
 
   LoadedFile file_;
   std::vector<Section> sections_;
   std::unordered_map<std::string_view, std::size_t, HashName, SameName> sectionsByName_;
   std::vector<Slot> slots_;  ///< a power of two of them, at most half of them taken
-  std::size_t count_ = 0;
 };
 
 }  // namespace loquitor

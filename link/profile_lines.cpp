@@ -12,16 +12,6 @@ constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
-std::string_view TrimBlanks(std::string_view zText) {
-  while (!zText.empty() && IsBlank(zText.front())) {
-    zText.remove_prefix(1);
-  }
-  while (!zText.empty() && IsBlank(zText.back())) {
-    zText.remove_suffix(1);
-  }
-  return zText;
-}
-
 bool EqualNames(std::string_view zLeft, std::string_view zRight) {
   return zLeft.size() == zRight.size() &&
          std::equal(zLeft.begin(), zLeft.end(), zRight.begin(), [](char zOne, char zOther) {

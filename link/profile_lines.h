@@ -14,7 +14,15 @@ constexpr bool IsBlank(char zChar) {
 }
 
 /// `zText` without the blanks at its two ends.
-std::string_view TrimBlanks(std::string_view zText);
+inline std::string_view TrimBlanks(std::string_view zText) {
+  while (!zText.empty() && IsBlank(zText.front())) {
+    zText.remove_prefix(1);
+  }
+  while (!zText.empty() && IsBlank(zText.back())) {
+    zText.remove_suffix(1);
+  }
+  return zText;
+}
 
 /// True when the two names differ at most in letter case (Windows-1252).
 bool EqualNames(std::string_view zLeft, std::string_view zRight);
