@@ -1,7 +1,9 @@
 # Loquitor runs from one folder with its files beside it, anywhere in the user's home.
-if(TARGET Loquitor)
-  install(TARGETS Loquitor loquitor-say virtual-orvatone RUNTIME DESTINATION .)
-endif()
+foreach(program Loquitor loquitor-say virtual-orvatone)
+  if(TARGET ${program})
+    install(TARGETS ${program} RUNTIME DESTINATION .)
+  endif()
+endforeach()
 install(PROGRAMS dist/register-desktop DESTINATION .)
 install(FILES dist/org.loquitor.Loquitor.desktop dist/org.loquitor.Loquitor.svg
               dist/org.loquitor.Loquitor.metainfo.xml DESTINATION share)

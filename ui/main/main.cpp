@@ -1,0 +1,20 @@
+#include <QApplication>
+
+#include "link/program_folder.h"
+#include "link/qt/qt_serial_port.h"
+#include "ui/main/frm_utility.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(loquitor::ApplicationTitle);
+  QApplication::setApplicationVersion(QStringLiteral("1.4"));
+
+  const std::filesystem::path folder = loquitor::ProgramFolder();
+  const loquitor::SettingsFile settings(folder);
+  const loquitor::DictionaryStore dictionary(folder);
+  loquitor::QtSerialPort port;
+  loquitor::DesktopPrompts prompts;
+  loquitor::frmUtility window(port, settings, dictionary, prompts);
+  window.Open();
+  return QApplication::exec();
+}
