@@ -70,6 +70,19 @@ bool QtSerialPort::WriteByte(std::uint8_t zByte) {
   return isOpen_;
 }
 
+int QtSerialPort::UnsentBytes() const {
+  return isOpen_ ? static_cast<int>(port_.bytesToWrite()) + BytesInSystemQueue(port_) : 0;
+}
+
+void QtSerialPort::CloseWhenSent() {
+  if (isOpen_) {
+    WaitForLine(port_);
+    isOpen_ = false;
+    port_.close();
+  }
+  Close();
+}
+
 void QtSerialPort::SetFailureHandler(std::function<void()> zHandler) {
   failureHandler_ = std::move(zHandler);
 }

@@ -32,6 +32,10 @@ bool TakesByteNow(const QSerialPort&) {
   return true;
 }
 
+void WaitForLine(const QSerialPort& zPort) {
+  static_cast<void>(FlushFileBuffers(zPort.handle()));  // closing anyway
+}
+
 void DiscardSystemQueue(const QSerialPort& zPort) {
   static_cast<void>(PurgeComm(zPort.handle(), PURGE_TXABORT | PURGE_TXCLEAR));  // closing anyway
 }
@@ -59,6 +63,10 @@ int BytesInSystemQueue(const QSerialPort& zPort) {
 bool TakesByteNow(const QSerialPort& zPort) {
   pollfd line{.fd = zPort.handle(), .events = POLLOUT, .revents = 0};
   return ::poll(&line, 1, 0) > 0;  // a line that has hung up counts: the write then tells
+}
+
+void WaitForLine(const QSerialPort& zPort) {
+  static_cast<void>(::tcdrain(zPort.handle()));  // a line that has hung up takes nothing
 }
 
 void DiscardSystemQueue(const QSerialPort& zPort) {

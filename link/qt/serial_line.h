@@ -18,6 +18,10 @@ int BytesInSystemQueue(const QSerialPort& zPort);
 /// Whether the system's queue takes a byte at once.
 bool TakesByteNow(const QSerialPort& zPort);
 
+/// Waits until the line has taken what the system's queue no longer holds, such as the bytes in the
+/// transmitter itself.
+void WaitForLine(const QSerialPort& zPort);
+
 /// Throws away what waits in the system's queue, so that closing has nothing to wait for.
 void DiscardSystemQueue(const QSerialPort& zPort);
 

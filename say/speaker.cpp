@@ -1,0 +1,100 @@
+#include "say/speaker.h"
+
+#include "core/number_text.h"
+#include "link/port_numbers.h"
+#include "link/qt/serial_devices.h"
+
+namespace loquitor {
+
+namespace {
+
+/// At the end as long as this without a byte leaving for the line means that the chip is stuck: it
+/// holds the line back while it speaks, at the very most some seconds a sound.
+constexpr std::chrono::seconds LongestStandstill{10};
+
+}  // namespace
+
+Speaker::Speaker(const SettingsFile& zSettings, bool zIsForced)
+    : settings_(zSettings),
+      isForced_(zIsForced),
+      sender_(port_, *this, settings_),
+      turns_([this] { sender_.Tick(); }) {}
+
+bool Speaker::Say(std::string_view zCodes) {
+  complaint_.clear();
+  sender_.SendCodesToOrvatone(zCodes, true);
+  return complaint_.empty();
+}
+
+bool Speaker::Finish() {
+  complaint_.clear();
+  SetTicking(true);
+  WaitUntilSent();
+  SetTicking(false);
+  if (complaint_.empty()) {
+    port_.CloseWhenSent();
+  }
+  return complaint_.empty();
+}
+
+void Speaker::WaitUntilSent() {
+  using Clock = std::chrono::steady_clock;
+  int waiting = port_.UnsentBytes();
+  Clock::time_point lastProgress = Clock::now();
+  while (waiting > 0) {
+    WaitForEvents();
+    const int nowWaiting = port_.UnsentBytes();
+    if (nowWaiting != waiting) {
+      lastProgress = Clock::now();
+    } else if (Clock::now() - lastProgress > LongestStandstill) {
+      complaint_ = "the chip holds the line back; its last " + std::to_string(waiting) +
+                   " bytes were not sent";
+      return;
+    }
+    waiting = nowWaiting;
+  }
+}
+
+std::string Speaker::PortNumberText() const {
+  return settings_.GetIniValue("Serial", "Port", "1");
+}
+
+std::string Speaker::PortDevice() const {
+  const std::optional<int> number = WholeNumberAtStart(PortNumberText());
+  return number ? DeviceForPort(*number, settings_, PresentSerialDevices()) : std::string();
+}
+
+bool Speaker::IsFlowControlTicked() const {
+  return IsTrueText(settings_.GetIniValue("Serial", "FlowControl", "1"));
+}
+
+void Speaker::ShowPortState(PortState zState) {
+  if (zState != PortState::Failed) {
+    wasOpen_ = zState == PortState::Open;
+    return;
+  }
+  const std::string device = PortDevice();
+  const std::string port = "port " + PortNumberText();
+  if (wasOpen_) {
+    complaint_ = port + " failed while sending";
+  } else if (device.empty()) {
+    complaint_ = "there is no " + port +
+                 "; plug the adapter in, or map the number to a device in section [Ports] of "
+                 "Loquitor.ini";
+  } else {
+    complaint_ = "cannot open " + port + " (" + device +
+                 "): missing, no serial port, in use by another program, or not permitted";
+  }
+  wasOpen_ = false;
+}
+
+bool Speaker::ConfirmLongPhrase() {
+  if (!isForced_) {
+    complaint_ =
+        "flow control is off and the phrase is longer than 64 codes, so that some of them would be "
+        "lost; nothing was sent (--force sends it all the same)";
+  }
+  return isForced_;
+}
+
+}  // namespace loquitor
