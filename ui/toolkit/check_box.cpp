@@ -18,7 +18,8 @@ QRect VisiblePart(const QWidget* zButton) {
                            : zButton->rect() & parent->rect().translated(-zButton->pos());
 }
 
-/// Draws mark and wrapped caption; the style's own drawing keeps a caption in one line.
+/// Draws mark and wrapped caption; the style's own drawing keeps a caption in one line. Without a
+/// caption the mark stands in the middle.
 void PaintWrapped(QAbstractButton* zButton, QStyleOptionButton zOption,
                   QStyle::PrimitiveElement zMark, QSize zMarkSize) {
   QStylePainter painter(zButton);
@@ -28,13 +29,15 @@ void PaintWrapped(QAbstractButton* zButton, QStyleOptionButton zOption,
   const bool hasFocus = (zOption.state & QStyle::State_HasFocus) != 0;
 
   const QSize mark = zMarkSize.boundedTo({all.height(), all.height()});
-  zOption.rect = QRect(
-      QPoint((zMarkSize.width() - mark.width()) / 2, (all.height() - mark.height()) / 2), mark);
+  const int roomForMark = caption.isEmpty() ? all.width() : zMarkSize.width();
+  zOption.rect =
+      QRect(QPoint((roomForMark - mark.width()) / 2, (all.height() - mark.height()) / 2), mark);
   painter.drawPrimitive(zMark, zOption);
 
   painter.setFont(WrappingFont(zButton->font(), caption, {text.width(), zButton->height()}));
   constexpr int Flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
-  const QRect used = painter.fontMetrics().boundingRect(text, Flags, caption);
+  const QRect used = caption.isEmpty() ? zOption.rect.adjusted(-1, -3, 0, 2)
+                                       : painter.fontMetrics().boundingRect(text, Flags, caption);
   painter.setPen(zButton->palette().color(QPalette::WindowText));
   painter.drawText(text, Flags, caption);
   if (hasFocus) {

@@ -17,12 +17,21 @@ namespace {
 class AccessibleClickLabel : public QAccessibleWidget {
  public:
   explicit AccessibleClickLabel(ClickLabel* zLabel)
-      : QAccessibleWidget(zLabel, QAccessible::Button, zLabel->text()) {}
+      : QAccessibleWidget(zLabel, QAccessible::Button) {}
+
+  QString text(QAccessible::Text zKind) const override {
+    const QString own = QAccessibleWidget::text(zKind);
+    const bool isUnnamed = zKind == QAccessible::Name && own.isEmpty();
+    return isUnnamed ? static_cast<ClickLabel*>(widget())->text() : own;
+  }
 
   QStringList actionNames() const override { return {pressAction(), DoublePress()}; }
 
   void doAction(const QString& zAction) override {
     const QPointer<ClickLabel> label = static_cast<ClickLabel*>(widget());
+    if (!label->isEnabled()) {
+      return;
+    }
     emit label->Click();
     if (zAction == DoublePress() && label) {
       emit label->DoubleClick();

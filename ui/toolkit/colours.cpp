@@ -2,14 +2,20 @@
 
 #include <QPainter>
 #include <QWidget>
+#include <cmath>
 
 namespace loquitor {
 
 QColor ReadableOn(const QColor& zBackground) {
-  // The brightness weights of ITU-R BT.601.
-  const double brightness =
-      0.299 * zBackground.redF() + 0.587 * zBackground.greenF() + 0.114 * zBackground.blueF();
-  return brightness > 0.5 ? Qt::black : Qt::white;
+  // Relative luminance and contrast ratio as in WCAG 2.1; at this luminance both are equal.
+  constexpr double EqualContrast = 0.179;
+  const auto linear = [](double zShare) {
+    return zShare <= 0.04045 ? zShare / 12.92 : std::pow((zShare + 0.055) / 1.055, 2.4);
+  };
+  const double luminance = 0.2126 * linear(zBackground.redF()) +
+                           0.7152 * linear(zBackground.greenF()) +
+                           0.0722 * linear(zBackground.blueF());
+  return luminance > EqualContrast ? Qt::black : Qt::white;
 }
 
 QColor LineColour(const QPalette& zPalette) {
