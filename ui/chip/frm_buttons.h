@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "ui/chip/event_configuration.h"
+#include "ui/toolkit/check_box.h"
+#include "ui/toolkit/editor_context.h"
+#include "ui/toolkit/form.h"
+#include "ui/toolkit/text_box.h"
+#include "ui/toolkit/tool_window.h"
+
+namespace loquitor {
+
+/// The editor of the chip's reactions to power-up and to its inputs, and of its input, output and
+/// node settings. The settings file keeps all of it between runs, but for the node.
+class frmButtons : public ToolWindow {
+  Q_OBJECT
+ public:
+  frmButtons(QWidget* zOwner, const EditorContext& zContext);
+
+ protected:
+  void Load() override;
+  void Unload() override;
+
+ private:
+  void AddEvents();
+  void AddEventRow(int zRow);
+  void AddCheck(const char* zName, int zColumn, int zRow);
+  void NameAfterColumn(QWidget* zControl, int zColumn, int zRow);
+  void AddOption(int zIndex);
+
+  CheckBox* Check(const char* zName, int zRow) const;
+  TextBox* PhraseBox(int zRow) const;
+  OptionGroup* PairOf(int zIndex) const { return pairs_[static_cast<std::size_t>(zIndex / 2)]; }
+
+  /// Stores a value of the window's settings section.
+  template <class Value>
+  void Save(const std::string& zKey, const Value& zValue) const {
+    // What cannot be stored is passed over in silence, as everywhere in the settings.
+    static_cast<void>(context_.settings.SaveIniValue("EEPROM", zKey, zValue));
+  }
+
+  EventSetting ReadEvent(int zRow) const;
+  EventConfiguration ReadControls() const;
+
+  /// Tells which number boxes hold nothing that can be sent, if any do; true then.
+  bool ReportUnusableNumbers();
+
+  void btnWrite_Click();
+  void btnShutUp_Click();
+  void btnDone_Click();
+  void txtPhrase_LostFocus(int zIndex);
+
+  EditorContext context_;
+  Form form_;
+  std::array<OptionGroup*, OptionCount / 2> pairs_{};
+};
+
+}  // namespace loquitor
