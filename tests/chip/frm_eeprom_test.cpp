@@ -2,14 +2,17 @@
 
 #include <QAccessible>
 #include <QLabel>
-#include <QPushButton>
 #include <QTest>
+#include <QTimer>
+#include <functional>
+#include <map>
 #include <memory>
 
 #include "link/scp.h"
 #include "sim/virtual_chip.h"
 #include "tests/support/window_test.h"
 #include "ui/toolkit/code_page.h"
+#include "ui/toolkit/text_area.h"
 
 namespace loquitor::testing {
 namespace {
@@ -43,6 +46,25 @@ class EepromEditor : public WindowTest {
   }
   QLabel* PhraseLabel(int zSlot) { return Find<QLabel>(Indexed("Phrase", zSlot)); }
   void Click(const QString& zName) { QTest::mouseClick(Find(zName), Qt::LeftButton); }
+  /// Opens the phrase editor on a row, types `zText` into it, leaves it by `zLeave`; what it
+  /// showed.
+  std::string Edit(const QString& zRow, std::string_view zText,
+                   const std::function<void(ToolWindow*)>& zLeave) {
+    std::string shown;
+    QTimer::singleShot(0, editor.get(), [&] {
+      auto* phraseEditor = qobject_cast<ToolWindow*>(QApplication::activeModalWidget());
+      ASSERT_NE(phraseEditor, editor.get());
+      auto* box = phraseEditor->findChild<TextArea*>("txtSayData");
+      shown = box->Text();
+      box->SetText(zText);
+      zLeave(phraseEditor);
+    });
+    QTest::keyClick(Find(zRow), Qt::Key_Return);
+    return shown;
+  }
+  static void PressDone(ToolWindow* zEditor) {
+    QTest::mouseClick(zEditor->findChild<QWidget*>("btnDone"), Qt::LeftButton);
+  }
   std::string Usage() { return Find<QLabel>("txtUsed")->text().toStdString(); }
   QColor UsageColour() {
     auto* label = Find<QLabel>("txtUsed");
@@ -126,6 +148,34 @@ TEST_F(EepromEditor, PlaysTheSlotOfANumberByMouseAndKeyboard) {
   EXPECT_EQ(Sent(), std::string("\x1d\0", 2));
   QTest::keyClick(Find("lbs(13)"), Qt::Key_Return);
   EXPECT_EQ(Sent(), "\x1d\x0d");
+}
+
+TEST_F(EepromEditor, TakesBackAPhraseFromThePhraseEditorOnlyByDone) {
+  GivenPhrase(2, "\\IY");
+  Open();
+  shared.WordToMove = "left over";
+  EXPECT_EQ(Edit("Phrase(2)", "\\IY\n\\EH & <i>", &ToolWindow::close), "\\IY");
+  EXPECT_EQ(PhraseLabel(2)->text(), "\\IY");
+  EXPECT_EQ(shared.WordToMove, "");
+  EXPECT_EQ(Edit("Phrase(2)", "\\IY\n\\EH & <i>", &PressDone), "\\IY");
+  EXPECT_EQ(PhraseLabel(2)->text(), "\\IY\n\\EH & <i>");
+  EXPECT_EQ(Usage(), "41 used of 256") << "two codes and the pause of two blanks";
+  EXPECT_EQ(Sent(), "") << "the chip is not written";
+}
+
+TEST_F(EepromEditor, MarksAPhraseThatTheSettingsWouldCut) {
+  Open();
+  Edit("Phrase(7)", std::string(255, 'x'), &PressDone);
+  EXPECT_FALSE(PhraseLabel(7)->toolTip().contains("255 come back"));
+  Edit("Phrase(7)", std::string(300, 'x'), &PressDone);
+  EXPECT_TRUE(PhraseLabel(7)->toolTip().contains(
+      "This phrase has 300 characters. Only the first 255 come back"));
+  EXPECT_TRUE(PhraseLabel(7)->toolTip().contains(QString(300, 'x')));
+  EXPECT_TRUE(PhraseLabel(7)->accessibleDescription().contains("dictionary"));
+  EXPECT_TRUE(prompts.asked.empty());
+  Reopen();
+  EXPECT_EQ(PhraseLabel(7)->text(), QString(255, 'x'));
+  EXPECT_EQ(PhraseLabel(7)->accessibleDescription(), "");
 }
 
 TEST_F(EepromEditor, TabsFromRowToRowToTheButtons) {

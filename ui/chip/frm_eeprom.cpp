@@ -5,6 +5,7 @@
 
 #include "link/scp.h"
 #include "ui/chip/stored_phrase.h"
+#include "ui/phrase/frm_phrase.h"
 #include "ui/toolkit/busy.h"
 #include "ui/toolkit/colours.h"
 
@@ -199,6 +200,7 @@ void frmEEPROM::btnDone_Click() {
 void frmEEPROM::Phrase_Click(int zIndex) {
   context_.shared.WordToMove.clear();
   context_.shared.PhraseToMove = phrases_[static_cast<std::size_t>(zIndex)]->Phrase();
+  frmPhrase(this, context_).ShowModal();
   ShowPhrase(zIndex, context_.shared.PhraseToMove);
   ReportUsed();
 }
