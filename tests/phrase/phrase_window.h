@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QPushButton>
+#include <QTimer>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -58,6 +60,18 @@ class PhraseWindowTest : public WindowTest {
     QTest::mouseClick(label, Qt::LeftButton);
     QTest::qWait(zMilliseconds);
     QTest::mouseDClick(label, Qt::LeftButton);
+  }
+
+  /// Does `zStep` once, when a send is under way.
+  void WhileSending(std::function<void()> zStep) {
+    auto* timer = new QTimer(window.get());
+    QObject::connect(timer, &QTimer::timeout, window.get(), [=, this] {
+      if (sender.IsSending()) {
+        timer->stop();
+        zStep();
+      }
+    });
+    timer->start(1);
   }
 
   /// Types a text into a box in place of what it holds; the focus stays there.
