@@ -26,13 +26,18 @@ struct FileStamp {
 /// The stamp of the ordinary file `zFile` (links followed); nothing when there is none.
 std::optional<FileStamp> StampOf(const std::filesystem::path& zFile);
 
+/// Whether a change at or after `zNow` (the system's clock, nanoseconds) is bound to leave another
+/// stamp than `zStamp`. Not for a file that was changed within the last tick of the clock that
+/// dates changes, 2 seconds where the file system counts whole seconds, nor for times in the
+/// future.
+bool IsSettled(const FileStamp& zStamp, std::int64_t zNow);
+
 /// A file as it was read.
 struct LoadedFile {
   std::unique_ptr<char[]> bytes;
   std::size_t size = 0;
   FileStamp stamp;
-  /// True when every later change of the file is bound to change its stamp. False when the file was
-  /// changed so shortly before it was read that a change right after may carry the same times.
+  /// IsSettled as of the moment before it was read, and not changed meanwhile.
   bool isSettled = false;
 
   std::string_view View() const { return {bytes.get(), size}; }

@@ -22,13 +22,6 @@ namespace fs = std::filesystem;
 using std::chrono::nanoseconds;
 
 constexpr std::int64_t NanosecondsPerSecond = 1'000'000'000;
-
-/// Twice the coarsest tick (10 ms) by which kernels date changes.
-constexpr nanoseconds ClockTick = std::chrono::milliseconds(20);
-
-/// File systems that count whole seconds, some of them two at a time.
-constexpr nanoseconds WholeSeconds = std::chrono::milliseconds(2100);
-
 constexpr nanoseconds LongestWait = std::chrono::seconds(10);
 constexpr nanoseconds PauseBetweenTries = std::chrono::microseconds(100);
 
@@ -78,12 +71,6 @@ std::int64_t Now() {
   return std::chrono::duration_cast<nanoseconds>(
              std::chrono::system_clock::now().time_since_epoch())
       .count();
-}
-
-/// Whether a change at or after `zNow` is bound to get another time than `zStamp` has.
-bool IsSettled(const FileStamp& zStamp, std::int64_t zNow) {
-  const bool hasFineTimes = zStamp.changed % NanosecondsPerSecond != 0;
-  return zNow - zStamp.changed > (hasFineTimes ? ClockTick : WholeSeconds).count();
 }
 
 /// Reads up to `zSize` bytes; the number read, or nothing on an error.

@@ -49,7 +49,7 @@ bool IsTrueText(std::string_view zText) {
   if (text.find_first_of("0123456789") == std::string_view::npos) {
     return false;  // the conversion below would take words like "inf"
   }
-  const std::string_view number = text.front() == '+' ? text.substr(1) : text;
+  const std::string_view number = text.front() == '+' && text[1] != '-' ? text.substr(1) : text;
   const char* const end = number.data() + number.size();
   double value = 0;
   const auto [stop, error] = std::from_chars(number.data(), end, value);

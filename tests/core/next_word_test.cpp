@@ -1,5 +1,6 @@
 #include "core/next_word.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -35,6 +36,59 @@ TEST_F(NextWordTest, FollowsTheOrderOfTheBytesAndStartsAgainBehindTheLast) {
   for (const auto& [current, next] : rows) {
     EXPECT_EQ(Next(current), next) << current;
   }
+}
+
+TEST_F(NextWordTest, HasNoneInAFileWithoutWords) {
+  EXPECT_EQ(Next(""), "(none)");  // no file
+  for (const char* text : {"", "[words]\r\n", "no sign\n", "=x\n", "zzzzzzzzz!!!=x\n"}) {
+    Given(text);
+    EXPECT_EQ(Next(""), "(none)") << text;
+    EXPECT_EQ(Next("a"), "(none)") << text;
+  }
+}
+
+TEST_F(NextWordTest, AsksForTheSayDataThatLoadingTheWordWouldMake) {
+  Given(
+      "stray=\\AA\n[words]\nc=\\KE\nB=\" \"\nd=\nice cream=x\nice=\\AY\nCream=\nb=\\BB\n"
+      "[other]\nelse=\\EH\n");
+  std::string asked;
+  const auto none = [&asked](std::string_view zSayData) {
+    asked.append("(").append(zSayData).append(")");
+    return false;
+  };
+  EXPECT_EQ(Next("b", none), "(none)");
+  // stray and else stand outside the section, the second b behind the first.
+  EXPECT_THAT(asked,
+              ::testing::AllOf(::testing::HasSubstr("(\\KE )"), ::testing::HasSubstr("(\\AY  )"),
+                               ::testing::Not(::testing::HasSubstr("BB")),
+                               ::testing::Not(::testing::HasSubstr("AA")),
+                               ::testing::Not(::testing::HasSubstr("EH"))));
+  const auto hasData = [](std::string_view zSayData) {
+    return zSayData.find_first_not_of(' ') != std::string_view::npos;
+  };
+  const auto hasNone = [&hasData](std::string_view zSayData) { return !hasData(zSayData); };
+  struct Row {
+    std::string_view current, withData, without;
+  };
+  const Row rows[] = {{"", "c", "b"},
+                      {"b", "c", "cream"},
+                      {"c", "ice", "cream"},
+                      {"ice", "ice cream", "stray"},
+                      {"ice cream", "c", "stray"},
+                      {"stray", "c", "b"}};
+  for (const auto& [current, withData, without] : rows) {
+    EXPECT_EQ(Next(current, hasData), withData) << current;
+    EXPECT_EQ(Next(current, hasNone), without) << current;
+  }
+}
+
+TEST_F(NextWordTest, SeesTheFileAsItIsNow) {
+  Given("a=1\n");
+  EXPECT_EQ(Next("a"), "a");
+  ASSERT_TRUE(dictionary.SaveDictionaryValue("Words", "b", ""));
+  EXPECT_EQ(Next("a"), "b");
+  std::filesystem::remove(dictionary.File());
+  EXPECT_EQ(Next("a"), "(none)");
 }
 
 }  // namespace

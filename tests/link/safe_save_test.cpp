@@ -1,0 +1,275 @@
+// Saving when things go wrong: other programs, kills, full disks, folders that may not be written.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <functional>
+#include <random>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "link/file_bytes.h"
+#include "link/profile_file.h"
+#include "tests/support/temp_folder.h"
+
+namespace loquitor::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Runs `zStory` in a process of its own; true when it returns true.
+bool InChild(const std::function<bool()>& zStory) {
+  const pid_t child = fork();
+  if (child == 0) {
+    _exit(zStory() ? 0 : 1);
+  }
+  int status = 0;
+  return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+/// Where saves are quick, since a memory file system has nothing to flush; locks and names are the
+/// same. The temporary folder where there is none.
+class QuickFolder {
+ public:
+  QuickFolder() {
+    if (fs::is_directory("/dev/shm")) {
+      static_cast<void>(setenv("TMPDIR", "/dev/shm", 1));
+    }
+  }
+  ~QuickFolder() { static_cast<void>(unsetenv("TMPDIR")); }
+};
+
+class SafeSaveTest : public ::testing::Test {
+ protected:
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder.Path())) {
+      names.push_back(entry.path().filename().string());
+    }
+    return names;
+  }
+  bool Save(const std::string& zKey, const std::string& zValue) const {
+    return WriteProfileValue("Words", zKey, zValue, file);
+  }
+  std::string Load(const std::string& zKey) const {
+    return ReadProfileValue("Words", zKey, "(none)", 2560, file);
+  }
+  static struct stat StatusOf(const fs::path& zFile) {
+    struct stat status {};
+    EXPECT_EQ(stat(zFile.c_str(), &status), 0);
+    return status;
+  }
+
+  QuickFolder quick;
+  TempFolder folder;
+  fs::path file = folder / "Loquitor.Dic";
+};
+
+TEST_F(SafeSaveTest, TwoProgramsSavingAtOnceLoseNothing) {
+  constexpr int words = 1000;
+  const auto saveAll = [this](const std::string& zStem) {
+    for (int i = 0; i < words; ++i) {
+      if (!Save(zStem + std::to_string(i), "\\HE \\LO")) {
+        return false;
+      }
+    }
+    return true;
+  };
+  const pid_t child = fork();
+  if (child == 0) {
+    _exit(saveAll("child") ? 0 : 1);
+  }
+  EXPECT_TRUE(saveAll("parent"));
+  int status = -1;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  const std::string text = ReadBytes(file);
+  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1 + 2 * words);
+  for (int i = 0; i < words; ++i) {
+    ASSERT_EQ(Load("child" + std::to_string(i)), "\\HE \\LO");
+    ASSERT_EQ(Load("parent" + std::to_string(i)), "\\HE \\LO");
+  }
+  EXPECT_THAT(Names(), ::testing::ElementsAre("Loquitor.Dic"));
+}
+
+/// A process that saves one word after the other and tells through a pipe which save has returned.
+class Saver {
+ public:
+  Saver(const std::function<bool(int)>& zSave, int zFirst) {
+    int ends[2];
+    if (pipe(ends) != 0) {
+      throw std::runtime_error("no pipe");
+    }
+    child_ = fork();
+    if (child_ == 0) {
+      for (int i = zFirst; zSave(i) && write(ends[1], &i, sizeof i) == sizeof i; ++i) {
+      }
+      _exit(1);
+    }
+    static_cast<void>(close(ends[1]));
+    pipe_ = ends[0];
+  }
+  ~Saver() { static_cast<void>(close(pipe_)); }
+
+  /// Kills it; the numbers of the words that it has saved.
+  std::vector<int> Kill() const {
+    EXPECT_EQ(kill(child_, SIGKILL), 0);
+    int status = 0;
+    EXPECT_EQ(waitpid(child_, &status, 0), child_);
+    EXPECT_TRUE(WIFSIGNALED(status)) << "a save has failed";
+    std::vector<int> saved;
+    int word = 0;
+    while (read(pipe_, &word, sizeof word) == sizeof word) {
+      saved.push_back(word);
+    }
+    return saved;
+  }
+
+ private:
+  pid_t child_ = -1;
+  int pipe_ = -1;
+};
+
+TEST_F(SafeSaveTest, AKilledProgramLeavesAWholeFileAndNoLitter) {
+  std::mt19937 random(20260722);
+  const auto valueOf = [](int zWord) {
+    return std::string(static_cast<std::size_t>(zWord % 97), 'x');
+  };
+  int word = 0;
+  int restarts = 0;
+  for (int round = 0; round < 500; ++round) {
+    const Saver saver([&](int zWord) { return Save("w" + std::to_string(zWord), valueOf(zWord)); },
+                      word);
+    std::this_thread::sleep_for(std::chrono::microseconds(random() % 8000));
+    for (const int saved : saver.Kill()) {
+      word = saved + 1;
+      ASSERT_EQ(Load("w" + std::to_string(saved)), valueOf(saved));
+    }
+    ++word;  // whether the save that was cut off came through is not known
+    if (word > 2000 || round == 499) {
+      const std::string text = ReadBytes(file);
+      ASSERT_EQ(text.substr(text.size() - 2), "\r\n");
+      ASSERT_TRUE(Save("last", "1"));
+      ASSERT_THAT(Names(), ::testing::ElementsAre("Loquitor.Dic"));
+      fs::remove(file);
+      word = 0;
+      ++restarts;
+    }
+  }
+  EXPECT_GT(restarts, 0);
+}
+
+TEST_F(SafeSaveTest, AFullDiskLeavesTheOldFileWhole) {
+  WriteBytes(file, "[Words]\nk=1\n");
+  EXPECT_TRUE(InChild([this] {
+    static_cast<void>(signal(SIGXFSZ, SIG_IGN));
+    const rlimit limit{1000, 1000};
+    return setrlimit(RLIMIT_FSIZE, &limit) == 0 && !Save("k", std::string(2000, 'x')) &&
+           !ReplaceFile(file, std::string(1001, 'x')) && Save("j", "fits");
+  }));
+  EXPECT_EQ(ReadBytes(file), "[Words]\nk=1\nj=fits\r\n");
+  EXPECT_THAT(Names(), ::testing::ElementsAre("Loquitor.Dic"));
+}
+
+TEST_F(SafeSaveTest, AFolderOrFileThatMayNotBeWrittenStaysAsItIs) {
+  struct Row {
+    mode_t folderMode, fileMode;
+  };
+  for (const Row row : {Row{0555, 0666}, Row{0777, 0444}}) {
+    ASSERT_EQ(chmod(folder.Path().c_str(), 0777), 0);
+    fs::remove(file);
+    WriteBytes(file, "[Words]\nk=1\n");
+    ASSERT_EQ(chmod(file.c_str(), row.fileMode), 0);
+    ASSERT_EQ(chmod(folder.Path().c_str(), row.folderMode), 0);
+    EXPECT_TRUE(InChild([this] {
+      constexpr uid_t nobody = 65534;
+      const bool isBound = geteuid() != 0 || setuid(nobody) == 0;  // nothing binds an administrator
+      return isBound && Load("k") == "1" && !Save("k", "2") && !ReplaceFile(file, "new") &&
+             Load("k") == "1";
+    }));
+    EXPECT_EQ(ReadBytes(file), "[Words]\nk=1\n");
+    EXPECT_THAT(Names(), ::testing::ElementsAre("Loquitor.Dic"));
+  }
+  ASSERT_EQ(chmod(folder.Path().c_str(), 0700), 0);
+}
+
+TEST_F(SafeSaveTest, PermissionsAndOwnerAreKeptAndNewFilesFollowTheMask) {
+  for (const mode_t mode : {0600, 0664, 0640, 0755}) {
+    WriteBytes(file, "");
+    ASSERT_EQ(chmod(file.c_str(), mode), 0);
+    if (geteuid() == 0) {
+      ASSERT_EQ(chown(file.c_str(), 12345, 54321), 0);
+    }
+    const auto before = StatusOf(file);
+    ASSERT_TRUE(Save("k", std::to_string(mode)));
+    EXPECT_EQ(StatusOf(file).st_mode, before.st_mode);
+    EXPECT_EQ(StatusOf(file).st_uid, before.st_uid);
+    EXPECT_EQ(StatusOf(file).st_gid, before.st_gid);
+    EXPECT_NE(StatusOf(file).st_ino, before.st_ino);  // swapped, not written over
+    fs::remove(file);
+  }
+  const mode_t mask = umask(027);
+  ASSERT_TRUE(Save("k", "1"));
+  static_cast<void>(umask(mask));
+  EXPECT_EQ(StatusOf(file).st_mode & 0777, mode_t{0640});
+}
+
+TEST_F(SafeSaveTest, LinksAreFollowedToTheFileOrToWhereItWillBe) {
+  fs::create_directories(folder / "a/b");
+  fs::create_symlink("a/link", file);
+  fs::create_symlink("b/real.dic", folder / "a/link");
+  ASSERT_TRUE(Save("k", "1"));  // dangling so far
+  ASSERT_TRUE(Save("k", "2"));
+  EXPECT_TRUE(fs::is_symlink(file));
+  EXPECT_TRUE(fs::is_symlink(folder / "a/link"));
+  EXPECT_EQ(ReadBytes(folder / "a/b/real.dic"), "[Words]\r\nk=2\r\n");
+  ASSERT_TRUE(ReplaceFile(file, "[Words]\nk=3\n"));
+  EXPECT_EQ(ReadWholeFile(folder / "a/b/real.dic"), "[Words]\nk=3\n");
+
+  fs::create_symlink("circle2", folder / "circle1");
+  fs::create_symlink("circle1", folder / "circle2");
+  EXPECT_FALSE(WriteProfileValue("s", "k", "1", folder / "circle1"));
+  EXPECT_FALSE(ReplaceFile(folder / "circle1", ""));
+}
+
+TEST_F(SafeSaveTest, WhatIsNoOrdinaryFileIsNeitherReadNorReplaced) {
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  fs::create_directory(folder / "folder");
+  for (const fs::path& path : {folder / "pipe", folder / "folder", folder / "none/file",
+                               fs::path("/dev/zero"), fs::path("/proc/none.ini"), fs::path()}) {
+    const auto type = fs::status(path).type();
+    EXPECT_EQ(ReadProfileValue("s", "k", "default", 99, path), "default") << path;
+    EXPECT_EQ(ReadWholeFile(path), std::nullopt) << path;
+    EXPECT_FALSE(WriteProfileValue("s", "k", "1", path)) << path;
+    EXPECT_FALSE(ReplaceFile(path, "1")) << path;
+    EXPECT_EQ(fs::status(path).type(), type) << path;
+  }
+  EXPECT_THAT(Names(), ::testing::UnorderedElementsAre("pipe", "folder"));
+}
+
+TEST_F(SafeSaveTest, AFileIsReplacedWholeAndReadWhole) {
+  EXPECT_EQ(ReadWholeFile(file), std::nullopt);
+  for (const std::string& bytes :
+       {std::string("a\0\r\n\xFF", 5), std::string(), std::string(300'000, 'x')}) {
+    ASSERT_TRUE(ReplaceFile(file, bytes));
+    EXPECT_EQ(ReadWholeFile(file), bytes);
+  }
+}
+
+TEST_F(SafeSaveTest, ABarePathIsTakenFromTheCurrentFolder) {
+  EXPECT_TRUE(InChild([this] {
+    return chdir(folder.Path().c_str()) == 0 && WriteProfileValue("s", "k", "1", "bare.ini") &&
+           ReadProfileValue("s", "k", "", 9, "bare.ini") == "1";
+  }));
+  EXPECT_THAT(Names(), ::testing::ElementsAre("bare.ini"));
+}
+
+}  // namespace
+}  // namespace loquitor::testing
