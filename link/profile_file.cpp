@@ -10,13 +10,16 @@
 namespace loquitor {
 namespace {
 
+bool IsMissing(const std::filesystem::path& zFile) {
+  std::error_code error;
+  return std::filesystem::status(zFile, error).type() == std::filesystem::file_type::not_found;
+}
+
 /// Changes the file, whose folder is locked. It must exist and be readable, or not exist at all.
 bool Store(const std::filesystem::path& zFile, FolderLock::State zLock, std::string_view zSection,
            std::string_view zKey, std::string_view zValue) {
   const auto old = LoadFile(zFile);
-  std::error_code error;
-  if (!old &&
-      std::filesystem::status(zFile, error).type() != std::filesystem::file_type::not_found) {
+  if (!old && !IsMissing(zFile)) {
     return false;
   }
   const std::string_view text = old ? old->View() : std::string_view();
@@ -29,6 +32,29 @@ bool Store(const std::filesystem::path& zFile, FolderLock::State zLock, std::str
   }
   const std::array<std::string_view, 3> pieces{text.substr(0, edit->begin), edit->replacement,
                                                text.substr(edit->end)};
+  return SwapFile(zFile, pieces, zLock);
+}
+
+/// As Store, for several values.
+bool StoreAll(const std::filesystem::path& zFile, FolderLock::State zLock,
+              std::string_view zSection, std::span<const ProfileValue> zEntries) {
+  const auto old = LoadFile(zFile);
+  if (!old && !IsMissing(zFile)) {
+    return false;
+  }
+  const std::string_view oldText = old ? old->View() : std::string_view();
+  std::string text(oldText);
+  for (const ProfileValue& entry : zEntries) {
+    const auto edit = EditForValue(text, zSection, entry.key, entry.value);
+    if (!edit) {
+      return false;
+    }
+    text.replace(edit->begin, edit->end - edit->begin, edit->replacement);
+  }
+  if (old && text == oldText) {
+    return true;
+  }
+  const std::array<std::string_view, 1> pieces{text};
   return SwapFile(zFile, pieces, zLock);
 }
 
@@ -52,6 +78,17 @@ bool WriteProfileValue(std::string_view zSection, std::string_view zKey, std::st
   const FolderLock lock(file->parent_path());
   return lock.Result() != FolderLock::State::TimedOut &&
          Store(*file, lock.Result(), zSection, zKey, zValue);
+}
+
+bool WriteProfileValues(std::string_view zSection, std::span<const ProfileValue> zEntries,
+                        const std::filesystem::path& zFile) {
+  const auto file = FollowLinks(zFile);
+  if (!file) {
+    return false;
+  }
+  const FolderLock lock(file->parent_path());
+  return lock.Result() != FolderLock::State::TimedOut &&
+         StoreAll(*file, lock.Result(), zSection, zEntries);
 }
 
 }  // namespace loquitor

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -36,5 +37,16 @@ std::string ReadProfileValue(std::string_view zSection, std::string_view zKey,
 /// links followed), and safe against other programs that write through this function at once.
 bool WriteProfileValue(std::string_view zSection, std::string_view zKey, std::string_view zValue,
                        const std::filesystem::path& zFile);
+
+/// One value of a section.
+struct ProfileValue {
+  std::string key;
+  std::string value;
+};
+
+/// Writes all `zEntries` of one section as WriteProfileValue would one after the other, but in one
+/// atomic change of the file. False, with the old file whole, when any of them cannot be held.
+bool WriteProfileValues(std::string_view zSection, std::span<const ProfileValue> zEntries,
+                        const std::filesystem::path& zFile);
 
 }  // namespace loquitor

@@ -4,7 +4,6 @@
 #include <system_error>
 #include <utility>
 
-#include "link/profile_file.h"
 #include "link/profile_lines.h"
 #include "link/trimmed_profile.h"
 
@@ -39,6 +38,11 @@ bool SettingsFile::SaveIniValue(std::string_view zSection, std::string_view zKey
 bool SettingsFile::SaveIniValue(std::string_view zSection, std::string_view zKey,
                                 const char* zValue) const {
   return SaveIniValue(zSection, zKey, std::string_view(zValue));
+}
+
+bool SettingsFile::SaveIniValues(std::string_view zSection,
+                                 std::span<const ProfileValue> zEntries) const {
+  return WriteProfileValues(zSection, zEntries, File());
 }
 
 bool IsTrueText(std::string_view zText) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
+
+#include "link/profile_file.h"
 
 namespace loquitor {
 
@@ -27,6 +30,10 @@ class SettingsFile {
   bool SaveIniValue(std::string_view zSection, std::string_view zKey, int zValue) const;
   bool SaveIniValue(std::string_view zSection, std::string_view zKey, bool zValue) const;
   bool SaveIniValue(std::string_view zSection, std::string_view zKey, const char* zValue) const;
+
+  /// Writes many values of `zSection`, each as SaveIniValue would, in one change of the file. False
+  /// when they could not be stored; none of them is then.
+  bool SaveIniValues(std::string_view zSection, std::span<const ProfileValue> zEntries) const;
 
   /// The folder given to the constructor.
   const std::filesystem::path& Folder() const { return folder_; }

@@ -162,6 +162,27 @@ TEST_F(ProfileFileTest, WritesOneValueAndLeavesTheRestAsItWas) {
   EXPECT_THAT(Names(), ::testing::ElementsAre("words.ini"));
 }
 
+TEST_F(ProfileFileTest, WritesManyValuesAsOneAfterTheOtherWould) {
+  const std::vector<ProfileValue> entries{
+      {"b", "2"}, {"new", "x\r\ny"}, {"B", "3"}, {"empty", ""}, {"new", "z"}};
+  for (const auto text : {"[s]\nb = 1\n; note\n\n[t]\nb=1"sv, "no section"sv, ""sv}) {
+    Given(text);
+    for (const ProfileValue& entry : entries) {
+      ASSERT_TRUE(Write("s", entry.key, entry.value));
+    }
+    const std::string expected = Bytes();
+    Given(text);
+    EXPECT_TRUE(WriteProfileValues("s", entries, file));
+    EXPECT_EQ(Bytes(), expected) << text;
+    EXPECT_FALSE(WriteProfileValues("s", std::vector<ProfileValue>{{"b", "9"}, {"a=b", ""}}, file));
+    EXPECT_EQ(Bytes(), expected) << "one name that cannot be held: nothing is written";
+  }
+  std::filesystem::remove(file);
+  EXPECT_TRUE(WriteProfileValues("s", std::vector<ProfileValue>{{"a", "1"}}, file));
+  EXPECT_EQ(Bytes(), "[s]\r\na=1\r\n");
+  EXPECT_FALSE(WriteProfileValues("s", entries, folder / "no folder" / "file"));
+}
+
 TEST_F(ProfileFileTest, RefusesNamesThatTheFormatCannotHold) {
   const std::pair<std::string_view, std::string_view> rows[] = {
       {"s", ""},    {"s", " \t"}, {"s", "a=b"},  {"s", "="},  {"s", "a\nb"},
