@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QStringList>
 #include <span>
+#include <vector>
 
 #include "core/number_text.h"
 #include "link/scp.h"
@@ -199,6 +200,10 @@ QString EventCaption(int zRow) {
       .replace(QStringLiteral("&&"), QStringLiteral("&"));
 }
 
+std::string CheckText(const CheckBox* zBox) {
+  return std::to_string(zBox->Value());
+}
+
 int RowTop(int zRow) {
   return RowsTop + zRow * RowPitch;
 }
@@ -330,16 +335,20 @@ void frmButtons::Load() {
 
 void frmButtons::Unload() {
   context_.sender.ClearPendingOutput();
+  std::vector<ProfileValue> entries;
   for (int row = 0; row < EventCount; ++row) {
     for (const EventCheck& check : ChecksOf(row)) {
-      Save(Numbered(check.key, row), Check(check.control, row)->Value());
+      entries.push_back({Numbered(check.key, row), CheckText(Check(check.control, row))});
     }
-    Save(Numbered(PhraseKey, row), PhraseBox(row)->Text());
+    entries.push_back({Numbered(PhraseKey, row), PhraseBox(row)->Text()});
   }
   for (int index = 0; index < OptionCount; ++index) {
-    Save(OptionRows[static_cast<std::size_t>(index)].key, PairOf(index)->IsChosen(index));
+    entries.push_back({OptionRows[static_cast<std::size_t>(index)].key,
+                       PairOf(index)->IsChosen(index) ? "True" : "False"});
   }
-  Save(AutoSilenceKey, form_.Get<CheckBox>("chAutoSil")->Value());
+  entries.push_back({AutoSilenceKey, CheckText(form_.Get<CheckBox>("chAutoSil"))});
+  // What cannot be stored is passed over in silence, as everywhere in the settings.
+  static_cast<void>(context_.settings.SaveIniValues(Section, entries));
 }
 
 EventSetting frmButtons::ReadEvent(int zRow) const {

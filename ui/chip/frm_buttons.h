@@ -34,13 +34,6 @@ class frmButtons : public ToolWindow {
   TextBox* PhraseBox(int zRow) const;
   OptionGroup* PairOf(int zIndex) const { return pairs_[static_cast<std::size_t>(zIndex / 2)]; }
 
-  /// Stores a value of the window's settings section.
-  template <class Value>
-  void Save(const std::string& zKey, const Value& zValue) const {
-    // What cannot be stored is passed over in silence, as everywhere in the settings.
-    static_cast<void>(context_.settings.SaveIniValue("EEPROM", zKey, zValue));
-  }
-
   EventSetting ReadEvent(int zRow) const;
   EventConfiguration ReadControls() const;
 

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <vector>
 
 #include "link/scp.h"
 #include "ui/chip/stored_phrase.h"
@@ -164,11 +165,12 @@ void frmEEPROM::Load() {
 
 void frmEEPROM::Unload() {
   context_.sender.ClearPendingOutput();
+  std::vector<ProfileValue> entries;
   for (int index = 0; index < PhraseSlotCount; ++index) {
-    // A phrase that cannot be stored is passed over in silence, as everywhere in the settings.
-    static_cast<void>(context_.settings.SaveIniValue(
-        "EEPROM", PhraseKey(index), phrases_[static_cast<std::size_t>(index)]->Phrase()));
+    entries.push_back({PhraseKey(index), phrases_[static_cast<std::size_t>(index)]->Phrase()});
   }
+  // What cannot be stored is passed over in silence, as everywhere in the settings.
+  static_cast<void>(context_.settings.SaveIniValues("EEPROM", entries));
 }
 
 void frmEEPROM::btnWrite_Click() {
