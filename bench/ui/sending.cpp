@@ -34,21 +34,23 @@ class LoopHost : public SenderHost {
   EventTurns turns_;
 };
 
-void SendIntoAPseudoTerminal(benchmark::State& zState) {
+/// A chip on a pseudo-terminal and everything between it and the sender.
+struct Bench {
   testing::PseudoTerminal chip;
   testing::TempFolder folder;
-  const SettingsFile settings(folder.Path());
+  SettingsFile settings{folder.Path()};
   QtSerialPort port;
-  CodeSender* ticked = nullptr;
-  LoopHost host(chip.Path(), [&] { ticked->Tick(); });
-  CodeSender sender(port, host, settings);
-  ticked = &sender;
+  LoopHost host{chip.Path(), [this] { sender.Tick(); }};
+  CodeSender sender{port, host, settings};
+};
 
+void SendIntoAPseudoTerminal(benchmark::State& zState) {
+  Bench bench;
   const std::string codes(static_cast<std::size_t>(zState.range(0)), 'x');
   std::size_t received = 0;
   for (auto _ : zState) {
-    sender.SendCodesToOrvatone(codes, false);
-    received += chip.Received().size();
+    bench.sender.SendCodesToOrvatone(codes, false);
+    received += bench.chip.Received().size();
   }
   if (received != codes.size() * static_cast<std::size_t>(zState.iterations())) {
     zState.SkipWithError("bytes were lost");
@@ -57,6 +59,23 @@ void SendIntoAPseudoTerminal(benchmark::State& zState) {
 }
 
 BENCHMARK(SendIntoAPseudoTerminal)->Arg(10)->Arg(1000);  // a register write, a long phrase
+
+/// What waiting for a line that is held back costs: the share of CPU in Time is the load.
+void WaitForAHeldBackLine(benchmark::State& zState) {
+  Bench bench;
+  if (!bench.port.Open({bench.chip.Path(), "9600", false})) {
+    zState.SkipWithError("the port does not open");
+  }
+  while (bench.port.IsReadyForByte() && bench.port.WriteByte('x')) {
+  }
+  bench.host.SetTicking(true);
+  for (auto _ : zState) {
+    bench.host.WaitForEvents();
+    benchmark::DoNotOptimize(bench.port.IsReadyForByte());
+  }
+}
+
+BENCHMARK(WaitForAHeldBackLine)->UseRealTime();
 
 }  // namespace
 }  // namespace loquitor
