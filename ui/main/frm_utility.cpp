@@ -116,6 +116,7 @@ void frmUtility::Load() {
   txtComPort_->SetText(settings_.GetIniValue("Serial", "Port", "1"));
   chkFlow_->SetValue(IsFlowTicked(settings_.GetIniValue("Serial", "FlowControl", "1")) ? 1 : 0);
   codeTable_.BuildCodeTable();
+  ShowPortState(PortState::Closed);
 }
 
 void frmUtility::closeEvent(QCloseEvent* zEvent) {

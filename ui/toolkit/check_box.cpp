@@ -87,7 +87,6 @@ void CheckBox::keyPressEvent(QKeyEvent* zEvent) {
 
 OptionButton::OptionButton(const QString& zCaption, QWidget* zParent)
     : QRadioButton(zCaption, zParent) {
-  setAutoExclusive(false);
   setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -107,10 +106,13 @@ void OptionButton::keyPressEvent(QKeyEvent* zEvent) {
   }
 }
 
-OptionGroup::OptionGroup(QObject* zParent) : QObject(zParent) {}
+OptionGroup::OptionGroup(QObject* zParent) : QObject(zParent) {
+  group_.setExclusive(false);
+}
 
 void OptionGroup::Add(OptionButton* zButton, int zIndex) {
   members_.push_back({zButton, zIndex});
+  group_.addButton(zButton);
   connect(zButton, &QAbstractButton::toggled, this,
           [this, zButton, zIndex](bool zIsChosen) { OnToggled(zButton, zIndex, zIsChosen); });
   connect(zButton, &OptionButton::ArrowPressed, this,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QVector>
@@ -75,6 +76,7 @@ class OptionGroup : public QObject {
   void OnArrow(OptionButton* zButton, int zStep);
   void UpdateTabStops();
 
+  QButtonGroup group_;  // takes the buttons out of the exclusion among siblings
   QVector<Member> members_;
 };
 

@@ -1,0 +1,191 @@
+#include "ui/toolkit/tool_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+#include "ui/toolkit/busy.h"
+
+namespace loquitor {
+namespace {
+
+/// A window that writes down its steps.
+class NotingWindow : public ToolWindow {
+ public:
+  explicit NotingWindow(QWidget* zOwner, Sizing zSizing = Sizing::Fixed)
+      : ToolWindow(zOwner, QStringLiteral(" Orvatone Test"), {3000, 1500}, zSizing) {
+    button.setGeometry(10, 10, 80, 20);
+    QObject::connect(this, &ToolWindow::Closed, this, [this] { steps += "closed "; });
+  }
+
+  std::string steps;
+  std::function<void()> whileUnloading;
+  QPushButton button{this};
+
+ protected:
+  void Load() override { steps += isVisible() ? "late load " : "load "; }
+  void Activate() override { steps += "activate "; }
+  void Unload() override {
+    steps += QApplication::activeModalWidget() == nullptr ? "unload " : "unload while modal ";
+    if (whileUnloading) {
+      whileUnloading();
+    }
+  }
+};
+
+class ToolWindowTest : public ::testing::Test {
+ protected:
+  ToolWindowTest() {
+    owner.resize(300, 200);
+    owner.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&owner));
+  }
+  static void ShowAndWait(ToolWindow& zWindow) {
+    zWindow.Open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &zWindow; }));
+  }
+
+  QWidget owner;
+};
+
+TEST_F(ToolWindowTest, LoadsOnceAndUnloadsOnceHoweverItIsClosed) {
+  const std::function<void(NotingWindow&)> ways[] = {
+      [](NotingWindow& zWindow) { zWindow.close(); },
+      [](NotingWindow& zWindow) { zWindow.reject(); },
+      [](NotingWindow& zWindow) { zWindow.accept(); },
+  };
+  for (const auto& close : ways) {
+    NotingWindow window(&owner);
+    ShowAndWait(window);
+    EXPECT_EQ(window.steps, "load activate ");
+    EXPECT_FALSE(window.IsUnloaded());
+    close(window);
+    close(window);
+    EXPECT_TRUE(window.IsUnloaded());
+    EXPECT_EQ(window.steps, "load activate unload closed ");
+  }
+}
+
+TEST_F(ToolWindowTest, ShowModalReturnsWhenItHasBeenClosed) {
+  NotingWindow window(&owner);
+  QTimer::singleShot(0, &window, [&] {
+    EXPECT_EQ(QApplication::activeModalWidget(), &window);
+    window.close();
+  });
+  window.ShowModal();
+  EXPECT_TRUE(window.steps.ends_with("unload closed ")) << window.steps;
+}
+
+TEST_F(ToolWindowTest, NothingIsUnloadedThatWasNeverShown) {
+  NotingWindow window(&owner);
+  window.close();
+  EXPECT_EQ(window.steps, "");
+  EXPECT_FALSE(window.IsUnloaded());
+}
+
+TEST_F(ToolWindowTest, EnterAndEscapeDoNothing) {
+  NotingWindow window(&owner);
+  QSignalSpy pressed(&window.button, &QPushButton::clicked);
+  ShowAndWait(window);
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+    QTest::keyClick(&window, key);
+  }
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_EQ(pressed.count(), 0);
+}
+
+TEST_F(ToolWindowTest, LooksLikeAToolWindowInTheMiddleOfTheScreen) {
+  NotingWindow fixed(&owner);
+  NotingWindow resizable(&owner, ToolWindow::Sizing::Resizable);
+  ShowAndWait(fixed);
+  EXPECT_EQ(fixed.windowTitle(), " Orvatone Test");
+  EXPECT_EQ(fixed.size(), QSize(200, 100));
+  EXPECT_EQ(fixed.minimumSize(), fixed.maximumSize());
+  EXPECT_FALSE(fixed.windowFlags() &
+               (Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint));
+  EXPECT_TRUE(fixed.windowFlags() & Qt::WindowCloseButtonHint);
+  const QPoint offset = fixed.geometry().center() - owner.screen()->availableGeometry().center();
+  EXPECT_LE(offset.manhattanLength(), 40);  // give or take the title bar
+  fixed.close();
+  ShowAndWait(resizable);
+  resizable.resize(500, 5);
+  EXPECT_EQ(resizable.size(), QSize(500, 5));
+}
+
+TEST_F(ToolWindowTest, TheOwnerIsFreeAtOnceEvenWhenUnloadingAndTheOpenerHaveToWait) {
+  NotingWindow window(&owner);
+  bool isOwnerFree = false;
+  window.whileUnloading = [&] { isOwnerFree = QApplication::activeModalWidget() == nullptr; };
+  bool isShownModal = false;
+  QTimer::singleShot(0, &window, [&] {
+    // A handler of the window that waits, like a send on a line that is held back.
+    isShownModal = QApplication::activeModalWidget() == &window;
+    QTimer::singleShot(0, &window, &QWidget::close);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.IsUnloaded(); }, 2000));
+    EXPECT_TRUE(isOwnerFree);
+    EXPECT_TRUE(window.steps.ends_with("closed "));
+  });
+  window.ShowModal();
+  EXPECT_TRUE(isShownModal);
+}
+
+TEST_F(ToolWindowTest, BusyCoversWindowAndBoxesAndGivesAllBack) {
+  NotingWindow window(&owner);
+  QLineEdit box(&window);
+  ShowAndWait(window);
+  window.button.setFocus();
+  {
+    const Busy outer(&window, &window.button);
+    EXPECT_FALSE(window.button.isEnabled());
+    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+    EXPECT_EQ(box.cursor().shape(), Qt::WaitCursor);
+    EXPECT_FALSE(box.hasFocus()) << "disabling pushed the focus on";
+    { const Busy inner(&window, &window.button); }
+    EXPECT_FALSE(window.button.isEnabled());
+    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+  }
+  EXPECT_TRUE(window.button.isEnabled());
+  EXPECT_TRUE(window.button.hasFocus());
+  EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+  EXPECT_EQ(box.cursor().shape(), Qt::IBeamCursor);
+}
+
+TEST_F(ToolWindowTest, BusyLetsEventsRunAtBothEndsAndSurvivesItsWindow) {
+  auto window = std::make_unique<NotingWindow>(&owner);
+  ShowAndWait(*window);
+  int runs = 0;
+  const auto post = [&] {
+    QMetaObject::invokeMethod(
+        qApp, [&] { ++runs; }, Qt::QueuedConnection);
+  };
+  post();
+  auto busy = std::make_unique<Busy>(window.get(), &window->button);
+  EXPECT_EQ(runs, 1);
+  post();
+  window.reset();
+  busy.reset();
+  EXPECT_EQ(runs, 2);
+}
+
+TEST_F(ToolWindowTest, TheFocusStaysWhereTheUserPutItWhileBusy) {
+  NotingWindow window(&owner);
+  QLineEdit box(&window);
+  ShowAndWait(window);
+  window.button.setFocus();
+  {
+    const Busy busy(&window, &window.button);
+    box.setFocus();
+  }
+  EXPECT_TRUE(box.hasFocus());
+}
+
+}  // namespace
+}  // namespace loquitor
