@@ -163,6 +163,26 @@ TEST_F(EepromEditor, TakesBackAPhraseFromThePhraseEditorOnlyByDone) {
   EXPECT_EQ(Sent(), "") << "the chip is not written";
 }
 
+TEST_F(EepromEditor, KeepsPhrasesApartWhileASendOfThePhraseEditorWaitsForTheLine) {
+  Open();
+  port.isHeldBack = true;
+  const auto sayAndLeave = [this](ToolWindow* zEditor) {
+    auto* whileSending = new QTimer(zEditor);
+    QObject::connect(whileSending, &QTimer::timeout, zEditor, [=, this] {
+      whileSending->stop();
+      PressDone(zEditor);
+      EXPECT_EQ(PhraseLabel(1)->text(), "first");
+      Edit("Phrase(2)", "second", &PressDone);
+      port.isHeldBack = false;
+    });
+    whileSending->start(20);
+    QTest::mouseClick(zEditor->findChild<QWidget*>("bntSayIt"), Qt::LeftButton);
+  };
+  Edit("Phrase(1)", "first", sayAndLeave);
+  EXPECT_EQ(PhraseLabel(1)->text(), "first");
+  EXPECT_EQ(PhraseLabel(2)->text(), "second");
+}
+
 TEST_F(EepromEditor, MarksAPhraseThatTheSettingsWouldCut) {
   Open();
   Edit("Phrase(7)", std::string(255, 'x'), &PressDone);

@@ -202,9 +202,14 @@ void frmEEPROM::btnDone_Click() {
 void frmEEPROM::Phrase_Click(int zIndex) {
   context_.shared.WordToMove.clear();
   context_.shared.PhraseToMove = phrases_[static_cast<std::size_t>(zIndex)]->Phrase();
-  frmPhrase(this, context_).ShowModal();
-  ShowPhrase(zIndex, context_.shared.PhraseToMove);
-  ReportUsed();
+  frmPhrase editor(this, context_);
+  // At its closing, not behind ShowModal, which may return much later while a send of the editor
+  // waits for the line; by then another phrase may have been edited.
+  connect(&editor, &frmPhrase::Closed, this, [this, zIndex] {
+    ShowPhrase(zIndex, context_.shared.PhraseToMove);
+    ReportUsed();
+  });
+  editor.ShowModal();
 }
 
 void frmEEPROM::lbs_Click(int zIndex) {
