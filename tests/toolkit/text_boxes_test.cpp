@@ -238,7 +238,7 @@ TEST_F(TextBoxes, TextStaysReadableOnEveryBackground) {
   };
   for (const Row& row : {Row{Qt::white, Qt::black},
                          {QColor(0, 255, 0), Qt::black},
-                         {QColor(255, 0, 0), Qt::white},
+                         {QColor(255, 0, 0), Qt::black},
                          {QColor(0, 0, 128), Qt::white}}) {
     box.SetBackground(row.background);
     EXPECT_EQ(box.palette().color(QPalette::Base), row.background);

@@ -10,8 +10,12 @@
 #include "link/port_numbers.h"
 #include "link/qt/serial_devices.h"
 #include "link/scp.h"
+#include "ui/chip/frm_baud_rate.h"
+#include "ui/chip/frm_buttons.h"
+#include "ui/chip/frm_eeprom.h"
 #include "ui/dictedit/frm_dict_edit.h"
 #include "ui/phrase/frm_phrase.h"
+#include "ui/synth/frm_synth_ctrl.h"
 #include "ui/toolkit/centring.h"
 #include "ui/toolkit/check_box.h"
 #include "ui/toolkit/code_page.h"
@@ -94,6 +98,10 @@ frmUtility::~frmUtility() = default;
 void frmUtility::ConnectControls(const Form& zForm) {
   connect(zForm.Get<QPushButton>("EditPhrases"), &QPushButton::clicked, this,
           &frmUtility::EditPhrases_Click);
+  ShowOnClick<frmEEPROM>(zForm, "EditEEPROM");
+  ShowOnClick<frmButtons>(zForm, "btnSetSerialPort");
+  ShowOnClick<FrmSynthCtrl>(zForm, "btnSynth");
+  ShowOnClick<frmBaudRate>(zForm, "Command1");
   ShowOnClick<frmDictEdit>(zForm, "btnDictEdit");
   connect(zForm.Get<QPushButton>("cmdTestSerialPort"), &QPushButton::clicked, this,
           &frmUtility::cmdTestSerialPort_Click);
