@@ -25,8 +25,8 @@ inline constexpr int PortQueueLimit = 16;
 
 /// One serial port. The real one is link/qt/qt_serial_port.h; tests script their own.
 ///
-/// No call blocks. A port that fails (device gone, write refused) reports IsOpen() false from the
-/// first failure on, whatever the layer below goes on to say.
+/// No call blocks (but see Close). A port that fails (device gone, write refused) reports IsOpen()
+/// false from the first failure on, whatever the layer below goes on to say.
 class SerialPort {
  public:
   virtual ~SerialPort() = default;
@@ -35,7 +35,8 @@ class SerialPort {
   /// the port is closed then.
   virtual bool Open(const SerialPortSettings& zSettings) = 0;
 
-  /// Closes the port; bytes that cannot go out are discarded. Closing a closed port does nothing.
+  /// Closes the port. What its queue holds gets the time that it takes on the line, at most a tenth
+  /// of a second; bytes that do not go out are discarded. Closing a closed port does nothing.
   virtual void Close() = 0;
 
   /// True from a successful Open until Close or the port's failure.

@@ -1,8 +1,17 @@
 #include "link/qt/qt_serial_port.h"
 
+#include <QDeadlineTimer>
+#include <QThread>
+#include <chrono>
 #include <utility>
 
 namespace loquitor {
+
+namespace {
+
+constexpr std::chrono::milliseconds LongestClose{100};
+
+}  // namespace
 
 QtSerialPort::QtSerialPort() {
   QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
@@ -40,6 +49,7 @@ bool QtSerialPort::OpenConfigured(const QString& zDevice, std::int32_t zBaudRate
 }
 
 void QtSerialPort::Close() {
+  LetQueueGoOut();
   isOpen_ = false;
   hasFailed_ = false;
   if (port_.isOpen()) {
@@ -48,6 +58,14 @@ void QtSerialPort::Close() {
     port_.close();
   }
   lock_.Release();
+}
+
+void QtSerialPort::LetQueueGoOut() const {
+  // A full queue takes 67 ms at 2400 bits a second, the slowest that the chip knows.
+  const QDeadlineTimer deadline(LongestClose);
+  while (UnsentBytes() > 0 && !deadline.hasExpired()) {
+    QThread::msleep(1);
+  }
 }
 
 void QtSerialPort::DiscardReceived() {

@@ -37,6 +37,7 @@ class QtSerialPort : public SerialPort {
 
  private:
   bool OpenConfigured(const QString& zDevice, std::int32_t zBaudRate, bool zHardwareHandshaking);
+  void LetQueueGoOut() const;
   void OnError(QSerialPort::SerialPortError zError);
   void FinishFailure();
 

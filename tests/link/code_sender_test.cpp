@@ -4,6 +4,9 @@
 
 #include <deque>
 #include <functional>
+#include <iterator>
+#include <random>
+#include <utility>
 #include <vector>
 
 #include "link/scp.h"
@@ -29,7 +32,6 @@ class ScriptedHost : public SenderHost {
   }
   bool ConfirmLongPhrase() override {
     log += "question ";
-    RunTurn();
     return answer;
   }
   void StopClosingTimer() override { isClosingSoon = false; }
@@ -380,6 +382,47 @@ TEST_F(CodeSenderTest, TicksCarryOnWhileAModalWindowHoldsUpTheLoop) {
   });
   Send("abcdefg");
   EXPECT_EQ(port.TakeWritten(), "abcdefg");
+}
+
+TEST_F(CodeSenderTest, WhateverHappensInMidSendEverySendEndsAndTheBoxTellsTheState) {
+  std::mt19937 random(1);
+  const std::function<void()> acts[] = {
+      [] {},
+      [] {},
+      [this] { port.isHeldBack = false; },
+      [this] { port.isHeldBack = true; },
+      [this] { Send("command"); },
+      [this] { Speak(std::string(70, 's')); },
+      [this] { Speak(""); },
+      [this] { ShutUp(); },
+      [this] { sender.ClearPendingOutput(); },
+      [this] { sender.CloseSerialPort(); },
+      [this] { sender.Tick(); },
+      [this] { port.Vanish(); },
+      [this] { port.refusesToOpen = !port.refusesToOpen; },
+      [this] { port.bytesUntilFailure = 5; },
+      [this] { host.answer = !host.answer; },
+      [this] { host.isFlowControlTicked = !host.isFlowControlTicked; }};
+  for (int story = 0; story < 3000; ++story) {
+    host.acts.clear();
+    for (int i = 0; i < 40; ++i) {
+      host.acts.push_back(acts[random() % std::size(acts)]);
+    }
+    host.acts.push_back([this] {
+      port.isHeldBack = port.refusesToOpen = false;
+      port.bytesUntilFailure = -1;
+      ShutUp();
+    });
+    port.isHeldBack = false;
+    Send(std::string(50, 'x'));
+    while (!host.acts.empty()) {  // the send ended early
+      host.LetEventsRun();
+    }
+    ASSERT_TRUE(port.TakeWritten().ends_with(StopSequence())) << story;
+    ASSERT_TRUE(sender.PendingOutput().empty() && !sender.IsSending() && !host.isTicking) << story;
+    ASSERT_TRUE(host.isClosingSoon && port.IsOpen() && TakeLog().ends_with("green ")) << story;
+    ASSERT_LE(host.deepest, 9) << story;  // eight sends and the loop around them
+  }
 }
 
 /// A slow line and a hand on a bar: the mouse moves by the line's clock.
