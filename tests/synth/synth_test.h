@@ -1,10 +1,13 @@
 #pragma once
 
+#include <gmock/gmock.h>
+
 #include <initializer_list>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "sim/virtual_chip.h"
 #include "tests/support/window_test.h"

@@ -1,0 +1,214 @@
+// The synth control window on lines that are slow, held back or gone.
+
+#include <QTimer>
+
+#include "tests/support/simulated_line.h"
+#include "tests/synth/synth_test.h"
+
+namespace loquitor::testing {
+namespace {
+
+/// A user whose mouse moves every 8 milliseconds, whatever the line is busy with.
+class SlowLineHost : public ScriptedHost {
+ public:
+  explicit SlowLineHost(SimulatedLine& zLine) : line_(zLine) {}
+
+  void LetEventsRun() override { MoveIfDue(); }
+  void WaitForEvents() override { Pass(); }
+
+  /// One millisecond on the line's clock.
+  void Pass() {
+    line_.Advance(0.001);
+    MoveIfDue();
+  }
+
+  std::function<void()> move;  ///< the next move, when there is one
+  int movesLeft = 0;
+  int deepest = 0;
+
+ private:
+  void MoveIfDue() {
+    if (movesLeft == 0 || line_.Now() < nextMove_) {
+      return;
+    }
+    nextMove_ = line_.Now() + 0.008;
+    --movesLeft;
+    deepest = std::max(deepest, ++depth_);
+    move();
+    --depth_;
+  }
+
+  SimulatedLine& line_;
+  double nextMove_ = 0;
+  int depth_ = 0;
+};
+
+class SlowSynthTest : public SynthTest {
+ protected:
+  static constexpr int Positions = 10'000;
+
+  SlowSynthTest() {
+    settings.SaveIniValue("Serial", "BaudRate", "2400");
+    window = std::make_unique<FrmSynthCtrl>(nullptr, slowContext);
+    window->Open();
+    LetRun();
+  }
+
+  /// Drags the bar through ten thousand positions and lets it rest at `zEnd`.
+  void Drag(const QString& zBar, int zEnd) {
+    ScrollBar* bar = Bar(zBar);
+    bar->setSliderDown(true);
+    slowHost.movesLeft = Positions;
+    slowHost.move = [&, bar] {
+      const int step = slowHost.movesLeft;
+      bar->setSliderPosition(step == 0 ? zEnd : (step * 37) % (bar->maximum() + 1));
+    };
+    while (slowHost.movesLeft > 0) {
+      slowHost.Pass();
+    }
+    bar->setSliderDown(false);
+    line.Drain();
+  }
+
+  VirtualChip ChipAfterIt() const {
+    VirtualChip chip;
+    chip.Receive(line.onTheLine);
+    EXPECT_FALSE(chip.Pending().has_value());
+    return chip;
+  }
+
+  SimulatedLine line;
+  SlowLineHost slowHost{line};
+  CodeSender slowSender{line, slowHost, settings};
+  EditorContext slowContext{codeTable,  translator, dictionary, settings,
+                            slowSender, prompts,    shared};
+};
+
+TEST_F(SlowSynthTest, ALongDragEndsWithTheFinalValueOnTheChip) {
+  Drag("scFreq(2)", 1234);
+  EXPECT_LE(slowHost.deepest, 9);
+  EXPECT_TRUE(line.onTheLine.ends_with(Writes({{2, 1234}})));
+  ExpectShown(ChipAfterIt());
+}
+
+TEST_F(SlowSynthTest, ALongDragOfAnAdjustBarLeavesNoToneBehind) {
+  Bar("scVol(1)")->setValue(1);
+  Bar("scVol(2)")->setValue(13);
+  Bar("scVol(3)")->setValue(30);
+  Bar("scVolAdjTone")->setFocus(Qt::TabFocusReason);
+  for (const int end : {57, 150, 199}) {
+    Drag("scVolAdjTone", end);
+    EXPECT_LE(slowHost.deepest, 9);
+    ExpectShown(ChipAfterIt());
+  }
+}
+
+TEST_F(SlowSynthTest, AWriteCutByAnotherControlIsWrittenAgain) {
+  Bar("scFreq(1)")->setValue(1000);
+  Bar("scFreq(2)")->setValue(2000);
+  line.Drain();
+  slowHost.movesLeft = 1;
+  slowHost.move = [&] { Bar("scVol(4)")->setValue(9); };
+  Bar("scFreq(3)")->setValue(3000);
+  line.Drain();
+  EXPECT_TRUE(line.onTheLine.ends_with("\\" + Writes({{14, 9}, {3, 3000}})));
+  ExpectShown(ChipAfterIt());
+}
+
+/// Runs a script of steps while the window waits for its line.
+class HeldBackSynthTest : public SynthTest {
+ protected:
+  void After(int zMilliseconds, std::function<void()> zStep) {
+    QTimer::singleShot(zMilliseconds, qApp, std::move(zStep));
+  }
+};
+
+TEST_F(HeldBackSynthTest, TheWindowOpensWorksAndClosesOnALineThatNeverTakesAByte) {
+  port.isHeldBack = true;
+  window = std::make_unique<FrmSynthCtrl>(nullptr, context);
+  for (int i = 1; i <= 20; ++i) {
+    After(i, [this, i] { Bar("scFreq(1)")->setValue(i); });
+  }
+  After(30, [this] {
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(Box("txtFreq(1)")->text(), "20");
+    Given("scVol", {21, 22, 21});
+    EXPECT_EQ(Box("txtVol(1)")->Background(), QColor(255, 0, 0));
+    The<QAbstractButton>("btnDone")->click();
+  });
+  After(40, [this] { EXPECT_FALSE(window->isVisible()); });
+  window->ShowModal();
+  EXPECT_TRUE(window->IsUnloaded());
+  EXPECT_FALSE(sender.IsSending());
+  EXPECT_EQ(Sent(), "");
+}
+
+TEST_F(HeldBackSynthTest, ClosingGoesOnWhenTheLineIsFreeAgain) {
+  GivenOpenWindow();
+  Given("scVol", {5});
+  port.isHeldBack = true;
+  After(0, [this] { The<QAbstractButton>("btnDone")->click(); });
+  After(50, [this] {
+    EXPECT_EQ(Sent(), "");
+    port.isHeldBack = false;
+  });
+  window->ShowModal();
+  EXPECT_EQ(Sent(), "\\0RX" + Writes({{11, 0}, {8, 0}}));
+}
+
+TEST_F(SynthTest, ShutUpStopsALoadUnderWay) {
+  GivenOpenWindow();
+  WriteBytes(folder / "OTSounds.txt", "[Loud]\nFreq1=1\nVol1=31\nFreq2=2\nVol2=31\nVol5=31\n");
+  Box("txtSound")->setText("Loud");
+  port.onByte = [this] {
+    if (port.written.size() == 12) {  // the first whole write and the beginning of the next
+      QTimer::singleShot(0, window.get(), [this] { The<QAbstractButton>("btnShutUp")->click(); });
+    }
+  };
+  Press("btnLoad");
+  EXPECT_EQ(Sent(), Writes({{1, 1}}) + "\\011\\0RX" + Writes({{11, 0}, {1, 0}}));
+  EXPECT_EQ(Value("scVol(5)"), 0);
+}
+
+TEST_F(SynthTest, APortThatVanishesOrDoesNotOpenLeavesTheWindowWorking) {
+  port.refusesToOpen = true;
+  GivenOpenWindow();
+  EXPECT_EQ(opening, "");
+  EXPECT_EQ(Box("txtLevel(1)")->text(), "96");
+  port.refusesToOpen = false;
+  Bar("scFreq(1)")->setValue(5);
+  EXPECT_EQ(Sent(), Writes({{1, 5}}));
+  port.bytesUntilFailure = 3;
+  Bar("scFreq(1)")->setValue(6);
+  EXPECT_EQ(Sent(), "\\01");
+  EXPECT_EQ(host.portState, PortState::Failed);
+  port.bytesUntilFailure = -1;
+  Press("btnDone");
+  EXPECT_EQ(Sent(), "\\0RX" + Writes({{1, 0}, {8, 0}}));
+}
+
+TEST_F(SynthTest, AClickAwayFromABoxArrivesThoughItsWriteLetsTheReleaseIn) {
+  GivenOpenWindow();
+  Box("txtFreq(1)")->setFocus();
+  QTest::keyClicks(Box("txtFreq(1)"), "44");
+  auto* box = The<CheckBox>("Check2(1)");
+  const QPoint place = box->mapTo(window.get(), box->rect().center());
+  bool isReleased = false;
+  port.onByte = [&] {
+    if (!std::exchange(isReleased, true)) {
+      QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, place);
+    }
+  };
+  QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, place);
+  LetRun();
+  EXPECT_TRUE(isReleased);
+  EXPECT_TRUE(box->isChecked());
+  EXPECT_FALSE(box->isDown());
+  EXPECT_EQ(Value("scFreq(1)"), 44);
+  VirtualChip chip;
+  chip.Receive(opening + Sent());
+  ExpectShown(chip);
+}
+
+}  // namespace
+}  // namespace loquitor::testing
