@@ -1,0 +1,181 @@
+// The dictionary editor's window over a dictionary file, with the words of a list half of which it
+// lacks: what its owner waits for, and how much memory the window takes at most.
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include <QApplication>
+#include <QPushButton>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include "bench/support/sample_dictionary.h"
+#include "tests/support/window_test.h"
+#include "ui/dictedit/frm_dict_edit.h"
+
+namespace loquitor {
+namespace {
+
+using bench::SampleDictionary;
+
+/// Everything but the main window, over the dictionary of one size.
+class Editor : public testing::WindowTest {
+ public:
+  explicit Editor(std::int64_t zSize) : sample_(zSize), store_(sample_.Folder()) {
+    std::filesystem::current_path(sample_.Folder());
+  }
+  ~Editor() override { std::filesystem::current_path("/"); }
+
+  void Open() {
+    window_ = std::make_unique<frmDictEdit>(nullptr, editorContext_);
+    window_->Open();
+    window_->repaint();
+    QCoreApplication::processEvents();
+  }
+  void Close() { window_.reset(); }
+  void Click(const char* zName) { window_->findChild<QPushButton*>(zName)->click(); }
+  void Press(QKeySequence::StandardKey zKey) {
+    QTest::keySequence(window_->findChild<TextArea*>("txtDictionary"), QKeySequence(zKey));
+  }
+
+  void Type() { QTest::keyClick(window_->findChild<TextArea*>("txtDictionary"), Qt::Key_X); }
+  std::uintmax_t FileSize() const { return std::filesystem::file_size(sample_.File()); }
+
+  void WriteWordList(int zWords) {
+    std::ofstream list(sample_.Folder() / "ImportWords.txt");
+    for (int i = 0; i < zWords; ++i) {
+      list << SampleDictionary::Word(i) << (i % 2 == 0 ? "\n" : "q\n");
+    }
+  }
+
+ private:
+  void TestBody() override {}
+
+  SampleDictionary sample_;
+  DictionaryStore store_;
+  EditorContext editorContext_{codeTable, translator, store_, settings, sender, prompts, shared};
+  std::unique_ptr<frmDictEdit> window_;
+};
+
+/// A line of /proc/self/status in MB, such as VmHWM, the most that was ever in memory.
+double StatusMegabytes(const std::string& zName) {
+  std::ifstream status("/proc/self/status");
+  for (std::string name; status >> name;) {
+    if (name == zName + ":") {
+      double kilobytes = 0;
+      status >> kilobytes;
+      return kilobytes / 1024;
+    }
+  }
+  return 0;
+}
+
+void ForgetPeak() {
+  malloc_trim(0);
+  std::ofstream("/proc/self/clear_refs") << 5;
+}
+
+void Sizes(benchmark::internal::Benchmark* zBenchmark) {
+  zBenchmark->Arg(1'000)->Arg(10'000)->Arg(130'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+  zBenchmark->Iterations(3);
+}
+
+void BM_OpenToFirstView(benchmark::State& zState) {
+  Editor editor(zState.range(0));
+  for (auto _ : zState) {
+    editor.Open();
+    zState.PauseTiming();
+    editor.Close();
+    zState.ResumeTiming();
+  }
+}
+BENCHMARK(BM_OpenToFirstView)->Apply(Sizes);
+
+void MeasureClick(benchmark::State& zState, const char* zButton) {
+  Editor editor(zState.range(0));
+  editor.Open();
+  for (auto _ : zState) {
+    editor.Click(zButton);
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK_CAPTURE(MeasureClick, Save, "btnSaveChanges")->Apply(Sizes);
+BENCHMARK_CAPTURE(MeasureClick, SaveAndSort, "btnSort")->Apply(Sizes);
+BENCHMARK_CAPTURE(MeasureClick, EraseBlankEntries, "btnEraseBlank")->Apply(Sizes);
+
+void BM_UndoAndRedoASort(benchmark::State& zState) {
+  Editor editor(zState.range(0));
+  editor.Open();
+  editor.Click("btnSort");
+  for (auto _ : zState) {
+    editor.Press(QKeySequence::Undo);
+    editor.Press(QKeySequence::Redo);
+  }
+}
+BENCHMARK(BM_UndoAndRedoASort)->Apply(Sizes);
+
+/// A hundred thousand words, half of them new, the dictionary not read before.
+void BM_Import100000Words(benchmark::State& zState) {
+  Editor editor(zState.range(0));
+  editor.WriteWordList(100'000);
+  for (auto _ : zState) {
+    zState.PauseTiming();
+    editor.Open();
+    zState.ResumeTiming();
+    editor.Click("btnReadTerms");
+    zState.PauseTiming();
+    editor.Close();
+    zState.ResumeTiming();
+  }
+}
+BENCHMARK(BM_Import100000Words)->Apply(Sizes);
+
+/// One character typed at the start of the text.
+void BM_TypeACharacter(benchmark::State& zState) {
+  Editor editor(zState.range(0));
+  editor.Open();
+  for (auto _ : zState) {
+    editor.Type();
+  }
+}
+BENCHMARK(BM_TypeACharacter)
+    ->Arg(1'000)
+    ->Arg(130'000)
+    ->Arg(1'000'000)
+    ->Unit(benchmark::kMicrosecond);
+
+/// What the window adds to the program's memory at most, from opening it over sorting, cleaning,
+/// importing and taking all that back, in MB and in times the file.
+void BM_PeakMemory(benchmark::State& zState) {
+  Editor editor(zState.range(0));
+  editor.WriteWordList(100'000);
+  for (auto _ : zState) {
+    ForgetPeak();
+    const double before = StatusMegabytes("VmRSS");
+    const auto peak = [before] { return StatusMegabytes("VmHWM") - before; };
+    editor.Open();
+    zState.counters["opened_MB"] = peak();
+    editor.Click("btnSort");
+    zState.counters["sorted_MB"] = peak();
+    editor.Click("btnEraseBlank");
+    editor.Click("btnReadTerms");
+    for (int i = 0; i < 3; ++i) {
+      editor.Press(QKeySequence::Undo);
+    }
+    zState.counters["peak_MB"] = peak();
+    zState.counters["times_the_file"] = peak() * 1048576 / static_cast<double>(editor.FileSize());
+    editor.Close();
+  }
+}
+BENCHMARK(BM_PeakMemory)->Arg(130'000)->Arg(1'000'000)->Iterations(1);
+
+}  // namespace
+}  // namespace loquitor
+
+int main(int zCount, char** zArguments) {
+  QApplication application(zCount, zArguments);
+  benchmark::Initialize(&zCount, zArguments);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
