@@ -16,6 +16,8 @@
 namespace loquitor {
 namespace {
 
+constexpr std::size_t Bound = 700'000;
+
 class TextHistoryTest : public ::testing::Test {
  protected:
   void Type(const char* zKeys) { QTest::keyClicks(&area, zKeys); }
@@ -26,11 +28,12 @@ class TextHistoryTest : public ::testing::Test {
   }
   void Press(QKeySequence::StandardKey zKey) { QTest::keySequence(&area, QKeySequence(zKey)); }
 
-  /// A text of that many bytes, in lines of 64.
-  static std::string Lines(std::size_t zBytes, char zLetter) {
-    std::string text(zBytes, zLetter);
-    for (std::size_t end = 63; end < zBytes; end += 64) {
-      text[end] = '\n';
+  /// A text of that many bytes, in lines of 64, that hardly becomes smaller by compression.
+  std::string Lines(std::size_t zBytes) {
+    std::string text(zBytes, '\0');
+    for (std::size_t at = 0; at < zBytes; ++at) {
+      const char byte = static_cast<char>(random());
+      text[at] = at % 64 == 63 ? '\n' : byte == '\r' ? ' ' : byte;
     }
     return text;
   }
@@ -64,7 +67,7 @@ class TextHistoryTest : public ::testing::Test {
 
   std::mt19937 random{3};
   TextArea area{nullptr};
-  TextHistory& history = *new TextHistory(&area);
+  TextHistory& history = *new TextHistory(&area, Bound);
 };
 
 TEST_F(TextHistoryTest, RunsOfTypingAndErasingAreStepsOfTheirOwn) {
@@ -147,24 +150,31 @@ TEST_F(TextHistoryTest, ANewEditForgetsWhatWasTakenBack) {
 }
 
 TEST_F(TextHistoryTest, OldStepsGiveWayWhenTheyHoldTooMuch) {
-  constexpr std::size_t Size = TextHistory::MinimumBytes / 4;
-  history.Load(Lines(Size, 'a'));
-  for (const char letter : {'b', 'c', 'd', 'e', 'f', 'g'}) {
-    history.ReplaceAll(Lines(Size, letter));
-    EXPECT_LE(history.BytesHeld(), TextHistory::MinimumBytes);
+  constexpr std::size_t Size = Bound * 2 / 7;
+  std::vector<std::string> texts;
+  for (int i = 0; i < 6; ++i) {
+    texts.push_back(Lines(Size));
+    i == 0 ? history.Load(texts[0]) : history.ReplaceAll(texts.back());
+    EXPECT_LE(history.BytesHeld(), Bound);
   }
-  int steps = 0;
-  for (; history.CanUndo(); ++steps) {
+  for (const int i : {4, 3, 2}) {
     history.Undo();
-    EXPECT_LE(history.BytesHeld(), TextHistory::MinimumBytes);
+    EXPECT_TRUE(history.Text() == texts[static_cast<std::size_t>(i)]) << i;
+    EXPECT_LE(history.BytesHeld(), Bound);
   }
-  EXPECT_EQ(steps, 3);
-  EXPECT_EQ(history.Text(), Lines(Size, 'd'));
+  EXPECT_FALSE(history.CanUndo());
+  history.Redo();
+  EXPECT_TRUE(area.Text() == texts[3]);
+}
 
-  history.Load(Lines(2 * TextHistory::MinimumBytes, 'x'));
+TEST_F(TextHistoryTest, TheNewestStepIsKeptWhateverItsSize) {
+  const std::string text = Lines(Bound * 5 / 4);
+  history.Load(text);
   history.ReplaceAll("");
   history.Undo();
-  EXPECT_EQ(history.Text().size(), 2 * TextHistory::MinimumBytes);
+  EXPECT_TRUE(history.Text() == text);
+  history.Redo();
+  EXPECT_EQ(area.Text(), "");
 }
 
 TEST_F(TextHistoryTest, TheContextMenuOffersItsSteps) {

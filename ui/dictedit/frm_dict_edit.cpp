@@ -78,7 +78,15 @@ void frmDictEdit::ConnectControls() {
 }
 
 void frmDictEdit::Load() {
+  FixBoxWidth();
   LoadDictionary();
+}
+
+/// Gives the box its final width before it gets a text: when the width changes, Qt makes a layout
+/// for every line there is, which takes more memory than the text.
+void frmDictEdit::FixBoxWidth() {
+  txtDictionary_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  static_cast<void>(txtDictionary_->grab(QRect(0, 0, 1, 1)));  // delivers the pending resize events
 }
 
 void frmDictEdit::LoadDictionary() {

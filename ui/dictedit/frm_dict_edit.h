@@ -34,6 +34,7 @@ class frmDictEdit : public ToolWindow {
   void btnDone_Click();
 
   void ConnectControls();
+  void FixBoxWidth();
   void LoadDictionary();
   void TellOnceShown(const QString& zText);
   void SaveAndRewrite(QWidget* zButton, std::string (*zRewrite)(std::string));

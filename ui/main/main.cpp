@@ -3,8 +3,10 @@
 #include "link/program_folder.h"
 #include "link/qt/qt_serial_port.h"
 #include "ui/main/frm_utility.h"
+#include "ui/toolkit/large_blocks.h"
 
 int main(int argc, char** argv) {
+  loquitor::ReturnLargeBlocksAtOnce();
   QApplication application(argc, argv);
   QApplication::setApplicationName(loquitor::ApplicationTitle);
   QApplication::setApplicationVersion(QStringLiteral("1.4"));

@@ -14,6 +14,10 @@ namespace {
 /// How many characters of the document are looked at in one piece.
 constexpr int PieceLength = 1 << 16;
 
+/// From how many bytes on a step is compressed, and how hard (1 to 9, see zlib).
+constexpr std::size_t PackedFrom = 1 << 16;
+constexpr int PackingLevel = 1;
+
 /// The bytes of a piece of the document. Every character gets one, a foreign one a question mark,
 /// so that positions in the document and in the bytes stay the same.
 std::string BytesOf(QString zPiece) {
@@ -53,7 +57,8 @@ class FlagRaised {
 
 }  // namespace
 
-TextHistory::TextHistory(TextArea* zArea) : QObject(zArea), area_(zArea) {
+TextHistory::TextHistory(TextArea* zArea, std::size_t zBound)
+    : QObject(zArea), area_(zArea), bound_(zBound) {
   text_ = AreaText(0, area_->document()->characterCount() - 1);
   area_->setUndoRedoEnabled(false);
   area_->installEventFilter(this);
@@ -74,9 +79,9 @@ void TextHistory::Load(std::string zText) {
 void TextHistory::ReplaceAll(std::string zText) {
   Step step{0, zText.size(), std::move(text_), area_->textCursor().position()};
   text_ = std::move(zText);
-  Show();
   ForgetRedo();
-  PushUndo(std::move(step));
+  Push(undo_, std::move(step));
+  Show();
 }
 
 void TextHistory::Append(std::string_view zText) {
@@ -92,29 +97,24 @@ void TextHistory::Append(std::string_view zText) {
   Step step{text_.size(), zText.size(), {}};
   text_.append(zText);
   ForgetRedo();
-  PushUndo(std::move(step));
+  Push(undo_, std::move(step));
 }
 
 void TextHistory::Undo() {
-  if (!undo_.empty()) {
-    Step step = std::move(undo_.back());
-    undo_.pop_back();
-    redo_.push_back(Apply(std::move(step)));
+  if (CanUndo()) {
+    Push(redo_, Apply(Pop(undo_)));
   }
 }
 
 void TextHistory::Redo() {
-  if (!redo_.empty()) {
-    Step step = std::move(redo_.back());
-    redo_.pop_back();
-    undo_.push_back(Apply(std::move(step)));
+  if (CanRedo()) {
+    Push(undo_, Apply(Pop(redo_)));
   }
 }
 
 /// Exchanges what the step holds with what the box holds, and returns the step that exchanges them
 /// again.
 TextHistory::Step TextHistory::Apply(Step zStep) {
-  bytesHeld_ -= zStep.other.size();
   Step inverse{zStep.start, zStep.other.size(), {}};
   if (zStep.caret >= 0) {
     inverse.caret = area_->textCursor().position();
@@ -138,13 +138,21 @@ TextHistory::Step TextHistory::Apply(Step zStep) {
     area_->Select(zStep.caret >= 0 ? std::min(zStep.caret, end) : end, 0);
   }
   area_->ensureCursorVisible();
-  bytesHeld_ += inverse.other.size();
   return inverse;
 }
 
+/// Puts the text into the area in pieces: as one, it would take three times its size on the way.
 void TextHistory::Show() {
   const FlagRaised ownChange(isOwnChange_);
-  area_->SetText(text_);
+  area_->SetText("");
+  QTextCursor cursor(area_->document());
+  cursor.beginEditBlock();
+  const std::string_view text = text_;
+  for (std::size_t from = 0; from < text.size(); from += PieceLength) {
+    cursor.insertText(ToQString(text.substr(from, PieceLength)));
+  }
+  cursor.endEditBlock();
+  area_->moveCursor(QTextCursor::Start);
 }
 
 /// The user has changed the area. `zRemoved` may count the end of the document, and the stretch may
@@ -174,7 +182,7 @@ void TextHistory::RecordChange(int zFrom, int zRemoved) {
   text_.replace(step.start, step.other.size(), now);
   ForgetRedo();
   if (!JoinsLastStep(step)) {
-    PushUndo(std::move(step));
+    Push(undo_, std::move(step));
   }
 }
 
@@ -199,14 +207,41 @@ bool TextHistory::JoinsLastStep(const Step& zStep) {
   return true;
 }
 
-void TextHistory::PushUndo(Step zStep) {
+void TextHistory::Push(std::deque<Step>& zSteps, Step zStep) {
+  zStep.Pack();
   bytesHeld_ += zStep.other.size();
-  undo_.push_back(std::move(zStep));
+  zSteps.push_back(std::move(zStep));
   KeepWithinBound();
 }
 
+TextHistory::Step TextHistory::Pop(std::deque<Step>& zSteps) {
+  Step step = std::move(zSteps.back());
+  zSteps.pop_back();
+  bytesHeld_ -= step.other.size();
+  step.Unpack();
+  return step;
+}
+
+void TextHistory::Step::Pack() {
+  if (!isPacked && other.size() >= PackedFrom) {
+    other = qCompress(reinterpret_cast<const uchar*>(other.data()),
+                      static_cast<qsizetype>(other.size()), PackingLevel)
+                .toStdString();
+    isPacked = true;
+  }
+}
+
+void TextHistory::Step::Unpack() {
+  if (isPacked) {
+    other = qUncompress(reinterpret_cast<const uchar*>(other.data()),
+                        static_cast<qsizetype>(other.size()))
+                .toStdString();
+    isPacked = false;
+  }
+}
+
 void TextHistory::KeepWithinBound() {
-  const std::size_t bound = std::max(MinimumBytes, 2 * text_.size());
+  const std::size_t bound = std::max(bound_, 2 * text_.size());
   const auto isTooMuch = [this, bound] { return bytesHeld_ + undo_.size() * sizeof(Step) > bound; };
   while (undo_.size() > 1 && isTooMuch()) {
     bytesHeld_ -= undo_.front().other.size();

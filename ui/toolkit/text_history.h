@@ -13,17 +13,17 @@ namespace loquitor {
 /// Keeps the text of a TextArea as bytes beside it, and its undo steps within bounded memory, for
 /// texts of many megabytes. It takes the place of the area's own undo: Ctrl+Z, Ctrl+Y and the
 /// context menu reach this one. A run of typing or erasing is one step, and so is each call that
-/// changes the text. A step holds only the text that is not in the box, so that replacing a whole
-/// text costs its size once. Positions count bytes; a line break is one LF.
+/// changes the text. A step holds only the text that is not in the box, compressed when it is long.
+/// Positions count bytes; a line break is one LF.
 class TextHistory : public QObject {
   Q_OBJECT
  public:
-  /// What the steps may hold together: `MinimumBytes`, or twice the text where that is more. The
-  /// newest step is kept whatever its size; the oldest go first.
-  static constexpr std::size_t MinimumBytes = std::size_t{8} << 20;
+  static constexpr std::size_t UsualBound = std::size_t{8} << 20;
 
-  /// Becomes a child of `zArea`, whose text it takes over.
-  explicit TextHistory(TextArea* zArea);
+  /// Becomes a child of `zArea`, whose text it takes over. Its steps together hold at most `zBound`
+  /// bytes, or twice the text where that is more; the oldest go first, and the newest is kept
+  /// whatever its size.
+  explicit TextHistory(TextArea* zArea, std::size_t zBound = UsualBound);
 
   /// The text of the area.
   const std::string& Text() const { return text_; }
@@ -55,14 +55,19 @@ class TextHistory : public QObject {
   struct Step {
     std::size_t start = 0;
     std::size_t length = 0;
-    std::string other;
+    std::string other;   ///< compressed when isPacked
     int caret = -1;      ///< where the caret goes; -1: behind `other`
     bool isRun = false;  ///< one character typed or erased, and those that followed it
+    bool isPacked = false;
+
+    void Pack();
+    void Unpack();
   };
 
   void RecordChange(int zFrom, int zRemoved);
+  void Push(std::deque<Step>& zSteps, Step zStep);
+  Step Pop(std::deque<Step>& zSteps);
   bool JoinsLastStep(const Step& zStep);
-  void PushUndo(Step zStep);
   void KeepWithinBound();
   Step Apply(Step zStep);
   void Show();
@@ -71,6 +76,7 @@ class TextHistory : public QObject {
   void ShowContextMenu(const QPoint& zPosition);
 
   TextArea* area_;
+  std::size_t bound_;
   std::string text_;
   std::deque<Step> undo_;
   std::deque<Step> redo_;

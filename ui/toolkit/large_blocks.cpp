@@ -1,0 +1,18 @@
+#include "ui/toolkit/large_blocks.h"
+
+#include <cstdlib>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace loquitor {
+
+void ReturnLargeBlocksAtOnce() {
+#ifdef __GLIBC__
+  // Setting the threshold also ends its growth with the size of the blocks that are freed.
+  static_cast<void>(mallopt(M_MMAP_THRESHOLD, 1 << 20));  // refused: only memory is lost
+#endif
+}
+
+}  // namespace loquitor
