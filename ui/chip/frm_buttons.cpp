@@ -41,11 +41,11 @@ constexpr int Bottom = MiscTop + MiscHeight;
 
 // The option frames at the right.
 constexpr int OptionsLeft = Margin + EventsWidth + Margin;
-constexpr int OptionsWidth = 3675;
+constexpr int OptionsWidth = 3810;
 constexpr int OptionTop = 300;
 constexpr int OptionPitch = 345;
 constexpr int OptionHeight = 285;
-constexpr int OptionWidth = 1200;
+constexpr int OptionWidth = 1275;
 constexpr int LeftOption = 1185;
 constexpr int RightOption = LeftOption + OptionWidth;
 constexpr int OptionFrameHeight2 = OptionTop + 2 * OptionPitch + 75;

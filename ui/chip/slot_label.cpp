@@ -2,9 +2,9 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include "ui/toolkit/code_page.h"
+#include "ui/toolkit/colours.h"
 
 namespace loquitor {
 namespace {
@@ -90,11 +90,7 @@ void PhraseLabel::paintEvent(QPaintEvent*) {
   painter.setPen(palette().color(foregroundRole()));
   painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, shown);
   if (hasFocus()) {
-    QStyleOptionFocusRect focus;
-    focus.initFrom(this);
-    focus.rect = contentsRect().adjusted(1, 1, -1, -1);
-    focus.backgroundColor = palette().color(backgroundRole());
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    DrawFocusMark(painter, rect(), palette());
   }
 }
 
