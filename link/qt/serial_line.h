@@ -26,8 +26,9 @@ void WaitForLine(const QSerialPort& zPort);
 void DiscardSystemQueue(const QSerialPort& zPort);
 
 /// Keeps other programs, and a second Loquitor, off a device. The exclusive mode of a terminal
-/// device does not hold against the superuser; an advisory lock on the device does among programs
-/// that take one. Where the system opens devices exclusively anyway this does nothing.
+/// device does not hold against the superuser, and lock files only among programs that keep them in
+/// the same folder; an advisory lock on the device itself holds among all that take one. Where the
+/// system opens devices exclusively anyway this does nothing.
 class LineLock {
  public:
   LineLock() = default;
