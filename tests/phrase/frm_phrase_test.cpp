@@ -202,6 +202,22 @@ TEST_F(FrmPhraseTest, ClosesWhileTheLineIsHeldBackForEver) {
   EXPECT_EQ(Sent(), "");
 }
 
+TEST_F(FrmPhraseTest, DoesNothingMoreWhenItIsClosedAsAnActionBegins) {
+  for (const char* button : {"bntSayIt", "btnSaySelection", "btnCodes", "Command2"}) {
+    Open();
+    QTimer::singleShot(0, window.get(), [this] { window->close(); });
+    Press(button);
+    EXPECT_EQ(Sent(), "") << button;
+  }
+  Open();
+  DoubleClick("Wait", 1);
+  Click("Wait");
+  window->close();
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  EXPECT_EQ(prompts.asked.size(), 1u) << "only while the window was open";
+  EXPECT_EQ(Sent(), "");
+}
+
 TEST_F(FrmPhraseTest, SurvivesAPortThatVanishesInMidPhrase) {
   Open();
   port.bytesUntilFailure = 9;

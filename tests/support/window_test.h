@@ -11,36 +11,13 @@
 #include "core/say_data.h"
 #include "link/code_sender.h"
 #include "link/settings_file.h"
+#include "tests/support/scripted_host.h"
 #include "tests/support/scripted_port.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/temp_folder.h"
 #include "ui/toolkit/editor_context.h"
 
 namespace loquitor::testing {
-
-/// The main window's side of sending, for tests of other windows.
-class ScriptedHost : public SenderHost {
- public:
-  std::string PortDevice() const override { return "scripted"; }
-  bool IsFlowControlTicked() const override { return isFlowControlTicked; }
-  void ShowPortState(PortState zState) override { portState = zState; }
-  bool ConfirmLongPhrase() override {
-    ++longPhraseQuestions;
-    return sendsLongPhrases;
-  }
-  void LetEventsRun() override { QCoreApplication::processEvents(); }
-  void WaitForEvents() override { QCoreApplication::processEvents(QEventLoop::AllEvents, 1); }
-  void SetTicking(bool zIsOn) override { isTicking = zIsOn; }
-  void StopClosingTimer() override { isTimerRunning = false; }
-  void StartClosingTimer(int) override { isTimerRunning = true; }
-
-  bool isFlowControlTicked = true;
-  bool sendsLongPhrases = true;
-  int longPhraseQuestions = 0;
-  bool isTimerRunning = false;
-  bool isTicking = false;
-  PortState portState = PortState::Closed;
-};
 
 /// The program without its main window: real files in a folder of the test's own, a scripted port
 /// and scripted answers.

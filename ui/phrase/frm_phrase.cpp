@@ -97,6 +97,9 @@ void frmPhrase::Say(const std::string& zSayData, const char* zButton) {
   txtSayData_->setFocus();
   {
     const Busy busy(this, form_.Get<QPushButton>(zButton));
+    if (IsUnloaded()) {
+      return;  // closed by one of the events that were pending
+    }
     SayThisAllophoneList(context_.translator.ExpandSayData(zSayData));
   }
   txtSayData_->setFocus();
@@ -124,8 +127,10 @@ void frmPhrase::ViewCodes(const std::string& zSayData) {
     const Busy busy(this);
     codes = CodesOf(context_.translator.ExpandSayData(zSayData));
   }
-  txtSayData_->setFocus();
-  ShowThisCodeList(codes);
+  if (!IsUnloaded()) {
+    txtSayData_->setFocus();
+    ShowThisCodeList(codes);
+  }
 }
 
 void frmPhrase::ShowThisCodeList(std::string_view zOrvatoneCodes) {

@@ -77,6 +77,9 @@ void SoundPalette::ConnectKeys() {
 void SoundPalette::Command1_Click(int zIndex) {
   const PaletteMember& member = *FindPaletteMember(zIndex);
   const Busy busy(window_);
+  if (!window_->isVisible()) {
+    return;  // closed by one of the events that were pending, or while the click was held back
+  }
   const std::string prefix = TakePrefix(context_.shared.SkipControlsOnce, voice_.AppliesToSounds(),
                                         voice_.GetControlCodes());
   const std::int16_t code = CodeOf(context_.codeTable, member);
