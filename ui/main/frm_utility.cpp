@@ -108,6 +108,7 @@ void frmUtility::ConnectControls(const Form& zForm) {
   connect(zForm.Get<QPushButton>("btnDone"), &QPushButton::clicked, this, &frmUtility::close);
   connect(txtComPort_, &TextBox::LostFocus, this, &frmUtility::txtComPort_LostFocus);
   txtComPort_->installEventFilter(this);
+  Timer1_.setObjectName(QStringLiteral("Timer1"));
   connect(&Timer1_, &QTimer::timeout, this, &frmUtility::Timer1_Timer);
 }
 

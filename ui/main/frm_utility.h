@@ -72,7 +72,7 @@ class frmUtility : public QWidget, private SenderHost {
 
   TextBox* txtComPort_ = nullptr;
   CheckBox* chkFlow_ = nullptr;
-  QTimer Timer1_;
+  QTimer Timer1_{this};
   QPointer<ToolWindow> openEditor_;  // the one that was opened last
   bool isLoaded_ = false;
   bool isUnloaded_ = false;

@@ -1,0 +1,314 @@
+#include "ui/main/frm_utility.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+#include "tests/support/scripted_port.h"
+#include "tests/support/scripted_prompts.h"
+#include "tests/support/temp_folder.h"
+#include "ui/toolkit/check_box.h"
+#include "ui/toolkit/text_box.h"
+#include "ui/toolkit/tool_window.h"
+
+namespace loquitor {
+namespace {
+
+using testing::ReadBytes;
+using testing::WriteBytes;
+
+constexpr const char* Ports = "[Ports]\r\n1=/scripted/one\r\n7=/scripted/seven\r\n";
+const std::string TestBytes = "\x1F\\0VX";
+
+class MainWindow : public ::testing::Test {
+ protected:
+  void TearDown() override { QApplication::closeAllWindows(); }
+
+  /// The program starts; its settings file holds two devices and `zSettings`.
+  void Start(const std::string& zSettings = "") {
+    WriteBytes(folder / "Loquitor.ini", Ports + zSettings);
+    window.emplace(port, settings, dictionary, prompts);
+    window->Open();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&*window));
+  }
+
+  template <class T = QWidget>
+  T* Get(const char* zName) {
+    return window->findChild<T*>(QLatin1String(zName));
+  }
+  void Click(const char* zButton) { QTest::mouseClick(Get(zButton), Qt::LeftButton); }
+  void Type(const QString& zPort) {
+    Get<TextBox>("txtComPort")->setFocus();
+    Get<TextBox>("txtComPort")->selectAll();
+    QTest::keyClicks(Get("txtComPort"), zPort);
+  }
+  QColor BoxColour() { return Get<TextBox>("txtComPort")->Background(); }
+
+  /// Runs when the handler under test has come to its first wait for events.
+  void Meanwhile(std::function<void()> zAct) { QTimer::singleShot(0, &*window, std::move(zAct)); }
+  static ToolWindow* Modal() {
+    return qobject_cast<ToolWindow*>(QApplication::activeModalWidget());
+  }
+
+  testing::TempFolder folder;
+  SettingsFile settings{folder.Path()};
+  DictionaryStore dictionary{folder.Path()};
+  testing::ScriptedPort port;
+  testing::ScriptedPrompts prompts;
+  std::optional<frmUtility> window;
+};
+
+const QColor White(255, 255, 255);
+const QColor Green(0, 255, 0);
+const QColor Red(255, 0, 0);
+
+TEST_F(MainWindow, LoadsTheStoredSettingsOrTheDefaultsAndOpensNoPort) {
+  struct Row {
+    const char* stored;
+    const char* port;
+    int flow;
+  };
+  for (const Row& row : {Row{"", "1", 1}, Row{"[Serial]\r\nPort=7\r\nFlowControl=0\r\n", "7", 0},
+                         Row{"[serial]\r\nport=abc\r\nflowcontrol=1\r\n", "abc", 1},
+                         Row{"[Serial]\r\nPort=\r\nFlowControl=2\r\n", "1", 0},
+                         Row{"[Serial]\r\nFlowControl=7\r\n", "1", 1},
+                         Row{"[Serial]\r\nFlowControl=yes\r\n", "1", 1}}) {
+    Start(row.stored);
+    EXPECT_EQ(Get<TextBox>("txtComPort")->Text(), row.port) << row.stored;
+    EXPECT_EQ(Get<CheckBox>("chkFlow")->Value(), row.flow) << row.stored;
+    EXPECT_EQ(BoxColour(), White);
+    EXPECT_EQ(window->Context().codeTable.GetCodeIndex("\\IY"), 128);
+  }
+  EXPECT_TRUE(port.opened.empty());
+}
+
+TEST_F(MainWindow, StoresItsSettingsOnceHoweverItIsClosed) {
+  for (const bool isByButton : {true, false}) {
+    Start();
+    Type("7");
+    Get<CheckBox>("chkFlow")->SetValue(0);
+    if (isByButton) {
+      Click("btnDone");
+    } else {
+      window->close();
+    }
+    EXPECT_FALSE(window->isVisible());
+    const std::string stored = std::string(Ports) + "[Serial]\r\nPort=7\r\nFlowControl=0\r\n";
+    EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"), stored);
+    WriteBytes(folder / "Loquitor.ini", "untouched");
+    window->close();
+    EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"), "untouched");
+  }
+}
+
+TEST_F(MainWindow, TheTestTurnsTheBoxGreenAndTheTimerWhiteAgain) {
+  Start();
+  auto* timer = Get<QTimer>("Timer1");
+  EXPECT_FALSE(timer->isActive());
+  Click("cmdTestSerialPort");
+  EXPECT_EQ(port.TakeWritten(), TestBytes);
+  EXPECT_EQ(port.opened.back().device, "/scripted/one");
+  EXPECT_FALSE(port.opened.back().hardwareHandshaking);
+  EXPECT_EQ(BoxColour(), Green);
+  EXPECT_EQ(timer->interval(), 1000);
+  EXPECT_TRUE(timer->isActive());
+  timer->setInterval(1);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !port.IsOpen(); }));
+  EXPECT_EQ(BoxColour(), White);
+  EXPECT_EQ(timer->interval(), 0);
+  EXPECT_FALSE(timer->isActive());
+}
+
+TEST_F(MainWindow, APortThatCannotBeOpenedTurnsRedUntilTheBoxIsLeft) {
+  for (const char* number : {"0", "-1", "abc", "", "200", "99999999999", "1e300"}) {
+    Start();
+    Type(number);
+    Click("cmdTestSerialPort");
+    EXPECT_EQ(BoxColour(), Red) << number;
+    Get("txtComPort")->setFocus();
+    QTest::keyClick(Get("txtComPort"), Qt::Key_Tab);
+    EXPECT_EQ(BoxColour(), White) << number;
+  }
+  EXPECT_TRUE(port.opened.empty());
+  port.refusesToOpen = true;
+  Start();
+  Click("cmdTestSerialPort");
+  EXPECT_EQ(BoxColour(), Red);
+  EXPECT_EQ(port.TakeWritten(), "");
+}
+
+TEST_F(MainWindow, LeavingThePortBoxClosesThePortAndTheNextSendOpensTheNewOne) {
+  Start();
+  Click("cmdTestSerialPort");
+  Type(" 7 ");
+  EXPECT_TRUE(port.IsOpen());
+  QTest::keyClick(Get("txtComPort"), Qt::Key_Tab);
+  EXPECT_FALSE(port.IsOpen());
+  EXPECT_EQ(BoxColour(), White);
+  Click("cmdTestSerialPort");
+  EXPECT_EQ(port.opened.back().device, "/scripted/seven");
+}
+
+TEST_F(MainWindow, ThePortBoxTellsThePortsThatExistNow) {
+  Start();
+  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n3=/dev/null\r\n");
+  auto* box = Get("txtComPort");
+  QHelpEvent hover(QEvent::ToolTip, {3, 3}, box->mapToGlobal(QPoint(3, 3)));
+  QCoreApplication::sendEvent(box, &hover);
+  EXPECT_TRUE(box->toolTip().contains("/dev/null")) << box->toolTip().toStdString();
+}
+
+TEST_F(MainWindow, AsksBeforeALongPhraseWithoutFlowControl) {
+  Start("[Serial]\r\nFlowControl=0\r\n");
+  CodeSender& sender = window->Context().sender;
+  prompts.answers = {PromptAnswer::No, PromptAnswer::Yes};
+  sender.SendCodesToOrvatone(std::string(65, '\x05'), true);
+  EXPECT_EQ(port.TakeWritten(), "");
+  sender.SendCodesToOrvatone(std::string(65, '\x05'), true);
+  EXPECT_EQ(port.TakeWritten().size(), 65U);
+  ASSERT_EQ(prompts.asked.size(), 2U);
+  EXPECT_EQ(prompts.asked[0].title, "Notice");
+  EXPECT_EQ(prompts.asked[0].buttons, PromptButtons::YesNo);
+  EXPECT_EQ(prompts.asked[0].text,
+            "Flow Control is currently disabled. -AND-\r\n"
+            "The phrase that you are about to play is longer than 64 codes.\r\n\r\n"
+            "This will result in some of the codes after the 64th one to not being played.\r\n\r\n"
+            "Do you still want to send it to the Orvatone.");
+  Get<CheckBox>("chkFlow")->SetValue(1);
+  sender.CloseSerialPort();
+  sender.SendCodesToOrvatone(std::string(65, '\x05'), true);
+  EXPECT_EQ(prompts.asked.size(), 2U);
+  EXPECT_TRUE(port.opened.back().hardwareHandshaking);
+}
+
+TEST_F(MainWindow, TabVisitsTheControlsInTheirOrderAndEnterPressesNothing) {
+  Start();
+  Get("EditPhrases")->setFocus();
+  QStringList visited;
+  for (int at = 0; at < 10; ++at) {
+    visited += window->focusWidget()->objectName();
+    QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(visited, (QStringList{"EditPhrases", "EditEEPROM", "btnSetSerialPort", "txtComPort",
+                                  "cmdTestSerialPort", "btnSynth", "Command1", "btnDictEdit",
+                                  "btnDone", "chkFlow"}));
+  EXPECT_EQ(Modal(), nullptr);
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_TRUE(port.opened.empty());
+}
+
+TEST_F(MainWindow, EachButtonOpensItsEditorOnce) {
+  struct Row {
+    const char* button;
+    const char* editor;
+    const char* title;
+  };
+  Start();
+  for (const Row& row : {Row{"EditPhrases", "loquitor::frmPhrase", " Orvatone Phrase Editor"},
+                         Row{"EditEEPROM", "loquitor::frmEEPROM", ""},
+                         Row{"btnSetSerialPort", "loquitor::frmButtons", ""},
+                         Row{"btnSynth", "loquitor::FrmSynthCtrl", "Orvatone Synth Control"},
+                         Row{"Command1", "loquitor::frmBaudRate", ""},
+                         Row{"btnDictEdit", "loquitor::frmDictEdit", ""}}) {
+    int opened = 0;
+    Meanwhile([&] {
+      ASSERT_NE(Modal(), nullptr) << row.button;
+      ++opened;
+      EXPECT_STREQ(Modal()->metaObject()->className(), row.editor);
+      EXPECT_EQ(Modal()->parentWidget(), &*window);
+      if (*row.title != '\0') {
+        EXPECT_EQ(Modal()->windowTitle(), row.title);
+      }
+      const ToolWindow* first = Modal();
+      Get<QAbstractButton>(row.button)->click();  // as a second click that came while it opened
+      EXPECT_EQ(Modal(), first);
+      Modal()->close();
+    });
+    Click(row.button);
+    EXPECT_EQ(opened, 1) << row.button;
+    EXPECT_EQ(Modal(), nullptr) << row.button;
+  }
+}
+
+TEST_F(MainWindow, ThePhraseEditorStartsWithoutTexts) {
+  Start();
+  window->Context().shared.PhraseToMove = "left over";
+  window->Context().shared.WordToMove = "left over";
+  Meanwhile([&] {
+    EXPECT_EQ(window->Context().shared.PhraseToMove, "");
+    EXPECT_EQ(window->Context().shared.WordToMove, "");
+    Modal()->close();
+  });
+  Click("EditPhrases");
+}
+
+TEST_F(MainWindow, StaysUsableWhileASendOfAClosedEditorWaitsForTheLine) {
+  Start();
+  port.isHeldBack = true;
+  std::string steps;
+  Meanwhile([&] {
+    Meanwhile([&] {  // the test of the editor waits for the line: it is closed, another opened
+      Modal()->close();
+      EXPECT_EQ(Modal(), nullptr);
+      Meanwhile([&] {
+        steps += Modal() == nullptr ? "none " : "second ";
+        Modal()->close();
+        port.isHeldBack = false;
+      });
+      Click("btnDictEdit");
+      steps += "closed ";
+    });
+    window->Context().sender.SendCodesToOrvatone("abc", false);
+    steps += "sent ";
+  });
+  Click("Command1");
+  EXPECT_EQ(steps, "second closed sent ");
+  EXPECT_EQ(port.TakeWritten(), "abc");
+}
+
+TEST_F(MainWindow, ClosingEndsASendThatWaitsAndOpensThePortNoMore) {
+  Start();
+  port.isHeldBack = true;
+  Meanwhile([&] { window->close(); });
+  Click("cmdTestSerialPort");
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_FALSE(port.IsOpen());
+  window->Context().sender.SendCodesToOrvatone("more of the same handler", false);
+  EXPECT_EQ(port.opened.size(), 1U);
+  EXPECT_EQ(port.TakeWritten(), "");
+}
+
+TEST_F(MainWindow, ASessionThatEndsUnloadsTheEditorsFirst) {
+  Start();
+  bool isEditorUnloaded = false;
+  Meanwhile([&] {
+    ToolWindow* editor = Modal();
+    window->close();
+    isEditorUnloaded = editor->IsUnloaded();
+  });
+  Click("btnSetSerialPort");
+  EXPECT_TRUE(isEditorUnloaded);
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_NE(ReadBytes(folder / "Loquitor.ini").find("Port=1"), std::string::npos);
+}
+
+TEST_F(MainWindow, LooksAsItShould) {
+  Start();
+  EXPECT_EQ(window->windowTitle(), "Quenlith Phrase Translator for Orvatone  V.1.4");
+  EXPECT_EQ(window->size(), QSize(423, 151));
+  EXPECT_FALSE(window->windowFlags() & Qt::WindowMaximizeButtonHint);
+  EXPECT_LT(window->minimumWidth(), 423);
+  EXPECT_GT(window->maximumWidth(), 423);
+  EXPECT_EQ(Get("txtComPort")->geometry(), QRect(80, 22, 29, 21));
+  EXPECT_EQ(Get("Command1")->geometry(), QRect(284, 46, 133, 33));
+  EXPECT_EQ(Get("chkFlow")->accessibleName(), "Use Flow Control");
+}
+
+}  // namespace
+}  // namespace loquitor
