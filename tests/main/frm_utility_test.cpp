@@ -44,7 +44,7 @@ class MainWindow : public ::testing::Test {
   void Click(const char* zButton) { QTest::mouseClick(Get(zButton), Qt::LeftButton); }
   void Type(const QString& zPort) {
     Get<TextBox>("txtComPort")->setFocus();
-    Get<TextBox>("txtComPort")->selectAll();
+    Get<TextBox>("txtComPort")->clear();
     QTest::keyClicks(Get("txtComPort"), zPort);
   }
   QColor BoxColour() { return Get<TextBox>("txtComPort")->Background(); }
