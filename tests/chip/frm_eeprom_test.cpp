@@ -198,6 +198,26 @@ TEST_F(EepromEditor, MarksAPhraseThatTheSettingsWouldCut) {
   EXPECT_EQ(PhraseLabel(7)->accessibleDescription(), "");
 }
 
+TEST_F(EepromEditor, MarksAPhraseWhosePausesTheSettingsWouldChange) {
+  const struct {
+    const char* phrase;
+    const char* stored;
+    bool isMarked;
+  } rows[] = {{"\\IY \\EH ", "\\IY \\EH", false},
+              {"\\IY\n\\EH", "\\IY \\EH", false},
+              {"\\IY \n\n\\EH", "\\IY  \\EH", true},
+              {"  \\IY", "\\IY", true},
+              {",\\IY", ",\\IY", false}};
+  for (const auto& row : rows) {
+    Open();
+    Edit("Phrase(1)", row.phrase, &PressDone);
+    EXPECT_EQ(PhraseLabel(1)->accessibleDescription().contains("other pauses"), row.isMarked)
+        << row.phrase;
+    editor->close();
+    EXPECT_EQ(StoredPhrase(1), row.stored);
+  }
+}
+
 TEST_F(EepromEditor, TabsFromRowToRowToTheButtons) {
   Open();
   QStringList order;

@@ -66,15 +66,23 @@ std::string PhraseKey(int zIndex) {
 }
 
 /// What is wrong with keeping `zPhrase` in the settings file; empty when nothing is.
-QString StorageWarning(std::string_view zPhrase) {
-  if (!IsCutWhenStored(zPhrase)) {
-    return {};
+QString StorageWarning(const SayDataTranslator& zTranslator, std::string_view zPhrase) {
+  const std::string stored = StoredForm(zPhrase);
+  if (stored.size() > MaxStoredPhrase) {
+    return QStringLiteral(
+               "This phrase has %1 characters. Only the first %2 come back when this window is "
+               "opened again. To make it shorter, put words into the dictionary and use them here.")
+        .arg(stored.size())
+        .arg(MaxStoredPhrase);
   }
-  return QStringLiteral(
-             "This phrase has %1 characters. Only the first %2 come back when this window is "
-             "opened again. To make it shorter, put words into the dictionary and use them here.")
-      .arg(StoredForm(zPhrase).size())
-      .arg(MaxStoredPhrase);
+  if (stored != zPhrase &&
+      TranslateSlot(zTranslator, stored) != TranslateSlot(zTranslator, zPhrase)) {
+    return QStringLiteral(
+        "This phrase will have other pauses when this window is opened again: its line breaks come "
+        "back as blanks, and the blanks at its beginning not at all. Write it in one line and its "
+        "first pause as a comma or a mnemonic.");
+  }
+  return {};
 }
 
 /// The background of the usage label; none for the normal one.
@@ -146,7 +154,8 @@ void frmEEPROM::ReportUsed() {
 }
 
 void frmEEPROM::ShowPhrase(int zIndex, std::string_view zPhrase) {
-  phrases_[static_cast<std::size_t>(zIndex)]->SetPhrase(zPhrase, StorageWarning(zPhrase));
+  phrases_[static_cast<std::size_t>(zIndex)]->SetPhrase(
+      zPhrase, StorageWarning(context_.translator, zPhrase));
 }
 
 void frmEEPROM::SetSlotsEnabled(bool zIsEnabled) {

@@ -13,9 +13,4 @@ inline constexpr std::size_t MaxStoredPhrase = 255;
 /// it. A read gives back its first MaxStoredPhrase characters.
 std::string StoredForm(std::string_view zPhrase);
 
-/// Whether the end of `zPhrase` would be missing after the settings were read again.
-inline bool IsCutWhenStored(std::string_view zPhrase) {
-  return StoredForm(zPhrase).size() > MaxStoredPhrase;
-}
-
 }  // namespace loquitor
