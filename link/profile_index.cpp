@@ -140,9 +140,12 @@ void ProfileIndex::Insert(const Slot& zEntry) {
   const std::size_t mask = slots_.size() - 1;
   std::size_t i = zEntry.tag & mask;
   for (; slots_[i].place != 0; i = (i + 1) & mask) {
-    if (slots_[i].tag == zEntry.tag && HoldsKey(slots_[i], zEntry.tag, SectionAround(zEntry.place),
-                                                *KeyOf(LineFrom(zEntry.place)))) {
-      return;
+    if (slots_[i].tag == zEntry.tag) {
+      const std::string_view rest = Text().substr(zEntry.place);
+      const std::string_view key = TrimBlanks(rest.substr(0, rest.find('=')));
+      if (ValuePlace(slots_[i], SectionAround(zEntry.place), key)) {
+        return;
+      }
     }
   }
   slots_[i] = zEntry;
@@ -155,17 +158,22 @@ const ProfileIndex::Section& ProfileIndex::SectionAround(std::size_t zPlace) con
   return *std::prev(next);
 }
 
-std::string_view ProfileIndex::LineFrom(std::size_t zPlace) const {
-  const std::string_view rest = Text().substr(zPlace);
-  return rest.substr(0, rest.find_first_of("\r\n"));
+/// Where the value behind the key of `zSlot` begins, if that is `zKey` in `zSection`.
+std::optional<std::size_t> ProfileIndex::ValuePlace(const Slot& zSlot, const Section& zSection,
+                                                    std::string_view zKey) const {
+  if (zSlot.place < zSection.begin || zSlot.place >= zSection.end) {
+    return std::nullopt;
+  }
+  const std::size_t equals = Text().find('=', zSlot.place);  // there is one, or it had no slot
+  const std::string_view key = TrimBlanks(Text().substr(zSlot.place, equals - zSlot.place));
+  return EqualNames(key, zKey) ? std::make_optional(equals + 1) : std::nullopt;
 }
 
-bool ProfileIndex::HoldsKey(const Slot& zSlot, std::uint32_t zTag, const Section& zSection,
-                            std::string_view zKey) const {
-  if (zSlot.tag != zTag || zSlot.place < zSection.begin || zSlot.place >= zSection.end) {
-    return false;
-  }
-  return EqualNames(*KeyOf(LineFrom(zSlot.place)), zKey);
+std::string_view ProfileIndex::ValueFrom(std::size_t zPlace) const {
+  std::string_view line = Text().substr(zPlace);
+  line = line.substr(0, line.find('\n'));
+  line = line.substr(0, line.find('\r'));
+  return WithoutQuotes(TrimBlanks(line));
 }
 
 std::optional<std::string_view> ProfileIndex::Find(std::string_view zSection,
@@ -174,14 +182,14 @@ std::optional<std::string_view> ProfileIndex::Find(std::string_view zSection,
   if (found == sectionsByName_.end()) {
     return std::nullopt;
   }
-  const Section& section = sections_[found->second];
   const std::string_view key = TrimBlanks(zKey);
   const std::uint32_t tag = TagOf(key, found->second + 1);
   const std::size_t mask = slots_.size() - 1;
   for (std::size_t i = tag & mask; slots_[i].place != 0; i = (i + 1) & mask) {
-    if (HoldsKey(slots_[i], tag, section, key)) {
-      const std::string_view line = LineFrom(slots_[i].place);
-      return WithoutQuotes(TrimBlanks(line.substr(line.find('=') + 1)));
+    if (slots_[i].tag == tag) {
+      if (const auto place = ValuePlace(slots_[i], sections_[found->second], key)) {
+        return ValueFrom(*place);
+      }
     }
   }
   return std::nullopt;

@@ -54,10 +54,10 @@ class ProfileIndex {
   bool OpenSection(std::string_view zName, std::size_t zBegin);
   void FillSlots(const std::vector<Slot>& zEntries);
   void Insert(const Slot& zEntry);
-  bool HoldsKey(const Slot& zSlot, std::uint32_t zTag, const Section& zSection,
-                std::string_view zKey) const;
   const Section& SectionAround(std::size_t zPlace) const;
-  std::string_view LineFrom(std::size_t zPlace) const;
+  std::optional<std::size_t> ValuePlace(const Slot& zSlot, const Section& zSection,
+                                        std::string_view zKey) const;
+  std::string_view ValueFrom(std::size_t zPlace) const;
 
   LoadedFile file_;
   std::vector<Section> sections_;
