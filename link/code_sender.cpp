@@ -51,6 +51,7 @@ void CodeSender::ClearPendingOutput() {
   pendingOutput_.clear();
   writtenCount_ = 0;
   lastBegin_ = 0;
+  wasEmptied_ = true;
 }
 
 std::string_view CodeSender::PendingOutput() const {
@@ -87,6 +88,7 @@ bool CodeSender::TryToOpen(bool zIsPhrase) {
 void CodeSender::TakeOver(std::string_view zCodes, bool zIsPhrase) {
   ClearPendingOutput();
   pendingOutput_ = zCodes;
+  wasEmptied_ = false;
   isLastPhrase_ = zIsPhrase;
   port_.DiscardReceived();
 }
@@ -98,6 +100,7 @@ void CodeSender::LeaveToInnermost(std::string_view zCodes, bool zIsPhrase) {
     port_.DiscardReceived();
   }
   pendingOutput_ += zCodes;
+  wasEmptied_ = false;
   hasLeftBytes_ = true;
 }
 
@@ -117,9 +120,9 @@ void CodeSender::WritePendingOutput() {
   if (depth_++ == 0) {
     host_.SetTicking(true);
   }
-  while (port_.IsOpen() && !PendingOutput().empty()) {
+  while (port_.IsOpen() && !IsDone()) {
     hasLeftBytes_ = false;
-    if (port_.IsReadyForByte()) {
+    if (!PendingOutput().empty() && port_.IsReadyForByte()) {
       WriteNextByte();
       host_.LetEventsRun();
     } else {
@@ -133,6 +136,12 @@ void CodeSender::WritePendingOutput() {
   if (--depth_ == 0) {
     host_.SetTicking(false);
   }
+}
+
+/// What the port has taken must have left as well before the closing timer starts: with the line
+/// held back for a second, closing would cost a phrase its last sounds.
+bool CodeSender::IsDone() const {
+  return PendingOutput().empty() && (wasEmptied_ || port_.UnsentBytes() == 0);
 }
 
 void CodeSender::WriteNextByte() {

@@ -68,9 +68,10 @@ class CodeSender {
   CodeSender& operator=(const CodeSender&) = delete;
 
   /// Sends `zCodes`, one byte a character, exactly as given. `zIsPhrase`: true for spoken code
-  /// strings (long-phrase question, hardware flow control), false for command strings. A port that
-  /// cannot be opened, or fails on the way, ends the send and shows red; nothing else is reported
-  /// (see HasFailed).
+  /// strings (long-phrase question, hardware flow control), false for command strings. Returns when
+  /// the bytes have left for the line, or what was left of them was replaced or emptied. A port
+  /// that cannot be opened, or fails on the way, ends the send and shows red; nothing else is
+  /// reported (see HasFailed).
   void SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase);
 
   /// Closes the port if it is open and shows it closed; else does nothing (a red box stays red).
@@ -101,6 +102,7 @@ class CodeSender {
   void LeaveToInnermost(std::string_view zCodes, bool zIsPhrase);
   void DropWhatMayBeReplaced();
   void WritePendingOutput();
+  bool IsDone() const;
   void WriteNextByte();
   void OnPortFailed();
 
@@ -111,6 +113,7 @@ class CodeSender {
   std::size_t writtenCount_ = 0;  // how many of them there are
   std::size_t lastBegin_ = 0;     // where the bytes begin that came last
   bool isLastPhrase_ = false;
+  bool wasEmptied_ = false;    // rather than written to its end
   bool hasLeftBytes_ = false;  // bytes were left to the innermost send in this turn
   int depth_ = 0;              // how many sends are under way within each other
   bool isPortShownOpen_ = false;

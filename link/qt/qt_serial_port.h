@@ -25,9 +25,7 @@ class QtSerialPort : public SerialPort {
   /// The byte is in the hands of the operating system when this returns true.
   bool WriteByte(std::uint8_t zByte) override;
 
-  /// How many of the bytes handed over have not left for the line. 0 where the system does not
-  /// tell, and when not open.
-  int UnsentBytes() const;
+  int UnsentBytes() const override;
 
   /// Closes the port once the line has taken what was handed over, and discards nothing. Only after
   /// UnsentBytes has come to 0: it does not watch for a line that is held back.

@@ -286,6 +286,37 @@ TEST_F(CodeSenderTest, TheWaitForAHeldBackLineEnds) {
   }
 }
 
+TEST_F(CodeSenderTest, TheLastBytesLeaveForTheLineBeforeTheClosingTimerStarts) {
+  const struct {
+    const char* why;
+    std::function<void()> act;
+    const char* written;
+  } cases[] = {
+      {"sent", [this] { port.unsentBytes = 0; }, "abc"},
+      {"emptied", [this] { sender.ClearPendingOutput(); }, "abc"},
+      {"closed", [this] { sender.CloseSerialPort(); }, "abc"},
+      {"vanished", [this] { port.Vanish(); }, "abc"},
+      {"replaced",
+       [this] {
+         port.unsentBytes = 0;
+         Send("x");
+       },
+       "abcx"},
+  };
+  for (const auto& one : cases) {
+    port.unsentBytes = 3;
+    AfterTurns(30, [&] {
+      EXPECT_TRUE(sender.IsSending() && !host.isClosingSoon) << one.why;
+      one.act();
+    });
+    host.waits = 0;
+    Send("abc");
+    EXPECT_EQ(host.waits, 27) << one.why;
+    EXPECT_EQ(port.TakeWritten(), one.written) << one.why;
+    EXPECT_TRUE(host.isClosingSoon) << one.why;
+  }
+}
+
 TEST_F(CodeSenderTest, ANestedSendReplacesTheRestOfTheOuterOne) {
   AfterTurns(2, [this] { Send("xyz"); });
   Send("abcdef");

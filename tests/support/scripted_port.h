@@ -37,6 +37,7 @@ class ScriptedPort : public SerialPort {
     return true;
   }
 
+  int UnsentBytes() const override { return isOpen_ ? unsentBytes : 0; }
   void SetFailureHandler(std::function<void()> zHandler) override {
     failureHandler = std::move(zHandler);
   }
@@ -56,6 +57,7 @@ class ScriptedPort : public SerialPort {
   int discardCount = 0;
   bool refusesToOpen = false;
   bool isHeldBack = false;
+  int unsentBytes = 0;           ///< what the port says of its own queue
   int bytesUntilFailure = -1;    ///< from 0 on: that many more bytes are taken, then the port fails
   std::function<void()> onByte;  ///< runs after each byte
   std::function<void()> failureHandler;

@@ -33,6 +33,7 @@ class SimulatedLine : public SerialPort {
     queue_.push_back(static_cast<char>(zByte));
     return isOpen_;
   }
+  int UnsentBytes() const override { return static_cast<int>(queue_.size()); }
   void SetFailureHandler(std::function<void()>) override {}
 
   /// Lets `zSeconds` pass.
@@ -53,9 +54,6 @@ class SimulatedLine : public SerialPort {
 
   /// The seconds in which a byte was on the line.
   double Busy() const { return busy_; }
-
-  /// How many bytes wait.
-  std::size_t Waiting() const { return queue_.size(); }
 
   std::string onTheLine;  ///< what has left the queue
 
