@@ -112,11 +112,8 @@ bool SoundPalette::ConfirmWait() {
 }
 
 void SoundPalette::RefuseValue(const PaletteMember& zMember) {
-  TextBox* box = ValueBoxOf(zMember);
-  box->SetBackground(RefusedColor);
+  ValueBoxOf(zMember)->SetBackground(RefusedColor);
   context_.prompts.Tell(window_, ValueNotice(zMember));
-  box->setFocus();
-  box->selectAll();
 }
 
 TextBox* SoundPalette::ValueBoxOf(const PaletteMember& zMember) const {
