@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QStringList>
 #include <span>
 #include <vector>
 
@@ -379,40 +378,45 @@ EventConfiguration frmButtons::ReadControls() const {
   return configuration;
 }
 
-bool frmButtons::ReportUnusableNumbers() {
-  QStringList lines;
-  TextBox* first = nullptr;
-  const auto report = [&](const QString& zRow, TextBox* zBox) {
-    lines += zRow + QStringLiteral(": \"") + zBox->text() + QLatin1Char('"');
-    first = first == nullptr ? zBox : first;
-  };
+std::vector<frmButtons::NumberBox> frmButtons::UnusableNumbers() const {
+  std::vector<NumberBox> unusable;
   for (int row = 0; row < EventCount; ++row) {
     if (!PhraseNumberOf(PhraseBox(row)->Text())) {
-      report(EventCaption(row), PhraseBox(row));
+      unusable.push_back({EventCaption(row), PhraseBox(row)});
     }
   }
-  if (auto* node = form_.Get<TextBox>("txtSCPNode"); !WholeNumberAtStart(node->Text())) {
-    report(QStringLiteral("SCP Node"), node);
+  auto* node = form_.Get<TextBox>("txtSCPNode");
+  if (!WholeNumberAtStart(node->Text())) {
+    unusable.push_back({QStringLiteral("SCP Node"), node});
   }
-  if (first == nullptr) {
-    return false;
+  return unusable;
+}
+
+void frmButtons::Report(const std::vector<NumberBox>& zUnusable) {
+  constexpr int MostShown = 40;  // characters of a text that someone has pasted
+  QString text =
+      QStringLiteral("Nothing was sent, because this is no number that can be written:\r\n");
+  for (const NumberBox& number : zUnusable) {
+    text += QStringLiteral("\r\n%1: \"%2\"").arg(number.row, number.box->text().left(MostShown));
   }
-  context_.prompts.Tell(this, QStringLiteral("Nothing was sent, because this is no number that can "
-                                             "be written:\r\n\r\n") +
-                                  lines.join(QStringLiteral("\r\n")) +
-                                  QStringLiteral("\r\n\r\nType a phrase number from 0 to 15 (an "
-                                                 "SCP node from 0 to 7) and write again."));
-  first->setFocus(Qt::OtherFocusReason);
-  first->selectAll();
-  return true;
+  text += QStringLiteral(
+      "\r\n\r\nType a phrase number from 0 to 15 (an SCP node from 0 to 7) and write again.");
+  context_.prompts.Tell(this, text);
+  zUnusable.front().box->setFocus(Qt::OtherFocusReason);
+  zUnusable.front().box->selectAll();
 }
 
 void frmButtons::btnWrite_Click() {
   const Busy busy(this, form_.Get<QPushButton>("btnWrite"));
-  // The window may have been closed by one of the events that were pending.
-  if (!IsUnloaded() && !ReportUnusableNumbers()) {
-    context_.sender.SendCodesToOrvatone(EventConfigurationString(ReadControls()), false);
+  if (IsUnloaded()) {
+    return;  // closed by one of the events that were pending
   }
+  const std::vector<NumberBox> unusable = UnusableNumbers();
+  if (!unusable.empty()) {
+    Report(unusable);
+    return;
+  }
+  context_.sender.SendCodesToOrvatone(EventConfigurationString(ReadControls()), false);
 }
 
 void frmButtons::btnShutUp_Click() {

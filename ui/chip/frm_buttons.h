@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <string>
+#include <vector>
 
 #include "ui/chip/event_configuration.h"
 #include "ui/toolkit/check_box.h"
@@ -37,8 +37,14 @@ class frmButtons : public ToolWindow {
   EventSetting ReadEvent(int zRow) const;
   EventConfiguration ReadControls() const;
 
-  /// Tells which number boxes hold nothing that can be sent, if any do; true then.
-  bool ReportUnusableNumbers();
+  /// A number box and what its row is called.
+  struct NumberBox {
+    QString row;
+    TextBox* box;
+  };
+  /// The boxes that hold nothing that can be sent, in row order.
+  std::vector<NumberBox> UnusableNumbers() const;
+  void Report(const std::vector<NumberBox>& zUnusable);
 
   void btnWrite_Click();
   void btnShutUp_Click();
