@@ -1,0 +1,97 @@
+// From the start of a program to its first window on the screen, and the memory that it then holds,
+// for Loquitor and for a bare Qt window. Needs Xvfb.
+
+#include <X11/Xlib.h>
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+
+#include "tests/e2e/child_process.h"
+#include "tests/support/temp_folder.h"
+
+namespace loquitor::testing {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// An X server without anything in it, and an eye on its windows.
+class EmptyScreen {
+ public:
+  EmptyScreen() : server_({"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24"}) {
+    if (!Await([this] { return server_.Output().find('\n') != std::string::npos; })) {
+      throw std::runtime_error("Xvfb does not start");
+    }
+    name_ = ":" + server_.Output().substr(0, server_.Output().find('\n'));
+    display_ = XOpenDisplay(name_.c_str());
+    XSelectInput(display_, DefaultRootWindow(display_), SubstructureNotifyMask);
+    XSync(display_, False);
+  }
+  ~EmptyScreen() { XCloseDisplay(display_); }
+
+  const std::string& Name() const { return name_; }
+
+  void AwaitMappedWindow() {
+    for (XEvent event; XNextEvent(display_, &event) == 0;) {
+      if (event.type == MapNotify && event.xmap.override_redirect == 0) {
+        return;
+      }
+    }
+  }
+  void ForgetEvents() { XSync(display_, True); }
+
+ private:
+  ChildProcess server_;
+  std::string name_;
+  Display* display_ = nullptr;
+};
+
+double ResidentMegabytes(pid_t zProcess) {
+  std::ifstream status("/proc/" + std::to_string(zProcess) + "/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with("VmRSS:")) {
+      return std::stod(line.substr(6)) / 1024;
+    }
+  }
+  return 0;
+}
+
+void StartToFirstWindow(benchmark::State& zState, const std::string& zProgram) {
+  EmptyScreen screen;
+  double megabytes = 0;
+  for (auto _ : zState) {
+    screen.ForgetEvents();
+    const auto start = Clock::now();
+    ChildProcess program({zProgram}, {{"DISPLAY", screen.Name()}, {"QT_QPA_PLATFORM", "xcb"}});
+    screen.AwaitMappedWindow();
+    zState.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
+    megabytes = ResidentMegabytes(program.Pid());
+  }
+  zState.counters["resident_MB"] = megabytes;
+}
+
+void BareWindow(benchmark::State& zState) {
+  StartToFirstWindow(zState, BARE_WINDOW);
+}
+
+void Loquitor(benchmark::State& zState) {
+  TempFolder folder;
+  std::filesystem::copy_file(LOQUITOR_PROGRAM, folder / "Loquitor");
+  std::ofstream dictionary(folder / "Loquitor.Dic");
+  dictionary << "[words]\r\n";
+  for (int word = 0; word < 130000; ++word) {
+    dictionary << "word" << word << "=\\HE \\EH \\LO \\OWWW\r\n";
+  }
+  dictionary.close();
+  StartToFirstWindow(zState, folder / "Loquitor");
+}
+
+BENCHMARK(BareWindow)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(Loquitor)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace loquitor::testing
+
+BENCHMARK_MAIN();
