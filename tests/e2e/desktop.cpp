@@ -23,7 +23,7 @@ std::string Quoted(const std::string& zText) {
 
 Desktop::Desktop() {
   server_ = std::make_unique<ChildProcess>(std::vector<std::string>{
-      "Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+      "Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24", "-nolisten", "tcp"});
   if (!Await([this] { return server_->Output().find('\n') != std::string::npos; })) {
     throw std::runtime_error("Xvfb does not start; ./test installs what it needs");
   }
@@ -41,7 +41,9 @@ Desktop::Desktop() {
 }
 
 std::map<std::string, std::string> Desktop::Environment() const {
-  return {{"DISPLAY", display_}, {"QT_QPA_PLATFORM", "xcb"}, {"XDG_RUNTIME_DIR", "/tmp"}};
+  return {{"DISPLAY", display_},
+          {"QT_QPA_PLATFORM", "xcb"},
+          {"XDG_RUNTIME_DIR", runtimeFolder_.Path()}};
 }
 
 std::string Desktop::Do(std::vector<std::string> zCommand) {
@@ -82,6 +84,10 @@ void Desktop::Type(const std::string& zText) {
 
 void Desktop::Key(const std::string& zKey) {
   Do({"xdotool", "key", zKey});
+}
+
+void Desktop::MoveTo(const std::string& zWindow, int zX, int zY) {
+  Do({"xdotool", "windowmove", zWindow, std::to_string(zX), std::to_string(zY)});
 }
 
 void Desktop::CloseWindow(const std::string& zWindow) {

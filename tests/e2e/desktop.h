@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tests/e2e/child_process.h"
+#include "tests/support/temp_folder.h"
 
 namespace loquitor::testing {
 
@@ -26,6 +27,9 @@ class Desktop {
   void Type(const std::string& zText);
   void Key(const std::string& zKey);
 
+  /// Moves a window's top left corner to a point of the screen, so that none covers another.
+  void MoveTo(const std::string& zWindow, int zX, int zY);
+
   /// The close box.
   void CloseWindow(const std::string& zWindow);
 
@@ -38,6 +42,7 @@ class Desktop {
   std::string FindWindow(const std::string& zTitle);
   std::string Do(std::vector<std::string> zCommand);
 
+  TempFolder runtimeFolder_;
   std::unique_ptr<ChildProcess> server_;
   std::unique_ptr<ChildProcess> windowManager_;
   std::string display_;

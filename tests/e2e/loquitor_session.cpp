@@ -38,6 +38,7 @@ void LoquitorSession::StartLoquitor() {
                                             desktop.Environment());
   mainWindow = desktop.AwaitWindow(MainTitle);
   ASSERT_NE(mainWindow, "");
+  desktop.MoveTo(mainWindow, 10, 30);
 }
 
 void LoquitorSession::ClickOn(const std::string& zWindow, const Place& zPlace,
@@ -54,6 +55,7 @@ void LoquitorSession::OpenPhraseEditor() {
   ClickOn(mainWindow, place::PhraseEditorButton);
   phraseWindow = desktop.AwaitWindow(PhraseTitle);
   ASSERT_NE(phraseWindow, "");
+  desktop.MoveTo(phraseWindow, 10, 300);
 }
 
 bool LoquitorSession::AwaitCount(std::size_t zCount) {
