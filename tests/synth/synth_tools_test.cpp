@@ -1,5 +1,6 @@
 // The tools of the synth control window, its sound library, and a piece played on both.
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QWheelEvent>
 #include <filesystem>
@@ -171,6 +172,42 @@ TEST_F(SynthTest, TheSoundBoxOffersTheNamesThatAreThereNow) {
   EXPECT_EQ(offered("b"), QStringList());
   WriteBytes(folder / "OTSounds.txt", "[Bell]\nFreq1=1\n[Siren]\n[bird \xE9]\n");
   EXPECT_EQ(offered("b"), QStringList({"Bell", QStringLiteral("bird é")}));
+}
+
+TEST_F(SynthTest, TheListOfNamesIsWorkedByKeysAndSwallowsNoClick) {
+  WriteBytes(folder / "OTSounds.txt", "[Bell]\nFreq1=1\n[Bird]\nFreq1=2\n");
+  GivenOpenWindow();
+  TextBox* box = Box("txtSound");
+  QAbstractItemView* list = box->completer()->popup();
+  const auto type = [&](const QString& zText) {
+    box->setFocus();
+    box->clear();
+    QTest::keyClicks(box, zText);
+    EXPECT_TRUE(list->isVisible());
+  };
+  const struct {
+    std::vector<Qt::Key> keys;
+    const char* text;
+  } rows[] = {{{Qt::Key_Down, Qt::Key_Return}, "Bell"},
+              {{Qt::Key_Down, Qt::Key_Down, Qt::Key_Enter}, "Bird"},
+              {{Qt::Key_Escape}, "b"},
+              {{Qt::Key_Return}, "b"},
+              {{Qt::Key_Tab}, "b"}};
+  for (const auto& row : rows) {
+    type("b");
+    for (const Qt::Key key : row.keys) {
+      QTest::keyClick(box, key);
+    }
+    EXPECT_EQ(box->text(), row.text);
+    EXPECT_FALSE(list->isVisible()) << row.text;
+    EXPECT_TRUE(window->isVisible());
+  }
+  type("Bird");
+  auto* load = The<QAbstractButton>("btnLoad");
+  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, load->geometry().center());
+  LetRun();
+  EXPECT_EQ(Sent(), Writes({{1, 2}}));
+  EXPECT_FALSE(list->isVisible());
 }
 
 TEST_F(SynthTest, APieceIsPlayedByteForByte) {

@@ -1,14 +1,13 @@
 #include "ui/synth/frm_synth_ctrl.h"
 
-#include <QCompleter>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPushButton>
-#include <QStringListModel>
 #include <algorithm>
 #include <string>
 
 #include "core/number_text.h"
+#include "ui/synth/name_completion.h"
 #include "ui/synth/sound_name.h"
 #include "ui/synth/synth_form.h"
 #include "ui/toolkit/check_box.h"
@@ -58,7 +57,7 @@ FrmSynthCtrl::FrmSynthCtrl(QWidget* zOwner, const EditorContext& zContext)
   ConnectValueControls();
   ConnectTools();
   ConnectButtons();
-  AddCompletions();
+  new NameCompletion(form_.Get<TextBox>("txtSound"), [this] { return SoundNames(); });
 }
 
 void FrmSynthCtrl::ConnectValueControls() {
@@ -124,24 +123,12 @@ void FrmSynthCtrl::ConnectButtons() {
   connect(&stallWatch_, &QTimer::timeout, this, &FrmSynthCtrl::WatchForStall);
 }
 
-void FrmSynthCtrl::AddCompletions() {
-  auto* box = form_.Get<TextBox>("txtSound");
-  soundNames_ = new QStringListModel(this);
-  auto* completer = new QCompleter(soundNames_, this);
-  completer->setCaseSensitivity(Qt::CaseInsensitive);
-  box->setCompleter(completer);
-  box->installEventFilter(this);
-}
-
-bool FrmSynthCtrl::eventFilter(QObject* zWatched, QEvent* zEvent) {
-  if (zEvent->type() == QEvent::FocusIn && zWatched->objectName() == QLatin1String("txtSound")) {
-    QStringList names;
-    for (const std::string& name : library_.SoundNames()) {
-      names.push_back(ToQString(name));
-    }
-    soundNames_->setStringList(names);
+QStringList FrmSynthCtrl::SoundNames() const {
+  QStringList names;
+  for (const std::string& name : library_.SoundNames()) {
+    names.push_back(ToQString(name));
   }
-  return ToolWindow::eventFilter(zWatched, zEvent);
+  return names;
 }
 
 void FrmSynthCtrl::changeEvent(QEvent* zEvent) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QTimer>
 #include <array>
 #include <cstdint>
@@ -11,9 +12,6 @@
 #include "ui/toolkit/editor_context.h"
 #include "ui/toolkit/form.h"
 #include "ui/toolkit/tool_window.h"
-
-class QCompleter;
-class QStringListModel;
 
 namespace loquitor {
 
@@ -36,7 +34,6 @@ class FrmSynthCtrl : public ToolWindow {
  protected:
   void Load() override;
   void Unload() override;
-  bool eventFilter(QObject* zWatched, QEvent* zEvent) override;
   void changeEvent(QEvent* zEvent) override;
 
  private:
@@ -49,7 +46,7 @@ class FrmSynthCtrl : public ToolWindow {
   void ConnectValueControls();
   void ConnectTools();
   void ConnectButtons();
-  void AddCompletions();
+  QStringList SoundNames() const;
   void AddValueControl(int zRegister, const QString& zBar, const QString& zBox,
                        const std::function<void()>& zChanged);
 
@@ -93,7 +90,6 @@ class FrmSynthCtrl : public ToolWindow {
   Form form_;
   std::array<ValueControl, 16> valueControls_{};  // by register
   OptionGroup* envelopeTypes_ = nullptr;
-  QStringListModel* soundNames_ = nullptr;
   std::array<std::int32_t, synth::ToneCount + 1> freqAdjBase_{};  // by oscillator
   std::array<std::int16_t, synth::ToneCount + 1> volAdjBase_{};
   int oscillatorTurn_ = 0;  // how often all oscillators have been set at once
