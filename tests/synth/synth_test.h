@@ -113,6 +113,12 @@ class SynthTest : public WindowTest {
     EXPECT_EQ(zChip.Register(0), Value("scEnvolopeFreq"));
     EXPECT_EQ(zChip.Register(6), Value("scLevel(0)"));
     EXPECT_EQ(zChip.Register(7), Value("scLevel(1)"));
+    int envelope =
+        64 * The<CheckBox>("Check2(1)")->Value() + 128 * The<CheckBox>("Check2(0)")->Value();
+    for (int type = 1; type <= 3; ++type) {
+      envelope += The<OptionButton>(Indexed("Option1", type))->isChecked() ? type : 0;
+    }
+    EXPECT_EQ(zChip.Register(8), envelope);
   }
 
   std::unique_ptr<FrmSynthCtrl> window;

@@ -11,6 +11,7 @@ RegisterWriter::RegisterWriter(CodeSender& zSender, std::function<int(int)> zSho
     : sender_(zSender), shownValue_(std::move(zShownValue)) {}
 
 void RegisterWriter::Write(int zNumber, int zValue) {
+  postponed_.reset(Place(zNumber));
   SendPostponed();
   Send({zNumber, RegisterWrite(zNumber, zValue)});
 }

@@ -23,7 +23,7 @@ class RegisterWriter {
   /// `zShownValue` gives the value that the window shows for a register. `zSender` lives longer.
   RegisterWriter(CodeSender& zSender, std::function<int(int)> zShownValue);
 
-  /// Writes `zValue` to register `zNumber` (0 to 15), after those that were postponed.
+  /// Writes `zValue` to register `zNumber` (0 to 15), after the others that were postponed.
   void Write(int zNumber, int zValue);
 
   /// Sends the reset string.
