@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <functional>
 #include <iterator>
 #include <random>
@@ -11,64 +10,16 @@
 
 #include "link/scp.h"
 #include "tests/support/scripted_port.h"
-#include "tests/support/simulated_line.h"
 #include "tests/support/temp_folder.h"
+#include "tests/support/turn_host.h"
 
 namespace loquitor {
 namespace {
 
 using testing::ScriptedPort;
-using testing::SimulatedLine;
 using testing::TempFolder;
+using testing::TurnHost;
 using testing::WriteBytes;
-
-/// A main window whose user acts by a list: one act a turn of the event loop.
-class ScriptedHost : public SenderHost {
- public:
-  std::string PortDevice() const override { return device; }
-  bool IsFlowControlTicked() const override { return isFlowControlTicked; }
-  void ShowPortState(PortState zState) override {
-    log += zState == PortState::Open ? "green " : zState == PortState::Closed ? "white " : "red ";
-  }
-  bool ConfirmLongPhrase() override {
-    log += "question ";
-    return answer;
-  }
-  void StopClosingTimer() override { isClosingSoon = false; }
-  void StartClosingTimer(int zMilliseconds) override {
-    isClosingSoon = true;
-    closingDelay = zMilliseconds;
-  }
-  void LetEventsRun() override { RunTurn(); }
-  void WaitForEvents() override {
-    ++waits;
-    RunTurn();
-  }
-  void SetTicking(bool zIsOn) override { isTicking = zIsOn; }
-
-  std::string device = "scripted";
-  bool isFlowControlTicked = true;
-  bool answer = true;
-  bool isClosingSoon = false;
-  bool isTicking = false;
-  int closingDelay = 0;
-  int waits = 0;
-  int turnsWithinEachOther = 0;
-  int deepest = 0;
-  std::string log;
-  std::deque<std::function<void()>> acts;
-
- private:
-  void RunTurn() {
-    deepest = std::max(deepest, ++turnsWithinEachOther);
-    if (!acts.empty()) {
-      const auto act = acts.front();
-      acts.pop_front();
-      act();
-    }
-    --turnsWithinEachOther;
-  }
-};
 
 class CodeSenderTest : public ::testing::Test {
  protected:
@@ -87,7 +38,7 @@ class CodeSenderTest : public ::testing::Test {
 
   TempFolder folder;
   ScriptedPort port;
-  ScriptedHost host;
+  TurnHost host;
   SettingsFile settings{folder.Path()};
   CodeSender sender{port, host, settings};
 };
@@ -454,60 +405,6 @@ TEST_F(CodeSenderTest, WhateverHappensInMidSendEverySendEndsAndTheBoxTellsTheSta
     ASSERT_TRUE(host.isClosingSoon && port.IsOpen() && TakeLog().ends_with("green ")) << story;
     ASSERT_LE(host.deepest, 9) << story;  // eight sends and the loop around them
   }
-}
-
-/// A slow line and a hand on a bar: the mouse moves by the line's clock.
-class DraggingHost : public ScriptedHost {
- public:
-  DraggingHost(SimulatedLine& zLine, std::function<void(int)> zOnMove)
-      : line_(zLine), onMove_(std::move(zOnMove)) {}
-  void LetEventsRun() override { Turn(0.0001); }
-  void WaitForEvents() override { Turn(0.002); }
-
-  int position = 0;
-
- private:
-  void Turn(double zSeconds) {
-    deepest = std::max(deepest, ++turnsWithinEachOther);
-    line_.Advance(zSeconds);
-    while (position < 10000 && line_.Now() > 0.008 * position) {
-      onMove_(++position);
-    }
-    --turnsWithinEachOther;
-  }
-
-  SimulatedLine& line_;
-  std::function<void(int)> onMove_;
-};
-
-int WholeWrites(std::string_view zBytes) {
-  int count = 0;
-  for (std::size_t at = 0; (at = zBytes.find("NX\\07J ", at)) != std::string_view::npos; ++at) {
-    ++count;
-  }
-  return count;
-}
-
-TEST(DragOnASlowLine, StaysShallowAndPromptAndEndsInTheFinalValue) {
-  TempFolder folder;
-  WriteBytes(folder / "Loquitor.ini", "[Serial]\r\nBaudRate=2400\r\n");
-  SettingsFile settings(folder.Path());
-  SimulatedLine line;
-  std::function<void(int)> onMove;
-  DraggingHost host(line, [&](int zPosition) { onMove(zPosition); });
-  CodeSender sender(line, host, settings);
-  onMove = [&](int zPosition) {
-    EXPECT_LT(line.Now() - 0.008 * zPosition, 0.01);  // the bar follows the mouse
-    sender.SendCodesToOrvatone(RegisterWrite(7, zPosition), false);
-  };
-  while (host.position < 10000) {
-    host.WaitForEvents();
-  }
-  line.Drain();
-  EXPECT_LE(host.deepest, 9);                    // the event loop itself and eight sends
-  EXPECT_GT(WholeWrites(line.onTheLine), 1000);  // 80 seconds carry some 1,700
-  EXPECT_TRUE(line.onTheLine.ends_with(RegisterWrite(7, 10000)));
-  EXPECT_LT(line.Now() - 80, 0.2);  // nothing had piled up when the mouse rested
 }
 
 }  // namespace

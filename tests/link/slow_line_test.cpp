@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <string_view>
+#include <utility>
+
+#include "link/code_sender.h"
+#include "link/scp.h"
+#include "tests/support/simulated_line.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/turn_host.h"
+
+namespace loquitor {
+namespace {
+
+using testing::SimulatedLine;
+using testing::TempFolder;
+using testing::TurnHost;
+using testing::WriteBytes;
+
+/// A slow line and a hand on a bar: the mouse moves by the line's clock.
+class DraggingHost : public TurnHost {
+ public:
+  DraggingHost(SimulatedLine& zLine, std::function<void(int)> zOnMove)
+      : line_(zLine), onMove_(std::move(zOnMove)) {}
+  void LetEventsRun() override { Turn(0.0001); }
+  void WaitForEvents() override { Turn(0.002); }
+
+  int position = 0;
+
+ private:
+  void Turn(double zSeconds) {
+    deepest = std::max(deepest, ++turnsWithinEachOther);
+    line_.Advance(zSeconds);
+    while (position < 10000 && line_.Now() > 0.008 * position) {
+      onMove_(++position);
+    }
+    --turnsWithinEachOther;
+  }
+
+  SimulatedLine& line_;
+  std::function<void(int)> onMove_;
+};
+
+int WholeWrites(std::string_view zBytes) {
+  int count = 0;
+  for (std::size_t at = 0; (at = zBytes.find("NX\\07J ", at)) != std::string_view::npos; ++at) {
+    ++count;
+  }
+  return count;
+}
+
+TEST(DragOnASlowLine, StaysShallowAndPromptAndEndsInTheFinalValue) {
+  TempFolder folder;
+  WriteBytes(folder / "Loquitor.ini", "[Serial]\r\nBaudRate=2400\r\n");
+  SettingsFile settings(folder.Path());
+  SimulatedLine line;
+  std::function<void(int)> onMove;
+  DraggingHost host(line, [&](int zPosition) { onMove(zPosition); });
+  CodeSender sender(line, host, settings);
+  onMove = [&](int zPosition) {
+    EXPECT_LT(line.Now() - 0.008 * zPosition, 0.01);  // the bar follows the mouse
+    sender.SendCodesToOrvatone(RegisterWrite(7, zPosition), false);
+  };
+  while (host.position < 10000) {
+    host.WaitForEvents();
+  }
+  line.Drain();
+  EXPECT_LE(host.deepest, 9);                    // the event loop itself and eight sends
+  EXPECT_GT(WholeWrites(line.onTheLine), 1000);  // 80 seconds carry some 1,700
+  EXPECT_TRUE(line.onTheLine.ends_with(RegisterWrite(7, 10000)));
+  EXPECT_LT(line.Now() - 80, 0.2);  // nothing had piled up when the mouse rested
+}
+
+}  // namespace
+}  // namespace loquitor

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <algorithm>
+#include <deque>
+#include <functional>
+#include <string>
+
+#include "link/code_sender.h"
+
+namespace loquitor::testing {
+
+/// A main window whose user acts by a list: one act a turn of the event loop.
+class TurnHost : public SenderHost {
+ public:
+  std::string PortDevice() const override { return device; }
+  bool IsFlowControlTicked() const override { return isFlowControlTicked; }
+  void ShowPortState(PortState zState) override {
+    log += zState == PortState::Open ? "green " : zState == PortState::Closed ? "white " : "red ";
+  }
+  bool ConfirmLongPhrase() override {
+    log += "question ";
+    return answer;
+  }
+  void StopClosingTimer() override { isClosingSoon = false; }
+  void StartClosingTimer(int zMilliseconds) override {
+    isClosingSoon = true;
+    closingDelay = zMilliseconds;
+  }
+  void LetEventsRun() override { RunTurn(); }
+  void WaitForEvents() override {
+    ++waits;
+    RunTurn();
+  }
+  void SetTicking(bool zIsOn) override { isTicking = zIsOn; }
+
+  std::string device = "scripted";
+  bool isFlowControlTicked = true;
+  bool answer = true;
+  bool isClosingSoon = false;
+  bool isTicking = false;
+  int closingDelay = 0;
+  int waits = 0;
+  int turnsWithinEachOther = 0;
+  int deepest = 0;
+  std::string log;
+  std::deque<std::function<void()>> acts;
+
+ private:
+  void RunTurn() {
+    deepest = std::max(deepest, ++turnsWithinEachOther);
+    if (!acts.empty()) {
+      const auto act = acts.front();
+      acts.pop_front();
+      act();
+    }
+    --turnsWithinEachOther;
+  }
+};
+
+}  // namespace loquitor::testing
