@@ -91,7 +91,7 @@ void Desktop::MoveTo(const std::string& zWindow, int zX, int zY) {
 }
 
 void Desktop::CloseWindow(const std::string& zWindow) {
-  Do({"xdotool", "windowquit", zWindow});
+  Do({"xdotool", "windowactivate", "--sync", zWindow, "key", "alt+F4"});
 }
 
 std::string Desktop::ColourAt(const std::string& zWindow, int zX, int zY) {
