@@ -1,5 +1,8 @@
 #include "say/speaker.h"
 
+#include <chrono>
+#include <optional>
+
 #include "core/number_text.h"
 #include "link/port_numbers.h"
 #include "link/qt/serial_devices.h"
