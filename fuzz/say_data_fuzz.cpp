@@ -19,7 +19,7 @@ namespace {
 using namespace loquitor;
 
 /// Of an expansion: small, so that dictionaries that multiply themselves end fast.
-constexpr std::size_t MaxLength = std::size_t{16} << 10;
+constexpr std::size_t MaxLength = std::size_t{4} << 10;
 
 void Require(bool zHolds, const char* zWhat) {
   if (!zHolds) {
