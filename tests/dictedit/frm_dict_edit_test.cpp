@@ -49,7 +49,9 @@ class DictionaryEditor : public testing::WindowTest {
   TextArea& Box() { return *window->findChild<TextArea*>("txtDictionary"); }
   QPushButton& Button(const char* zName) { return *window->findChild<QPushButton*>(zName); }
   void Click(const char* zName) { QTest::mouseClick(&Button(zName), Qt::LeftButton); }
-  void Press(QKeySequence::StandardKey zKey) { QTest::keySequence(&Box(), QKeySequence(zKey)); }
+  static void Press(QWidget& zFocus, QKeySequence::StandardKey zKey) {
+    QTest::keySequence(&zFocus, QKeySequence(zKey));
+  }
   void Find(const QString& zText) {
     prompts.texts.push_back(zText);
     Click("btnFind");
@@ -300,17 +302,48 @@ TEST_F(DictionaryEditor, EachActionIsOneUndoStep) {
   remember();
   EXPECT_EQ(texts.back(), "[words]\nb=1\nc=typed\nnew=\n");
   for (std::size_t i = texts.size() - 1; i-- > 0;) {
-    Press(QKeySequence::Undo);
+    Press(Box(), QKeySequence::Undo);
     EXPECT_EQ(Box().Text(), texts[i]);
   }
-  Press(QKeySequence::Undo);
+  Press(Box(), QKeySequence::Undo);
   EXPECT_EQ(Box().Text(), texts.front());
   for (std::size_t i = 1; i < texts.size(); ++i) {
-    Press(QKeySequence::Redo);
+    Press(Box(), QKeySequence::Redo);
     EXPECT_EQ(Box().Text(), texts[i]);
   }
   Click("btnSaveChanges");
   EXPECT_EQ(Saved(), FileBytesFromBox(texts.back()));
+
+  window->activateWindow();
+  Button("btnSort").setFocus();
+  Press(Button("btnSort"), QKeySequence::Undo);
+  EXPECT_EQ(Box().Text(), texts[texts.size() - 2]);
+}
+
+TEST_F(DictionaryEditor, TheKeyboardFindsAndSaves) {
+  OpenOn("[words]\r\ncat=1\r\n");
+  window->activateWindow();
+  Button("btnDone").setFocus();
+  prompts.texts = {"CAT"};
+  Press(Button("btnDone"), QKeySequence::Find);
+  EXPECT_EQ(Box().SelectedText(), "cat");
+  QTest::keyClicks(&Box(), "dog");
+  Press(Box(), QKeySequence::Save);
+  EXPECT_EQ(Saved(), "[words]\r\ndog=1\r\n\r\n");
+}
+
+TEST_F(DictionaryEditor, ADictionaryBeyondTheBoundIsLeftAlone) {
+  GivenFile("[words]\r\n");
+  std::filesystem::resize_file(Dictionary(), frmDictEdit::MaximumBytes + 1);
+  Open();
+  EXPECT_EQ(Box().Text(), "");
+  ASSERT_EQ(prompts.asked.size(), 1U);
+  EXPECT_TRUE(prompts.asked[0].text.contains("too large"));
+  Click("btnSaveChanges");
+  EXPECT_EQ(std::filesystem::file_size(Dictionary()), frmDictEdit::MaximumBytes + 1);
+  prompts.answers = {PromptAnswer::Yes};
+  Click("btnSaveChanges");
+  EXPECT_EQ(Saved(), "\r\n");
 }
 
 TEST_F(DictionaryEditor, CharactersOutsideTheCodePageAreRefused) {

@@ -69,12 +69,15 @@ void frmDictEdit::ConnectControls() {
   onClick("btnFind", &frmDictEdit::btnFind_Click);
   onClick("btnEraseBlank", &frmDictEdit::btnEraseBlank_Click);
 
-  const auto onKey = [this](const QKeySequence& zKey, void (frmDictEdit::*zHandler)()) {
-    connect(new QShortcut(zKey, this), &QShortcut::activated, this, zHandler);
+  const auto onKey = [this](const QKeySequence& zKey, auto* zReceiver, auto zHandler) {
+    connect(new QShortcut(zKey, this), &QShortcut::activated, zReceiver, zHandler);
   };
-  onKey(QKeySequence::Find, &frmDictEdit::btnFind_Click);
-  onKey(QKeySequence(Qt::Key_F3), &frmDictEdit::FindNext);
-  onKey(QKeySequence::Save, &frmDictEdit::btnSaveChanges_Click);
+  onKey(QKeySequence::Find, this, &frmDictEdit::btnFind_Click);
+  onKey(Qt::Key_F3, this, &frmDictEdit::FindNext);
+  onKey(QKeySequence::Save, this, &frmDictEdit::btnSaveChanges_Click);
+  // Also while the focus is on the button that has just changed the text.
+  onKey(QKeySequence::Undo, history_, &TextHistory::Undo);
+  onKey(QKeySequence::Redo, history_, &TextHistory::Redo);
 }
 
 void frmDictEdit::Load() {
@@ -117,7 +120,11 @@ void frmDictEdit::LoadDictionary() {
 }
 
 void frmDictEdit::TellOnceShown(const QString& zText) {
-  QTimer::singleShot(0, this, [this, zText] { context_.prompts.Tell(this, zText); });
+  QTimer::singleShot(0, this, [this, zText] {
+    if (!IsUnloaded()) {
+      context_.prompts.Tell(this, zText);
+    }
+  });
 }
 
 void frmDictEdit::btnSaveChanges_Click() {

@@ -18,7 +18,7 @@ class frmDictEdit : public ToolWindow {
   Q_OBJECT
  public:
   /// Beyond this many bytes a dictionary is not shown, and an import ends.
-  static constexpr std::size_t MaximumBytes = std::size_t{100} << 20;
+  static constexpr std::size_t MaximumBytes = std::size_t{64} << 20;
 
   frmDictEdit(QWidget* zOwner, const EditorContext& zContext);
 

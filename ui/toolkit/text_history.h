@@ -11,7 +11,7 @@
 namespace loquitor {
 
 /// Keeps the text of a TextArea as bytes beside it, and its undo steps within bounded memory, for
-/// texts of many megabytes. It takes the place of the area's own undo: Ctrl+Z, Ctrl+Y and the
+/// texts of many megabytes. It takes the place of the area's own undo: the keys and the
 /// context menu reach this one. A run of typing or erasing is one step, and so is each call that
 /// changes the text. A step holds only the text that is not in the box, compressed when it is long.
 /// Positions count bytes; a line break is one LF.
