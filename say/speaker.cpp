@@ -6,6 +6,7 @@
 #include "core/number_text.h"
 #include "link/port_numbers.h"
 #include "link/qt/serial_devices.h"
+#include "say/drain.h"
 
 namespace loquitor {
 
@@ -32,30 +33,16 @@ bool Speaker::Say(std::string_view zCodes) {
 bool Speaker::Finish() {
   complaint_.clear();
   SetTicking(true);
-  WaitUntilSent();
+  const int unsent = AwaitDrained([this] { return port_.UnsentBytes(); },
+                                  [this] { WaitForEvents(); }, LongestStandstill);
   SetTicking(false);
-  if (complaint_.empty()) {
+  if (unsent > 0) {
+    complaint_ =
+        "the chip holds the line back; its last " + std::to_string(unsent) + " bytes were not sent";
+  } else {
     port_.CloseWhenSent();
   }
   return complaint_.empty();
-}
-
-void Speaker::WaitUntilSent() {
-  using Clock = std::chrono::steady_clock;
-  int waiting = port_.UnsentBytes();
-  Clock::time_point lastProgress = Clock::now();
-  while (waiting > 0) {
-    WaitForEvents();
-    const int nowWaiting = port_.UnsentBytes();
-    if (nowWaiting != waiting) {
-      lastProgress = Clock::now();
-    } else if (Clock::now() - lastProgress > LongestStandstill) {
-      complaint_ = "the chip holds the line back; its last " + std::to_string(waiting) +
-                   " bytes were not sent";
-      return;
-    }
-    waiting = nowWaiting;
-  }
 }
 
 std::string Speaker::PortNumberText() const {

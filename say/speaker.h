@@ -38,7 +38,6 @@ class Speaker : private SenderHost {
   void SetTicking(bool zIsOn) override { turns_.SetTicking(zIsOn); }
 
   std::string PortNumberText() const;
-  void WaitUntilSent();
 
   const SettingsFile& settings_;
   const bool isForced_;
