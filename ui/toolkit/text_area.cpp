@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 
@@ -25,6 +26,8 @@ std::string StoredForm(QString zText) {
 
 TextArea::TextArea(QWidget* zParent) : QPlainTextEdit(zParent) {
   setTabChangesFocus(true);
+  verticalScrollBar()->setAccessibleName("Lines of the text");
+  horizontalScrollBar()->setAccessibleName("Columns of the text");
 }
 
 std::string TextArea::Text() const {
