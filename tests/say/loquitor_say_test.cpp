@@ -63,8 +63,8 @@ class LoquitorSayTest : public ::testing::Test {
 TEST_F(LoquitorSayTest, PrintsCodesALineForEachLine) {
   struct Row {
     std::vector<std::string> arguments;
-    std::string_view input;
-    std::string_view output;
+    std::string input;
+    std::string output;
   };
   const Row rows[] = {
       {{"--codes", "hello, world  \\PITCH \\100"},
