@@ -13,10 +13,6 @@ std::string EmptyOffsets(std::size_t zCount) {
   return std::string(zCount, EndOfPhrase);
 }
 
-TEST(EepromImage, IsSixteenEmptyOffsetsWithoutPhrases) {
-  EXPECT_EQ(BuildEepromImage({}), EmptyOffsets(16));
-}
-
 TEST(EepromImage, PutsFilledSlotsInOrderBehindTheOffsets) {
   Slots slots;
   slots[0] = "\x80";
