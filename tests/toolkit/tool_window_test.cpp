@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "ui/toolkit/busy.h"
+#include "ui/toolkit/text_box.h"
 
 namespace loquitor {
 namespace {
@@ -135,6 +136,17 @@ TEST_F(ToolWindowTest, TheOwnerIsFreeAtOnceEvenWhenUnloadingAndTheOpenerHaveToWa
   });
   window.ShowModal();
   EXPECT_TRUE(isShownModal);
+}
+
+TEST_F(ToolWindowTest, ABoxLosesNoFocusToAnotherControlWhenItsWindowCloses) {
+  NotingWindow window(&owner);
+  TextBox box(&window);
+  QSignalSpy lost(&box, &TextBox::LostFocus);
+  ShowAndWait(window);
+  box.setFocus();
+  window.close();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(lost.count(), 0);
 }
 
 TEST_F(ToolWindowTest, BusyCoversWindowAndBoxesAndGivesAllBack) {

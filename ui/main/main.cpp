@@ -1,15 +1,30 @@
 #include <QApplication>
+#include <QIcon>
 
 #include "link/program_folder.h"
 #include "link/qt/qt_serial_port.h"
 #include "ui/main/frm_utility.h"
 #include "ui/toolkit/large_blocks.h"
 
+namespace {
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 128}) {
+    icon.addFile(QStringLiteral(":/icons/loquitor_%1.png").arg(size), {size, size});
+  }
+  return icon;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   loquitor::ReturnLargeBlocksAtOnce();
   QApplication application(argc, argv);
   QApplication::setApplicationName(loquitor::ApplicationTitle);
   QApplication::setApplicationVersion(QStringLiteral("1.4"));
+  QApplication::setDesktopFileName(QStringLiteral("org.loquitor.Loquitor"));
+  QApplication::setWindowIcon(ProgramIcon());
 
   const std::filesystem::path folder = loquitor::ProgramFolder();
   const loquitor::SettingsFile settings(folder);

@@ -1,0 +1,68 @@
+// Start to the first window: the main window against a bare window of Qt's, each created, shown and
+// painted; and the codes viewer with the longest list that a phrase gives.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include "tests/support/scripted_port.h"
+#include "tests/support/scripted_prompts.h"
+#include "tests/support/temp_folder.h"
+#include "ui/main/frm_codes.h"
+#include "ui/main/frm_utility.h"
+
+namespace loquitor {
+namespace {
+
+struct Program {
+  testing::TempFolder folder;
+  SettingsFile settings{folder.Path()};
+  DictionaryStore dictionary{folder.Path()};
+  testing::ScriptedPort port;
+  testing::ScriptedPrompts prompts;
+};
+
+void BareWindow(benchmark::State& zState) {
+  for (auto _ : zState) {
+    QWidget window;
+    window.resize(423, 151);
+    window.show();
+    QCoreApplication::processEvents();
+  }
+}
+
+void MainWindow(benchmark::State& zState) {
+  Program program;
+  for (auto _ : zState) {
+    frmUtility window(program.port, program.settings, program.dictionary, program.prompts);
+    window.Open();
+    QCoreApplication::processEvents();
+  }
+}
+
+void CodesViewer(benchmark::State& zState) {
+  Program program;
+  frmUtility owner(program.port, program.settings, program.dictionary, program.prompts);
+  owner.Context().shared.OrvatoneCodes = CodeListText(std::string(100'000, '\x80'));
+  for (auto _ : zState) {
+    frmCodes window(&owner, owner.Context());
+    window.Open();
+    QCoreApplication::processEvents();
+    window.close();
+  }
+}
+
+BENCHMARK(BareWindow)->Unit(benchmark::kMillisecond);
+BENCHMARK(MainWindow)->Unit(benchmark::kMillisecond);
+BENCHMARK(CodesViewer)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace loquitor
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
