@@ -1,5 +1,5 @@
 // Start to the first window: the main window against a bare window of Qt's, each created, shown and
-// painted; and the codes viewer with the longest list that a phrase gives.
+// painted; and the codes viewer with the list of a very long phrase.
 
 #include <benchmark/benchmark.h>
 
@@ -43,7 +43,7 @@ void MainWindow(benchmark::State& zState) {
 void CodesViewer(benchmark::State& zState) {
   Program program;
   frmUtility owner(program.port, program.settings, program.dictionary, program.prompts);
-  owner.Context().shared.OrvatoneCodes = CodeListText(std::string(100'000, '\x80'));
+  owner.Context().shared.OrvatoneCodes = CodeListText(std::string(10'000, '\x80'));
   for (auto _ : zState) {
     frmCodes window(&owner, owner.Context());
     window.Open();

@@ -1,15 +1,20 @@
 #include "ui/toolkit/prompts.h"
 
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScreen>
+#include <algorithm>
 #include <memory>
 
 #include "ui/toolkit/refusal.h"
 
 namespace loquitor {
 namespace {
+
+constexpr int InputWidth = 320;  // pixels
 
 /// What a set of buttons stands for in a message box.
 struct BoxButtons {
@@ -48,6 +53,15 @@ QString WithPlainBreaks(const QString& zText) {
   return QString(zText).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
 
+/// Keeps the lines of a message whole, which Qt breaks at half the screen, as far as it has room.
+void KeepLinesWhole(QMessageBox& zBox) {
+  constexpr int RoomForTheRest = 200;  // pixels: borders of the box, and some of the screen
+  if (auto* label = zBox.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+    const int wanted = label->fontMetrics().size(Qt::TextExpandTabs, zBox.text()).width() + 2;
+    label->setMinimumWidth(std::min(wanted, zBox.screen()->size().width() - RoomForTheRest));
+  }
+}
+
 }  // namespace
 
 PromptAnswer DesktopPrompts::Ask(QWidget* zOwner, const QString& zTitle, const QString& zText,
@@ -58,6 +72,7 @@ PromptAnswer DesktopPrompts::Ask(QWidget* zOwner, const QString& zTitle, const Q
       new QMessageBox(QMessageBox::NoIcon, zTitle, WithPlainBreaks(zText), buttons.buttons, zOwner);
   box->setTextFormat(Qt::PlainText);
   box->setEscapeButton(buttons.onClose);
+  KeepLinesWhole(*box);
   const int answer = box->exec();
   if (!box) {
     return AnswerOf(buttons.onClose);
@@ -74,6 +89,7 @@ std::optional<QString> DesktopPrompts::AskText(QWidget* zOwner, const QString& z
   box->setTextValue(zInitial);
   if (auto* line = box->findChild<QLineEdit*>()) {
     line->setValidator(new CodePageValidator(line));
+    line->setMinimumWidth(InputWidth);
     line->selectAll();
   }
   const bool isAccepted = box->exec() == QDialog::Accepted;
