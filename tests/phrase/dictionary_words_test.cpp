@@ -1,19 +1,9 @@
 #include "ui/phrase/dictionary_words.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace loquitor {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-
-TEST(DictionaryWords, AreSeparatedByRunsOfBlanks) {
-  EXPECT_THAT(SplitWords("cat"), ElementsAre("cat"));
-  EXPECT_THAT(SplitWords("  cat   dog a\tb "), ElementsAre("cat", "dog", "a\tb"));
-  EXPECT_THAT(SplitWords("   "), IsEmpty());
-}
 
 TEST(DictionaryWords, AreWantedByMode) {
   struct Case {
@@ -59,8 +49,6 @@ TEST(DictionaryWords, AreRefusedWhenTheFileCannotHoldThem) {
     EXPECT_EQ(refusal.has_value(), expected.problem != nullptr) << expected.word;
     EXPECT_TRUE(!refusal || refusal->contains(expected.problem)) << expected.word;
   }
-  EXPECT_EQ(RefusalOfWord("a b"),
-            "Cannot save mutil-word Dictionary entries.  Remove the spaces and try again.");
 }
 
 }  // namespace

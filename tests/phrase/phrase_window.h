@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QDialog>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTimer>
 #include <functional>
 #include <memory>
 #include <string>
 
+#include "tests/support/real_mouse.h"
 #include "tests/support/window_test.h"
 #include "ui/phrase/frm_phrase.h"
 #include "ui/toolkit/check_box.h"
@@ -54,12 +57,23 @@ class PhraseWindowTest : public WindowTest {
   }
   void Click(std::string_view zCaption) { QTest::mouseClick(Member(zCaption), Qt::LeftButton); }
 
-  /// Two presses with the event loop running in between, as from a hand.
+  /// Two clicks of a real mouse; returns when both have been handled.
   void DoubleClick(std::string_view zCaption, int zMilliseconds = 60) {
     ClickLabel* label = Member(zCaption);
-    QTest::mouseClick(label, Qt::LeftButton);
-    QTest::qWait(zMilliseconds);
-    QTest::mouseDClick(label, Qt::LeftButton);
+    QSignalSpy doubleClicks(label, &ClickLabel::DoubleClick);
+    RealMouse mouse;
+    mouse.ClickTwice(label, zMilliseconds);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !doubleClicks.isEmpty(); }));
+  }
+
+  /// Lets every question stand for a while as a modal box, which swallows what is clicked
+  /// meanwhile.
+  void GivenBoxesThatSwallowClicks() {
+    prompts.whileOpen = [this] {
+      QDialog box(window.get());
+      QTimer::singleShot(200, &box, &QDialog::reject);
+      box.exec();
+    };
   }
 
   /// Does `zStep` once, when a send is under way.

@@ -48,32 +48,6 @@ TEST(SoundCommand, SendsCodeValueAndPitch) {
   }
 }
 
-TEST(SoundCommand, TakesThePrefixUnlessTheClickBeforeWasARepeat) {
-  struct Case {
-    bool skips;
-    bool isApplied;
-    const char* prefix;
-  };
-  for (const Case& expected : {Case{false, true, "codes"}, Case{false, false, ""},
-                               Case{true, true, ""}, Case{true, false, ""}}) {
-    bool skips = expected.skips;
-    EXPECT_EQ(TakePrefix(skips, expected.isApplied, "codes"), expected.prefix);
-    EXPECT_FALSE(skips);
-  }
-}
-
-TEST(SoundCommand, InsertsTheMnemonicAndTheBoxAsItStands) {
-  EXPECT_EQ(InsertedText(Member("IY"), "5"), "\\IY");
-  EXPECT_EQ(InsertedText(Member("NTC#1"), ""), "\\NTC#1");
-  EXPECT_EQ(InsertedText(Member("Call"), "0"), "\\Call \\0");
-  EXPECT_EQ(InsertedText(Member("Delay"), " 2.5x "), "\\Delay \\ 2.5x ");
-}
-
-TEST(SoundCommand, NamesTheBoxAndTheRangeOfARefusedValue) {
-  const QString notice = ValueNotice(Member("PCtrl"));
-  EXPECT_TRUE(notice.contains("PCtrl") && notice.contains("0 to 255")) << notice.toStdString();
-}
-
 TEST(SoundCommand, AsksBeforeTheChipIsStopped) {
   EXPECT_EQ(WaitNotice(),
             "This control code will cause set the Orvatone to stop until restarted.\r\n"

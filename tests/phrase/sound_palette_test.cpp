@@ -6,7 +6,6 @@ namespace loquitor::testing {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class SoundPaletteTest : public PhraseWindowTest {
  protected:
@@ -36,6 +35,8 @@ TEST_F(SoundPaletteTest, SendsTheSoundAfterARepeatWithoutPrefix) {
   EXPECT_EQ(Sent(), DefaultPrefix + "\x1A\x05");
   Click("Repeat");
   EXPECT_EQ(Sent(), "\x1A\x05") << "a repeat after a repeat";
+  Press("bntSayIt");
+  EXPECT_EQ(Sent(), DefaultPrefix) << "Say Data goes by its own check box";
   window.reset();
   Open();
   Click("OW");
@@ -44,62 +45,35 @@ TEST_F(SoundPaletteTest, SendsTheSoundAfterARepeatWithoutPrefix) {
   EXPECT_EQ(Sent(), DefaultPrefix + "\x89");
 }
 
-TEST_F(SoundPaletteTest, KeepsTheFlagOfARepeatOverSayData) {
-  Click("Repeat");
-  Sent();
-  GivenSayData("\\IY|");
-  Press("bntSayIt");
-  EXPECT_EQ(Sent(), DefaultPrefix + "\x80");
-  Click("OW");
-  EXPECT_EQ(Sent(), "\x89");
-}
-
-TEST_F(SoundPaletteTest, SendsTheOldSettingsBeforeAReset) {
+TEST_F(SoundPaletteTest, SendsTheSettingsAsTheyWereBeforeANoteOrAReset) {
   Bar("scVolume")->setValue(50);
-  Bar("scBend")->setValue(15);
+  Click("NTA2");
+  EXPECT_EQ(Sent(), "\x14\x32\x15\x72\x16\x58\x17\x05\x16\x6E");
+  EXPECT_EQ(Box("txtPitch")->Text(), "110");
   Click("Reset");
-  EXPECT_EQ(Sent(), "\x14\x32\x15\x72\x16\x58\x17\x0F\x1F");
+  EXPECT_EQ(Sent(), "\x14\x32\x15\x72\x16\x6E\x17\x05\x1F");
   EXPECT_EQ(Box("txtVolume")->Text(), "96");
   Click("IY");
   EXPECT_EQ(Sent(), DefaultPrefix + "\x80");
 }
 
-TEST_F(SoundPaletteTest, SetsThePitchToANote) {
-  Click("NTA2");
-  EXPECT_EQ(Sent(), DefaultPrefix + "\x16\x6E");
-  EXPECT_EQ(Bar("scPitch")->value(), 110);
-  EXPECT_EQ(Box("txtPitch")->Text(), "110");
-  Click("IY");
-  EXPECT_EQ(Sent(), "\x14\x60\x15\x72\x16\x6E\x17\x05\x80");
-}
-
-TEST_F(SoundPaletteTest, RefusesAValueOutsideAByte) {
+TEST_F(SoundPaletteTest, RefusesAValueOutsideAByteButInsertsIt) {
   Click("Repeat");
   Sent();
-  Type("txtCall", "256");
-  Click("Call");
-  ASSERT_TRUE(QTest::qWaitFor([this] { return prompts.asked.size() == 1; }));
+  Type("txtCall", " 256x");
+  GivenBoxesThatSwallowClicks();
+  DoubleClick("Call");
   EXPECT_EQ(Sent(), "");
-  EXPECT_TRUE(prompts.asked[0].text.contains("Call") && prompts.asked[0].text.contains("0 to 255"));
+  ASSERT_EQ(prompts.asked.size(), 1u);
+  EXPECT_TRUE(prompts.asked[0].text.contains("Call"));
+  EXPECT_TRUE(prompts.asked[0].text.contains("0 to 255"));
   EXPECT_TRUE(Box("txtCall")->Background().isValid()) << "the box is marked";
+  EXPECT_EQ(SayData(), "\\Call \\ 256x |");
   EXPECT_FALSE(shared.SkipControlsOnce) << "the click has used it up";
   Type("txtCall", "255");
   EXPECT_FALSE(Box("txtCall")->Background().isValid());
   Click("Call");
   EXPECT_EQ(Sent(), DefaultPrefix + "\x1C\xFF");
-}
-
-TEST_F(SoundPaletteTest, AsksBeforeItSendsWait) {
-  prompts.answers = {PromptAnswer::Cancel, PromptAnswer::Ok};
-  for (const std::string& sent : {std::string(), DefaultPrefix + "\x10"}) {
-    prompts.asked.clear();
-    Click("Wait");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !prompts.asked.empty(); }));
-    EXPECT_EQ(Sent(), sent);
-  }
-  EXPECT_EQ(prompts.asked[0].title, "Notice");
-  EXPECT_EQ(prompts.asked[0].buttons, PromptButtons::OkCancel);
-  EXPECT_EQ(SayData(), "|");
 }
 
 TEST_F(SoundPaletteTest, PlaysOnceAndInsertsOnceAtADoubleClick) {
@@ -131,25 +105,22 @@ TEST_F(SoundPaletteTest, InsertsAtADoubleClickWhileTheFirstSoundIsBeingSent) {
   EXPECT_EQ(SayData(), "\\IY |");
 }
 
-TEST_F(SoundPaletteTest, AsksAndInsertsAtADoubleClickOnWait) {
+TEST_F(SoundPaletteTest, AsksAboutWaitOnceAtAClickAndAtADoubleClick) {
+  GivenBoxesThatSwallowClicks();
   for (const PromptAnswer answer : {PromptAnswer::Cancel, PromptAnswer::Ok}) {
-    Press("btnClear");
-    prompts.asked.clear();
-    prompts.answers = {answer};
-    prompts.whileOpen = [this] { EXPECT_EQ(SayData(), "|") << "the click comes first"; };
-    DoubleClick("Wait", 150);
-    EXPECT_EQ(prompts.asked.size(), 1u);
-    EXPECT_EQ(Sent(), answer == PromptAnswer::Ok ? DefaultPrefix + "\x10" : "");
-    EXPECT_EQ(SayData(), "\\Wait |");
+    for (const bool isDouble : {false, true}) {
+      Press("btnClear");
+      prompts.asked.clear();
+      prompts.answers = {answer};
+      isDouble ? DoubleClick("Wait", 100) : Click("Wait");
+      ASSERT_TRUE(QTest::qWaitFor([this] { return prompts.answers.empty(); }));
+      ASSERT_EQ(prompts.asked.size(), 1u);
+      EXPECT_EQ(prompts.asked[0].title, "Notice");
+      EXPECT_EQ(prompts.asked[0].buttons, PromptButtons::OkCancel);
+      EXPECT_EQ(Sent(), answer == PromptAnswer::Ok ? DefaultPrefix + "\x10" : "");
+      EXPECT_EQ(SayData(), isDouble ? "\\Wait |" : "|");
+    }
   }
-}
-
-TEST_F(SoundPaletteTest, InsertsAValueAsItStandsThoughItCannotBeSent) {
-  Type("txtPlay", " 300x");
-  DoubleClick("Play");
-  EXPECT_EQ(Sent(), "");
-  EXPECT_EQ(prompts.asked.size(), 1u);
-  EXPECT_EQ(SayData(), "\\Play \\ 300x |");
 }
 
 TEST_F(SoundPaletteTest, LeavesTheCaretInTheSayDataWhenItIsClicked) {

@@ -5,11 +5,6 @@
 namespace loquitor {
 namespace {
 
-TEST(VoiceValues, MakeThePrefixOfEightBytes) {
-  EXPECT_EQ(ControlCodeString({96, 114, 88, 5}), "\x14\x60\x15\x72\x16\x58\x17\x05");
-  EXPECT_EQ(ControlCodeString({127, 0, 255, 15}), std::string("\x14\x7F\x15\0\x16\xFF\x17\x0F", 8));
-}
-
 TEST(VoiceValues, CommitTypedTexts) {
   struct Case {
     const char* typed;
