@@ -4,6 +4,7 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+#include "ui/toolkit/colours.h"
 #include "ui/toolkit/fitting.h"
 
 namespace loquitor {
@@ -16,6 +17,20 @@ QRect VisiblePart(const QWidget* zButton) {
   const QWidget* parent = zButton->parentWidget();
   return parent == nullptr ? zButton->rect()
                            : zButton->rect() & parent->rect().translated(-zButton->pos());
+}
+
+/// The style's outline of a mark hardly shows on dark windows.
+void DrawOutline(QPainter& zPainter, QStyle::PrimitiveElement zMark, const QStyleOption& zOption) {
+  zPainter.setRenderHint(QPainter::Antialiasing);
+  zPainter.setPen(LineColour(zOption.palette));
+  zPainter.setBrush(Qt::NoBrush);
+  const QRectF outline = QRectF(zOption.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  if (zMark == QStyle::PE_IndicatorRadioButton) {
+    zPainter.drawEllipse(outline);
+  } else {
+    zPainter.drawRoundedRect(outline, 1, 1);
+  }
+  zPainter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 /// Draws mark and wrapped caption; the style's own drawing keeps a caption in one line. Without a
@@ -33,6 +48,7 @@ void PaintWrapped(QAbstractButton* zButton, QStyleOptionButton zOption,
   zOption.rect =
       QRect(QPoint((roomForMark - mark.width()) / 2, (all.height() - mark.height()) / 2), mark);
   painter.drawPrimitive(zMark, zOption);
+  DrawOutline(painter, zMark, zOption);
 
   painter.setFont(WrappingFont(zButton->font(), caption, {text.width(), zButton->height()}));
   constexpr int Flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
