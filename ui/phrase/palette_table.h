@@ -2,11 +2,9 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "core/code_table.h"
 #include "ui/toolkit/twips.h"
 
 namespace loquitor {

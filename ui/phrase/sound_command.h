@@ -29,8 +29,8 @@ bool IsNote(std::int16_t zCode);
 /// outside 0 to 255.
 std::optional<std::uint8_t> ValueByte(std::string_view zBoxText);
 
-/// Whether the next click goes without the control-code prefix, and how a click uses that up:
-/// returns the prefix of the click, `zControlCodes` when `zIsApplied`, and clears the flag.
+/// The prefix of a click: `zControlCodes` when `zIsApplied`, else nothing. While
+/// `zSkipControlsOnce` is set there is none either, and the flag is cleared.
 std::string TakePrefix(bool& zSkipControlsOnce, bool zIsApplied, std::string_view zControlCodes);
 
 /// The codes that a click on the member sends behind the prefix: its code, followed by the value of
