@@ -109,6 +109,7 @@ void frmUtility::ConnectControls(const Form& zForm) {
   connect(txtComPort_, &TextBox::LostFocus, this, &frmUtility::txtComPort_LostFocus);
   txtComPort_->installEventFilter(this);
   Timer1_.setObjectName(QStringLiteral("Timer1"));
+  Timer1_.setTimerType(Qt::PreciseTimer);  // others may fire too early
   connect(&Timer1_, &QTimer::timeout, this, &frmUtility::Timer1_Timer);
 }
 

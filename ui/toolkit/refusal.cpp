@@ -1,6 +1,7 @@
 #include "ui/toolkit/refusal.h"
 
 #include <QAccessible>
+#include <QTimer>
 #include <QToolTip>
 #include <QWidget>
 #include <algorithm>
@@ -9,6 +10,8 @@
 
 namespace loquitor {
 namespace {
+
+constexpr int HintMilliseconds = 8000;  // time enough to read it twice
 
 /// The first character that the code page cannot hold, whole even outside the basic plane.
 QString Culprit(const QString& zText) {
@@ -63,8 +66,9 @@ void ShowRefusal(QWidget* zBox, const QString& zText) {
     return;
   }
   const QRect caret = zBox->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-  QToolTip::showText(zBox->mapToGlobal(caret.bottomLeft()), hint, zBox);
+  QToolTip::showText(zBox->mapToGlobal(caret.bottomLeft()), hint, zBox, {}, HintMilliseconds);
   zBox->setAccessibleDescription(hint);
+  QTimer::singleShot(HintMilliseconds, zBox, [zBox] { zBox->setAccessibleDescription({}); });
   QAccessibleEvent announcement(zBox, QAccessible::Alert);
   QAccessible::updateAccessibility(&announcement);
 }
