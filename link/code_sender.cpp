@@ -24,6 +24,7 @@ void CodeSender::SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase) {
   if (IsRefused(zCodes, zIsPhrase)) {
     return;
   }
+  ++sendCount_;
   OpenSerialPort(zIsPhrase);
   hasFailed_ = !port_.IsOpen();
   if (!hasFailed_ && depth_ == DeepestSend) {

@@ -91,6 +91,9 @@ class CodeSender {
   /// True while a send is under way (one of those that nest in each other).
   bool IsSending() const { return depth_ > 0; }
 
+  /// How many sends have begun. Tells whether another one has come since.
+  std::size_t SendCount() const { return sendCount_; }
+
   /// True when the last send found no open port, or the port has failed since.
   bool HasFailed() const { return hasFailed_; }
 
@@ -115,7 +118,8 @@ class CodeSender {
   bool isLastPhrase_ = false;
   bool wasEmptied_ = false;    // rather than written to its end
   bool hasLeftBytes_ = false;  // bytes were left to the innermost send in this turn
-  int depth_ = 0;              // how many sends are under way within each other
+  std::size_t sendCount_ = 0;
+  int depth_ = 0;  // how many sends are under way within each other
   bool isPortShownOpen_ = false;
   bool hasFailed_ = false;
 };

@@ -119,8 +119,11 @@ TEST_F(SlowSynthTest, AWriteCutByAnotherControlIsWrittenAgain) {
 class HeldBackSynthTest : public SynthTest {
  protected:
   void After(int zMilliseconds, std::function<void()> zStep) {
-    QTimer::singleShot(zMilliseconds, qApp, std::move(zStep));
+    QTimer::singleShot(zMilliseconds, &steps_, std::move(zStep));
   }
+
+ private:
+  QObject steps_;  // those that are still to come end with the test
 };
 
 TEST_F(HeldBackSynthTest, TheWindowOpensWorksAndClosesOnALineThatNeverTakesAByte) {
@@ -154,6 +157,31 @@ TEST_F(HeldBackSynthTest, ClosingGoesOnWhenTheLineIsFreeAgain) {
   });
   window->ShowModal();
   EXPECT_EQ(Sent(), "\\0RX" + Writes({{11, 0}, {8, 0}}));
+}
+
+TEST_F(HeldBackSynthTest, AWriterThatGivesUpWaitsForNoByteInThePortsQueue) {
+  RegisterWriter writer(sender, [](int) { return 0; });
+  port.unsentBytes = 4;
+  bool isStuck = false;
+  After(10, [&] { writer.GiveUp(); });
+  After(2'000, [&] {
+    isStuck = true;
+    port.unsentBytes = 0;
+  });
+  writer.Write(1, 5);
+  writer.Write(1, 6);
+  EXPECT_FALSE(isStuck);
+  EXPECT_EQ(Sent(), Writes({{1, 5}}));
+}
+
+TEST_F(HeldBackSynthTest, AWriterThatGivesUpLeavesTheSendOfAnotherWindowAlone) {
+  RegisterWriter writer(sender, [](int) { return 0; });
+  port.isHeldBack = true;
+  After(10, [&] { sender.SendCodesToOrvatone("\x1f", true); });
+  After(20, [&] { writer.GiveUp(); });
+  After(30, [&] { port.isHeldBack = false; });
+  writer.Write(1, 5);
+  EXPECT_EQ(Sent(), "\x1f");
 }
 
 TEST_F(SynthTest, ShutUpStopsALoadUnderWay) {

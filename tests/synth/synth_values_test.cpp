@@ -164,6 +164,21 @@ TEST_F(SynthTest, ToneVolumesColourTheirBoxesReadably) {
   }
 }
 
+TEST_F(SynthTest, AVolumeIsShownThenWrittenThenJudged) {
+  GivenOpenWindow();
+  Given("scVol", {31, 31});
+  std::vector<QString> shown;
+  std::vector<QColor> colours;
+  port.onByte = [&] {
+    shown.push_back(Box("txtVol(3)")->text());
+    colours.push_back(Box("txtVol(3)")->Background());
+  };
+  Bar("scVol(3)")->setValue(2);
+  EXPECT_THAT(shown, ::testing::Each(QString("2")));
+  EXPECT_THAT(colours, ::testing::Each(QColor(255, 255, 0)));
+  EXPECT_EQ(Box("txtVol(3)")->Background(), QColor(255, 0, 0));
+}
+
 TEST_F(SynthTest, EveryBarAndBoxHasAName) {
   GivenOpenWindow();
   for (const QWidget* control : window->findChildren<QWidget*>()) {

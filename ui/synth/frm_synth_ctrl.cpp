@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPushButton>
+#include <QTimer>
 #include <algorithm>
 #include <string>
 
@@ -24,8 +25,8 @@ constexpr QColor OverLimit(255, 0, 0);
 constexpr QColor NearLimit(255, 255, 0);
 constexpr QColor WrongNumber(255, 176, 176);
 
-constexpr int StallLookInterval = 100;  // milliseconds
-constexpr int LooksUntilGivingUp = 20;
+// At 2400 bits a second the longest farewell takes 0.7 seconds.
+constexpr int LongestClosing = 3000;  // milliseconds
 
 QColor ColourOf(synth::VolumeBand zBand, const QColor& zButtonFace) {
   switch (zBand) {
@@ -120,7 +121,6 @@ void FrmSynthCtrl::ConnectButtons() {
   onClick("btnSave", &FrmSynthCtrl::btnSave_Click);
   onClick("btnShutUp", &FrmSynthCtrl::btnShutUp_Click);
   onClick("btnDone", &FrmSynthCtrl::close);
-  connect(&stallWatch_, &QTimer::timeout, this, &FrmSynthCtrl::WatchForStall);
 }
 
 QStringList FrmSynthCtrl::SoundNames() const {
@@ -150,24 +150,11 @@ void FrmSynthCtrl::Load() {
 }
 
 void FrmSynthCtrl::Unload() {
-  stallWatch_.start(StallLookInterval);
+  // The line may be held back for good: what is left of the handlers must not wait for ever.
+  QTimer::singleShot(LongestClosing, this, [this] { writer_.GiveUp(); });
   writer_.StopSending();
   SynthShutUp();
   SendEnvolopeControlToOrvatone(0);
-  if (!context_.sender.IsSending()) {
-    stallWatch_.stop();
-  }
-}
-
-void FrmSynthCtrl::WatchForStall() {
-  const std::size_t pending = writer_.PendingCount();
-  const bool isStalled = pending > 0 && pending == pendingAtLastLook_;
-  pendingAtLastLook_ = pending;
-  looksWithoutProgress_ = isStalled ? looksWithoutProgress_ + 1 : 0;
-  if (looksWithoutProgress_ >= LooksUntilGivingUp) {
-    stallWatch_.stop();
-    writer_.GiveUp();
-  }
 }
 
 void FrmSynthCtrl::scFreq_Change(int zIndex) {
@@ -177,8 +164,8 @@ void FrmSynthCtrl::scFreq_Change(int zIndex) {
 
 void FrmSynthCtrl::scVol_Change(int zIndex) {
   ShowValue(synth::VolumeRegister(zIndex));
-  CheckVolumeLimits();  // before the send, which may have to wait for the line
   SendOscillatorVolumeToOrvatone(zIndex, scVol(zIndex)->value());
+  CheckVolumeLimits();
 }
 
 void FrmSynthCtrl::scLevel_Change(int zIndex) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QStringList>
-#include <QTimer>
 #include <array>
 #include <cstdint>
 #include <functional>
@@ -82,7 +81,6 @@ class FrmSynthCtrl : public ToolWindow {
   ScrollBar* scVol(int zIndex) const;
   bool IsNameUsable();
   void MarkHFreq(bool zIsMarked);
-  void WatchForStall();
 
   EditorContext context_;
   SoundLibrary library_;
@@ -95,9 +93,6 @@ class FrmSynthCtrl : public ToolWindow {
   int oscillatorTurn_ = 0;  // how often all oscillators have been set at once
   bool isLeavingByMouse_ = false;
   bool isHFreqMarked_ = false;
-  QTimer stallWatch_;
-  std::size_t pendingAtLastLook_ = 0;
-  int looksWithoutProgress_ = 0;
 };
 
 }  // namespace loquitor

@@ -1,6 +1,5 @@
 #include "ui/synth/register_writer.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "link/scp.h"
@@ -11,109 +10,61 @@ RegisterWriter::RegisterWriter(CodeSender& zSender, std::function<int(int)> zSho
     : sender_(zSender), shownValue_(std::move(zShownValue)) {}
 
 void RegisterWriter::Write(int zNumber, int zValue) {
-  postponed_.reset(Place(zNumber));
+  postponed_ &= ~Only(zNumber);
   SendPostponed();
-  Send({zNumber, RegisterWrite(zNumber, zValue)});
+  Send(Only(zNumber), RegisterWrite(zNumber, zValue));
 }
 
 void RegisterWriter::SendReset() {
-  Send({NoRegister, std::string(scp::Reset)});
-}
-
-void RegisterWriter::SendPostponed() {
-  TakeEach(postponed_, [this](int zNumber) {
-    Send({zNumber, RegisterWrite(zNumber, shownValue_(zNumber))});
-  });
+  Send({}, scp::Reset);
 }
 
 void RegisterWriter::StopSending() {
   sender_.ClearPendingOutput();
-  ledger_ = {};
+  waiting_.reset();
+  cut_.reset();
   postponed_.reset();
 }
 
 void RegisterWriter::GiveUp() {
-  if (PendingCount() > 0) {
+  hasGivenUp_ = true;
+  if (sender_.SendCount() == lastSend_) {
     StopSending();
   }
-  hasGivenUp_ = true;
 }
 
-std::size_t RegisterWriter::PendingCount() const {
-  std::string text;
-  for (const Command& command : ledger_.present) {
-    text += command.text;
-  }
-  const std::string_view pending = sender_.PendingOutput();
-  return text.ends_with(pending) ? pending.size() : 0;
-}
-
-void RegisterWriter::Send(Command zCommand) {
+void RegisterWriter::Send(Registers zRegister, std::string_view zText) {
   if (hasGivenUp_) {
     return;
   }
-  const std::size_t ahead = PendingCount();
-  ForgetWritten(ahead);
-  const Ledger before = ledger_;
-  Enter(zCommand, ahead);
-  ++depth_;
-  sender_.SendCodesToOrvatone(zCommand.text, false);
-  --depth_;
-  const std::size_t left = sender_.PendingOutput().size();
-  if (ahead > 0 && left > zCommand.text.size()) {
-    // Too deep a nest: the sender has left the bytes to a send under way, behind some of its own.
-    ledger_ = before;
-    Enter(zCommand, ahead - (left - zCommand.text.size()));
+  if (sender_.PendingOutput().empty()) {
+    waiting_.reset();
   }
-  if (depth_ == 0 && !isMending_) {
+  cut_ = (cut_ | waiting_) & ~zRegister;
+  waiting_ |= zRegister;
+  lastSend_ = sender_.SendCount() + 1;
+  ++depth_;
+  sender_.SendCodesToOrvatone(zText, false);
+  if (depth_ == 1) {
     WriteWhatWasCut();
   }
+  --depth_;
 }
 
-void RegisterWriter::ForgetWritten(std::size_t zPendingCount) {
-  auto& present = ledger_.present;
-  auto first = present.end();
-  while (zPendingCount > 0 && first != present.begin()) {
-    --first;
-    zPendingCount -= std::min(zPendingCount, first->text.size());
-  }
-  present.erase(present.begin(), first);
-}
-
-void RegisterWriter::Enter(const Command& zCommand, std::size_t zCutCount) {
-  auto& present = ledger_.present;
-  while (zCutCount > 0 && !present.empty()) {
-    zCutCount -= std::min(zCutCount, present.back().text.size());
-    if (present.back().number != NoRegister) {
-      ledger_.cut.set(Place(present.back().number));
+void RegisterWriter::SendEach(Registers& zRegisters) {
+  for (int number = 0; number < static_cast<int>(zRegisters.size()); ++number) {
+    if ((zRegisters & Only(number)).any()) {
+      zRegisters &= ~Only(number);
+      Send(Only(number), RegisterWrite(number, shownValue_(number)));
     }
-    present.pop_back();
   }
-  if (zCommand.number != NoRegister) {
-    ledger_.cut.reset(Place(zCommand.number));
-  }
-  present.push_back(zCommand);
 }
 
 void RegisterWriter::WriteWhatWasCut() {
-  if (sender_.HasFailed()) {
-    ledger_.cut.reset();  // there is no line to write to
+  while (cut_.any() && !sender_.HasFailed()) {
+    SendEach(cut_);
   }
-  isMending_ = true;
-  while (ledger_.cut.any()) {
-    TakeEach(ledger_.cut, [this](int zNumber) { Write(zNumber, shownValue_(zNumber)); });
-  }
-  isMending_ = false;
-}
-
-template <class Act>
-void RegisterWriter::TakeEach(Registers& zRegisters, Act zAct) {
-  for (int number = 0; number < RegisterCount; ++number) {
-    if (zRegisters.test(Place(number))) {
-      zRegisters.reset(Place(number));
-      zAct(number);
-    }
-  }
+  cut_.reset();
 }
 
 }  // namespace loquitor
