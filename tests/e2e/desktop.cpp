@@ -112,4 +112,8 @@ std::string Desktop::Clipboard() {
   return Do({"xclip", "-selection", "clipboard", "-out"});
 }
 
+std::string Desktop::Property(const std::string& zWindow, const std::string& zName) {
+  return Do({"xprop", "-id", zWindow, zName});
+}
+
 }  // namespace loquitor::testing

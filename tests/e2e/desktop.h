@@ -38,6 +38,9 @@ class Desktop {
 
   std::string Clipboard();
 
+  /// What a window tells the window manager under `zName`, in the words of xprop.
+  std::string Property(const std::string& zWindow, const std::string& zName);
+
  private:
   std::string FindWindow(const std::string& zTitle);
   std::string Do(std::vector<std::string> zCommand);
