@@ -18,22 +18,6 @@ bool IsHoldableKey(std::string_view zKey) {
          zKey.find_first_of("\r\n=") == std::string_view::npos;
 }
 
-std::string InOneLine(std::string_view zValue) {
-  std::string line;
-  line.reserve(zValue.size());
-  bool isInBreak = false;
-  for (const char c : zValue) {
-    const bool isBreak = c == '\r' || c == '\n';
-    if (!isBreak) {
-      line += c;
-    } else if (!isInBreak) {
-      line += ' ';
-    }
-    isInBreak = isBreak;
-  }
-  return line;
-}
-
 std::string EntryLine(std::string_view zKey, std::string_view zValue) {
   std::string line;
   line.reserve(zKey.size() + zValue.size() + 3);
@@ -77,6 +61,22 @@ ProfileEdit EditInSection(ProfileLineReader& zReader, const ProfileLine& zHeader
 }
 
 }  // namespace
+
+std::string InOneLine(std::string_view zValue) {
+  std::string line;
+  line.reserve(zValue.size());
+  bool isInBreak = false;
+  for (const char c : zValue) {
+    const bool isBreak = c == '\r' || c == '\n';
+    if (!isBreak) {
+      line += c;
+    } else if (!isInBreak) {
+      line += ' ';
+    }
+    isInBreak = isBreak;
+  }
+  return line;
+}
 
 std::optional<ProfileEdit> EditForValue(std::string_view zText, std::string_view zSection,
                                         std::string_view zKey, std::string_view zValue) {

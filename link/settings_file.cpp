@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "link/profile_edit.h"
 #include "link/profile_lines.h"
 #include "link/trimmed_profile.h"
 
@@ -43,6 +44,11 @@ bool SettingsFile::SaveIniValue(std::string_view zSection, std::string_view zKey
 bool SettingsFile::SaveIniValues(std::string_view zSection,
                                  std::span<const ProfileValue> zEntries) const {
   return WriteProfileValues(zSection, zEntries, File());
+}
+
+std::string SavedForm(std::string_view zValue) {
+  const std::string line = InOneLine(zValue);
+  return std::string(TrimSpacesAndNuls(WithoutQuotes(TrimBlanks(line))));
 }
 
 bool IsTrueText(std::string_view zText) {

@@ -44,6 +44,10 @@ class SettingsFile {
   std::filesystem::path folder_;
 };
 
+/// What GetIniValue gives back of `zValue` once that is saved (or its default when that is empty),
+/// but for the cut: it gives the first MaxSettingValue bytes (link/trimmed_profile.h) of it.
+std::string SavedForm(std::string_view zValue);
+
 /// A stored truth value: the word True, or any number but 0, is true; everything else is false.
 /// Letter case does not count.
 bool IsTrueText(std::string_view zText);

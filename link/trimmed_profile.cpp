@@ -3,11 +3,6 @@
 #include "link/profile_file.h"
 
 namespace loquitor {
-namespace {
-
-constexpr std::size_t SettingBufferLength = 256;
-
-}  // namespace
 
 std::string_view TrimSpacesAndNuls(std::string_view zText) {
   while (!zText.empty() && zText.front() == ' ') {
@@ -28,7 +23,7 @@ std::string ReadTrimmedValue(std::string_view zSection, std::string_view zKey,
 
 std::string ReadSettingValue(std::string_view zSection, std::string_view zKey,
                              std::string_view zDefault, const std::filesystem::path& zFile) {
-  std::string value = ReadTrimmedValue(zSection, zKey, zDefault, SettingBufferLength, zFile);
+  std::string value = ReadTrimmedValue(zSection, zKey, zDefault, MaxSettingValue + 1, zFile);
   return value.empty() ? std::string(zDefault) : value;
 }
 

@@ -18,7 +18,10 @@ std::string ReadTrimmedValue(std::string_view zSection, std::string_view zKey,
                              std::string_view zDefault, std::size_t zBufferLength,
                              const std::filesystem::path& zFile);
 
-/// ReadTrimmedValue with room for 255 bytes; `zDefault`, exactly as given, when the
+/// The most bytes that ReadSettingValue gives back.
+inline constexpr std::size_t MaxSettingValue = 255;
+
+/// ReadTrimmedValue with room for MaxSettingValue bytes; `zDefault`, exactly as given, when the
 /// empty text would be left.
 std::string ReadSettingValue(std::string_view zSection, std::string_view zKey,
                              std::string_view zDefault, const std::filesystem::path& zFile);

@@ -198,7 +198,7 @@ TEST_F(EepromEditor, MarksAPhraseThatTheSettingsWouldCut) {
   EXPECT_EQ(PhraseLabel(7)->accessibleDescription(), "");
 }
 
-TEST_F(EepromEditor, MarksAPhraseWhosePausesTheSettingsWouldChange) {
+TEST_F(EepromEditor, MarksAPhraseWhoseSoundTheSettingsWouldChange) {
   const struct {
     const char* phrase;
     const char* stored;
@@ -207,11 +207,14 @@ TEST_F(EepromEditor, MarksAPhraseWhosePausesTheSettingsWouldChange) {
               {"\\IY\n\\EH", "\\IY \\EH", false},
               {"\\IY \n\n\\EH", "\\IY  \\EH", true},
               {"  \\IY", "\\IY", true},
+              {"\t  \\IY", "\\IY", true},
+              {"\"  \\IY\"", "\\IY", true},
+              {"\"\\IY\"", "\\IY", false},
               {",\\IY", ",\\IY", false}};
   for (const auto& row : rows) {
     Open();
     Edit("Phrase(1)", row.phrase, &PressDone);
-    EXPECT_EQ(PhraseLabel(1)->accessibleDescription().contains("other pauses"), row.isMarked)
+    EXPECT_EQ(PhraseLabel(1)->accessibleDescription().contains("sound different"), row.isMarked)
         << row.phrase;
     editor->close();
     EXPECT_EQ(StoredPhrase(1), row.stored);

@@ -63,6 +63,14 @@ TEST_F(SettingsFileTest, WritesNumbersAndTruthValuesInWords) {
   EXPECT_EQ(settings.GetIniValue("Serial", "Port", "1"), "2");
 }
 
+TEST_F(SettingsFileTest, ForetellsWhatComesBackOfAValue) {
+  for (const char* value : {"", " ", "a b", "  a", "a \t", "\t  a", "\" a\"", "'a\"", "\"", "\"\"",
+                            "\n\r\n a\r\rb\n", "\r\"a\"\n", ";a", "[a]", "="}) {
+    ASSERT_TRUE(settings.SaveIniValue("EEPROM", "Phrase0", value));
+    EXPECT_EQ(SavedForm(value), settings.GetIniValue("EEPROM", "Phrase0", "")) << value;
+  }
+}
+
 TEST_F(SettingsFileTest, KnowsATruthValueByItsWordOrNumber) {
   for (const char* text : {"True", "TRUE", " true ", "-1", "1", "2", "+3", "0.5", "1e3", "1e999"}) {
     EXPECT_TRUE(IsTrueText(text)) << text;

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "link/scp.h"
-#include "ui/chip/stored_phrase.h"
+#include "link/trimmed_profile.h"
 #include "ui/phrase/frm_phrase.h"
 #include "ui/toolkit/busy.h"
 #include "ui/toolkit/colours.h"
@@ -67,18 +67,18 @@ std::string PhraseKey(int zIndex) {
 
 /// What is wrong with keeping `zPhrase` in the settings file; empty when nothing is.
 QString StorageWarning(const SayDataTranslator& zTranslator, std::string_view zPhrase) {
-  const std::string stored = StoredForm(zPhrase);
-  if (stored.size() > MaxStoredPhrase) {
+  const std::string stored = SavedForm(zPhrase);
+  if (stored.size() > MaxSettingValue) {
     return QStringLiteral(
                "This phrase has %1 characters. Only the first %2 come back when this window is "
                "opened again. To make it shorter, put words into the dictionary and use them here.")
         .arg(stored.size())
-        .arg(MaxStoredPhrase);
+        .arg(MaxSettingValue);
   }
   if (stored != zPhrase &&
       TranslateSlot(zTranslator, stored) != TranslateSlot(zTranslator, zPhrase)) {
     return QStringLiteral(
-        "This phrase will have other pauses when this window is opened again: its line breaks come "
+        "This phrase will sound different when this window is opened again: its line breaks come "
         "back as blanks, and the blanks at its beginning not at all. Write it in one line and its "
         "first pause as a comma or a mnemonic.");
   }
