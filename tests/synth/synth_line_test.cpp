@@ -184,6 +184,19 @@ TEST_F(HeldBackSynthTest, AWriterThatGivesUpLeavesTheSendOfAnotherWindowAlone) {
   EXPECT_EQ(Sent(), "\x1f");
 }
 
+TEST_F(HeldBackSynthTest, AValueThatComesWhileAPostponedOneGoesOutStaysTheLast) {
+  RegisterWriter writer(sender, [](int zNumber) { return zNumber == 1 ? 5 : 9; });
+  writer.Postpone(1, 5);
+  bool hasCome = false;
+  port.onByte = [&] {
+    if (!std::exchange(hasCome, true)) {
+      writer.Write(2, 9);
+    }
+  };
+  writer.Write(2, 7);
+  EXPECT_EQ(Sent(), "\\" + Writes({{2, 9}, {1, 5}, {2, 9}}));
+}
+
 TEST_F(SynthTest, ShutUpStopsALoadUnderWay) {
   GivenOpenWindow();
   WriteBytes(folder / "OTSounds.txt", "[Loud]\nFreq1=1\nVol1=31\nFreq2=2\nVol2=31\nVol5=31\n");

@@ -140,6 +140,17 @@ TEST_F(SynthTest, TextIsEnteredWhenItsBoxIsLeft) {
   }
 }
 
+TEST_F(SynthTest, TextLeftByAPressOnItsBarIsWrittenBeforeThePressActs) {
+  GivenOpenWindow();
+  Box("txtFreq(3)")->setFocus();
+  QTest::keyClicks(Box("txtFreq(3)"), "300");
+  const ScrollBar* bar = Bar("scFreq(3)");
+  const QPoint besideThumb = bar->mapTo(window.get(), QPoint(bar->width() - 40, 8));
+  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, besideThumb);
+  LetRun();
+  EXPECT_EQ(Sent(), Writes({{3, 300}, {3, 322}}));
+}
+
 TEST_F(SynthTest, ToneVolumesColourTheirBoxesReadably) {
   GivenOpenWindow();
   const QColor face = window->palette().color(QPalette::Button);

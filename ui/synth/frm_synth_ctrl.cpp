@@ -318,7 +318,7 @@ void FrmSynthCtrl::SendEnvolopeControlToOrvatone(std::uint8_t zControlValue) {
 
 void FrmSynthCtrl::WriteRegister(int zRegister, int zValue) {
   if (isLeavingByMouse_) {
-    writer_.Postpone(zRegister);
+    writer_.Postpone(zRegister, zValue);
     QTimer::singleShot(0, this, [this] { writer_.SendPostponed(); });
   } else {
     writer_.Write(zRegister, zValue);

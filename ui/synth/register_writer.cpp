@@ -10,20 +10,29 @@ RegisterWriter::RegisterWriter(CodeSender& zSender, std::function<int(int)> zSho
     : sender_(zSender), shownValue_(std::move(zShownValue)) {}
 
 void RegisterWriter::Write(int zNumber, int zValue) {
-  postponed_ &= ~Only(zNumber);
+  const bool isNext = postponed_.empty();
   SendPostponed();
-  Send(Only(zNumber), RegisterWrite(zNumber, zValue));
+  // The events of those may have moved the register on.
+  Send(zNumber, isNext ? zValue : shownValue_(zNumber));
 }
 
 void RegisterWriter::SendReset() {
   Send({}, scp::Reset);
 }
 
+void RegisterWriter::SendPostponed() {
+  while (!postponed_.empty()) {
+    const auto [number, value] = postponed_.front();
+    postponed_.pop_front();
+    Send(number, value);
+  }
+}
+
 void RegisterWriter::StopSending() {
   sender_.ClearPendingOutput();
   waiting_.reset();
   cut_.reset();
-  postponed_.reset();
+  postponed_.clear();
 }
 
 void RegisterWriter::GiveUp() {
@@ -31,6 +40,10 @@ void RegisterWriter::GiveUp() {
   if (sender_.SendCount() == lastSend_) {
     StopSending();
   }
+}
+
+void RegisterWriter::Send(int zNumber, int zValue) {
+  Send(Only(zNumber), RegisterWrite(zNumber, zValue));
 }
 
 void RegisterWriter::Send(Registers zRegister, std::string_view zText) {
@@ -51,18 +64,12 @@ void RegisterWriter::Send(Registers zRegister, std::string_view zText) {
   --depth_;
 }
 
-void RegisterWriter::SendEach(Registers& zRegisters) {
-  for (int number = 0; number < static_cast<int>(zRegisters.size()); ++number) {
-    if ((zRegisters & Only(number)).any()) {
-      zRegisters &= ~Only(number);
-      Send(Only(number), RegisterWrite(number, shownValue_(number)));
-    }
-  }
-}
-
 void RegisterWriter::WriteWhatWasCut() {
-  while (cut_.any() && !sender_.HasFailed()) {
-    SendEach(cut_);
+  for (int number = 0; cut_.any() && !sender_.HasFailed(); number = (number + 1) % RegisterCount) {
+    if ((cut_ & Only(number)).any()) {
+      cut_ &= ~Only(number);
+      Send(number, shownValue_(number));
+    }
   }
   cut_.reset();
 }

@@ -2,8 +2,10 @@
 
 #include <bitset>
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <string_view>
+#include <utility>
 
 #include "link/code_sender.h"
 
@@ -21,37 +23,38 @@ class RegisterWriter {
   /// `zShownValue` gives the value that the window shows for a register. `zSender` lives longer.
   RegisterWriter(CodeSender& zSender, std::function<int(int)> zShownValue);
 
-  /// Writes `zValue` to register `zNumber` (0 to 15), after the others that were postponed.
+  /// Writes `zValue` to register `zNumber` (0 to 15), after the writes that were postponed.
   void Write(int zNumber, int zValue);
 
   /// Sends the reset string.
   void SendReset();
 
-  /// Leaves register `zNumber` to the next SendPostponed or Write.
-  void Postpone(int zNumber) { postponed_ |= Only(zNumber); }
+  /// Leaves a write to the next SendPostponed or Write.
+  void Postpone(int zNumber, int zValue) { postponed_.emplace_back(zNumber, zValue); }
 
-  /// Writes the registers that were postponed, with the values that the window now shows.
-  void SendPostponed() { SendEach(postponed_); }
+  /// Makes the writes that were postponed, in their order.
+  void SendPostponed();
 
-  /// Empties PendingOutput and forgets every register that was cut or postponed.
+  /// Empties PendingOutput and forgets every write that was cut or postponed.
   void StopSending();
 
   /// Ends the send under way if it is this writer's own; no further write does anything.
   void GiveUp();
 
  private:
-  using Registers = std::bitset<16>;
+  static constexpr int RegisterCount = 16;
+  using Registers = std::bitset<RegisterCount>;
 
   static Registers Only(int zNumber) { return Registers(1ULL << zNumber); }
+  void Send(int zNumber, int zValue);
   void Send(Registers zRegister, std::string_view zText);
-  void SendEach(Registers& zRegisters);
   void WriteWhatWasCut();
 
   CodeSender& sender_;
   std::function<int(int)> shownValue_;
   Registers waiting_;  ///< handed to the sender since it last had nothing left to write
   Registers cut_;      ///< may have been cut short, and not written since
-  Registers postponed_;
+  std::deque<std::pair<int, int>> postponed_;  ///< number and value
   std::size_t lastSend_ = 0;  ///< which one of the sender's sends was the last of this writer
   int depth_ = 0;             ///< how many of the sends under way are this writer's
   bool hasGivenUp_ = false;
