@@ -23,20 +23,30 @@ int Complain(std::string_view zMessage, ExitStatus zStatus) {
   return zStatus;
 }
 
+/// Writes out what standard output still holds. The exit status of a program that did all else.
+int FinishOutput() {
+  return std::cout.flush() ? Done : Complain("cannot write to standard output", Failed);
+}
+
 /// Hands each Say Data text to `zHandle` until it returns false: the text of the arguments, or each
-/// line of standard input.
+/// line of standard input. False when that could not be read to its end.
 template <typename Handle>
-void ForEachText(const SayOptions& zOptions, Handle zHandle) {
+bool ForEachText(const SayOptions& zOptions, Handle zHandle) {
   if (zOptions.text) {
     zHandle(*zOptions.text);
-    return;
+    return true;
   }
   for (std::string line; std::getline(std::cin, line) && zHandle(line);) {
   }
+  return !std::cin.bad();
+}
+
+int ComplainOfInput() {
+  return Complain("cannot read standard input", Failed);
 }
 
 int PrintCodes(const SayOptions& zOptions, const SayDataTranslator& zTranslator) {
-  ForEachText(zOptions, [&](const std::string& zText) {
+  const bool isRead = ForEachText(zOptions, [&](const std::string& zText) {
     std::cout << CodeListText(zTranslator.MnemonicsToCodes(zTranslator.ExpandSayData(zText)))
               << '\n';
     const bool mayWaitForInput = std::cin.rdbuf()->in_avail() <= 0;
@@ -45,14 +55,15 @@ int PrintCodes(const SayOptions& zOptions, const SayDataTranslator& zTranslator)
     }
     return static_cast<bool>(std::cout);
   });
-  return std::cout.flush() ? Done : Complain("cannot write to standard output", Failed);
+  const int status = FinishOutput();
+  return isRead ? status : ComplainOfInput();
 }
 
 int Send(const SayOptions& zOptions, const SayDataTranslator& zTranslator,
          const SettingsFile& zSettings) {
   Speaker speaker(zSettings, zOptions.isForced);
   bool isSaid = true;
-  ForEachText(zOptions, [&](const std::string& zText) {
+  const bool isRead = ForEachText(zOptions, [&](const std::string& zText) {
     isSaid = speaker.Say(zTranslator.MnemonicsToCodes(zTranslator.ExpandSayData(zText)));
     return isSaid;
   });
@@ -61,7 +72,10 @@ int Send(const SayOptions& zOptions, const SayDataTranslator& zTranslator,
   if (!isSaid) {
     return Complain(complaint, Failed);
   }
-  return isFinished ? Done : Complain(speaker.Complaint(), Failed);
+  if (!isFinished) {
+    return Complain(speaker.Complaint(), Failed);
+  }
+  return isRead ? Done : ComplainOfInput();
 }
 
 }  // namespace
@@ -76,7 +90,7 @@ int main(int zCount, char** zArguments) {
   }
   if (options.wantsHelp) {
     std::cout << SayHelpText;
-    return Done;
+    return FinishOutput();
   }
   const std::filesystem::path folder = ProgramFolder();
   const SettingsFile settings(folder);

@@ -55,9 +55,7 @@ std::string Speaker::PortDevice() const {
 }
 
 bool Speaker::IsFlowControlTicked() const {
-  // As the main window reads it: 0 is off, 2 a greyed box, and everything else the default.
-  const std::string stored = settings_.GetIniValue("Serial", "FlowControl", "1");
-  return stored != "0" && stored != "2";
+  return IsFlowControlStored(settings_);
 }
 
 void Speaker::ShowPortState(PortState zState) {

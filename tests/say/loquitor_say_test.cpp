@@ -161,6 +161,20 @@ TEST_F(LoquitorSayTest, EndsWhenThePortVanishesInMidSend) {
   EXPECT_EQ(Errors(), "loquitor-say: port 1 failed while sending\n");
 }
 
+TEST_F(LoquitorSayTest, TellsWhenItsInputOrOutputFails) {
+  GivenPort();
+  for (const auto& [arguments, message] : {std::pair("--codes <.", "cannot read standard input"),
+                                           {"--codes <&-", "cannot read standard input"},
+                                           {"<.", "cannot read standard input"},
+                                           {"--codes '' >&-", "cannot write to standard output"},
+                                           {"--help >&-", "cannot write to standard output"}}) {
+    ChildProcess program({"sh", "-c", "cd \"$0\" && exec ./loquitor-say 2>errors "s + arguments,
+                          folder.Path().string()});
+    EXPECT_EQ(program.WaitForEnd(), 1) << arguments;
+    EXPECT_EQ(Errors(), "loquitor-say: "s + message + "\n") << arguments;
+  }
+}
+
 TEST_F(LoquitorSayTest, ExplainsItself) {
   struct Row {
     std::vector<std::string> arguments;
