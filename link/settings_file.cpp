@@ -67,4 +67,12 @@ bool IsTrueText(std::string_view zText) {
   return isNumber && (value != 0 || error == std::errc::result_out_of_range);
 }
 
+bool IsFlowControlStored(const SettingsFile& zSettings) {
+  const std::string stored = zSettings.GetIniValue("Serial", "FlowControl", "1");
+  const char* const end = stored.data() + stored.size();
+  int value = 1;
+  const bool isNumber = std::from_chars(stored.data(), end, value).ptr == end;
+  return !isNumber || (value != 0 && value != 2);
+}
+
 }  // namespace loquitor

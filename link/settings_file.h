@@ -52,4 +52,8 @@ std::string SavedForm(std::string_view zValue);
 /// Letter case does not count.
 bool IsTrueText(std::string_view zText);
 
+/// Whether hardware flow control is stored as wanted ("Serial", "FlowControl"): the numbers 0 and 2
+/// (a greyed box) say no; 1, everything else and no entry say yes.
+bool IsFlowControlStored(const SettingsFile& zSettings);
+
 }  // namespace loquitor

@@ -81,6 +81,22 @@ TEST_F(SettingsFileTest, KnowsATruthValueByItsWordOrNumber) {
   }
 }
 
+TEST_F(SettingsFileTest, WantsFlowControlUnlessANumberSaysOtherwise) {
+  EXPECT_TRUE(IsFlowControlStored(settings));
+  for (const auto& [stored, isOn] : {std::pair("0", false),
+                                     {"00", false},
+                                     {"2", false},
+                                     {"1", true},
+                                     {"", true},
+                                     {"no", true},
+                                     {"0x", true},
+                                     {"-1", true},
+                                     {"99999999999", true}}) {
+    ASSERT_TRUE(settings.SaveIniValue("Serial", "FlowControl", stored));
+    EXPECT_EQ(IsFlowControlStored(settings), isOn) << stored;
+  }
+}
+
 TEST_F(SettingsFileTest, KeepsOneSectionForEachSound) {
   EXPECT_TRUE(sounds.SoundNames().empty());
   for (const int frequency : {440, 441}) {

@@ -68,10 +68,6 @@ QColor ColourOf(PortState zState) {
 
 }  // namespace
 
-bool IsFlowTicked(std::string_view zStored) {
-  return zStored != "0" && zStored != "2";
-}
-
 frmUtility::frmUtility(SerialPort& zPort, const SettingsFile& zSettings,
                        const DictionaryStore& zDictionary, Prompts& zPrompts)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -124,7 +120,7 @@ void frmUtility::Open() {
 
 void frmUtility::Load() {
   txtComPort_->SetText(settings_.GetIniValue("Serial", "Port", "1"));
-  chkFlow_->SetValue(IsFlowTicked(settings_.GetIniValue("Serial", "FlowControl", "1")) ? 1 : 0);
+  chkFlow_->SetValue(IsFlowControlStored(settings_) ? 1 : 0);
   codeTable_.BuildCodeTable();
   ShowPortState(PortState::Closed);
 }

@@ -78,8 +78,4 @@ class frmUtility : public QWidget, private SenderHost {
   bool isUnloaded_ = false;
 };
 
-/// Whether the stored flow setting ticks the box: "1" does, "0" and "2" (greyed) do not, anything
-/// else stands for the default, ticked.
-bool IsFlowTicked(std::string_view zStored);
-
 }  // namespace loquitor
