@@ -77,6 +77,19 @@ std::optional<std::string_view> KeyOf(std::string_view zLine) {
   return key.empty() || key.front() != ';' ? std::make_optional(key) : std::nullopt;
 }
 
+/// `zText` up to its first line end. Looks in ever larger parts of it, so that a text whose lines
+/// all end alike is not searched for the other end to its last byte.
+std::string_view RestOfLine(std::string_view zText) {
+  for (std::size_t size = 256;; size *= 4) {
+    const std::string_view part = zText.substr(0, size);
+    const std::string_view line = part.substr(0, part.find('\n'));
+    const std::size_t end = line.find('\r');
+    if (end != std::string_view::npos || line.size() < size) {
+      return line.substr(0, end);
+    }
+  }
+}
+
 /// Fetches `zMemory` into the processor's cache ahead of its use.
 void Prefetch([[maybe_unused]] const void* zMemory) {
 #ifdef __GNUC__
@@ -170,10 +183,7 @@ std::optional<std::size_t> ProfileIndex::ValuePlace(const Slot& zSlot, const Sec
 }
 
 std::string_view ProfileIndex::ValueFrom(std::size_t zPlace) const {
-  std::string_view line = Text().substr(zPlace);
-  line = line.substr(0, line.find('\n'));
-  line = line.substr(0, line.find('\r'));
-  return WithoutQuotes(TrimBlanks(line));
+  return WithoutQuotes(TrimBlanks(RestOfLine(Text().substr(zPlace))));
 }
 
 std::optional<std::string_view> ProfileIndex::Find(std::string_view zSection,

@@ -97,6 +97,16 @@ TEST_F(ProfileFileTest, ReadsTheFirstKeyOfTheFirstSectionThatMatches) {
   }
 }
 
+TEST_F(ProfileFileTest, ReadsLongValuesToTheirLineEnd) {
+  for (const std::size_t length : {250U, 254U, 255U, 256U, 257U, 1023U, 1024U, 1025U, 5000U}) {
+    const std::string value(length, 'x');
+    for (const std::string_view end : {"\r\n", "\n", "\r", ""}) {
+      Given("[s]\nk=" + value + std::string(end) + (end.empty() ? "" : "j=\r\ni=\n"));
+      EXPECT_EQ(Read("s", "k", "", 9999), value) << length << ::testing::PrintToString(end);
+    }
+  }
+}
+
 TEST_F(ProfileFileTest, CutsTheValueAndTheDefaultToTheBuffer) {
   Given("[s]\nk=\"abcdef\"\n");
   const std::tuple<std::size_t, std::string_view, std::string_view> rows[] = {
