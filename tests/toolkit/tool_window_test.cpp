@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 
+#include "tests/support/real_mouse.h"
 #include "ui/toolkit/busy.h"
 #include "ui/toolkit/text_box.h"
 
@@ -101,6 +102,24 @@ TEST_F(ToolWindowTest, EnterAndEscapeDoNothing) {
   }
   EXPECT_TRUE(window.isVisible());
   EXPECT_EQ(pressed.count(), 0);
+}
+
+TEST_F(ToolWindowTest, ADoubleClickThatOpensItReachesNothingInIt) {
+  QPushButton opener(&owner);
+  opener.show();
+  NotingWindow window(&owner);
+  QSignalSpy pressed(&window.button, &QPushButton::clicked);
+  QObject::connect(&opener, &QPushButton::clicked, &window, [&] { ShowAndWait(window); });
+  testing::RealMouse mouse;
+  mouse.Click(&opener);
+  ASSERT_TRUE(window.isVisible());
+  const auto middle = [](QWidget& zWidget) { return zWidget.mapToGlobal(zWidget.rect().center()); };
+  window.move(window.pos() + middle(opener) - middle(window.button));
+  mouse.Click(&window.button);
+  EXPECT_EQ(pressed.count(), 0);
+  mouse.Click(&window.button);
+  mouse.Click(&window.button);
+  EXPECT_EQ(pressed.count(), 2);
 }
 
 TEST_F(ToolWindowTest, LooksLikeAToolWindowInTheMiddleOfTheScreen) {

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "ui/toolkit/opening_click.h"
 #include "ui/toolkit/refusal.h"
 
 namespace loquitor {
@@ -73,6 +74,7 @@ PromptAnswer DesktopPrompts::Ask(QWidget* zOwner, const QString& zTitle, const Q
   box->setTextFormat(Qt::PlainText);
   box->setEscapeButton(buttons.onClose);
   KeepLinesWhole(*box);
+  KeepOpeningClickOut(box);
   const int answer = box->exec();
   if (!box) {
     return AnswerOf(buttons.onClose);
@@ -92,6 +94,7 @@ std::optional<QString> DesktopPrompts::AskText(QWidget* zOwner, const QString& z
     line->setMinimumWidth(InputWidth);
     line->selectAll();
   }
+  KeepOpeningClickOut(box);
   const bool isAccepted = box->exec() == QDialog::Accepted;
   if (!box) {
     return std::nullopt;
