@@ -3,6 +3,10 @@
 #include <QApplication>
 
 int main(int argc, char** argv) {
+  // Here, not in CTest alone: CTest asks for the names of the tests without their environment.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
   QApplication application(argc, argv);
   application.setQuitOnLastWindowClosed(false);
   ::testing::InitGoogleTest(&argc, argv);
