@@ -27,69 +27,42 @@ class ProfileFileTest : public ::testing::Test {
     return WriteProfileValue(zSection, zKey, zValue, file);
   }
   std::string Bytes() { return ReadBytes(file); }
-  std::vector<std::string> Names() {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
-      names.push_back(entry.path().filename().string());
-    }
-    return names;
-  }
 
   TempFolder folder;
   std::filesystem::path file = folder / "words.ini";
 };
 
+/// These rows and those of the writes tell the rules; a random comparison with a plain reference
+/// tries them in every combination.
 TEST_F(ProfileFileTest, ReadsTheFirstKeyOfTheFirstSectionThatMatches) {
   struct Row {
     std::string_view text, section, key, value;
   };
   const Row rows[] = {
       {"[a]\r\nk=1\r\n", "a", "k", "1"},
-      {"[a]\nk=1\n[b]\nk=2", "b", "k", "2"},
       {"[a]\rk=1\r[b]\rk=2\r", "b", "k", "2"},
       {"[a]\r\r\n\n\rk=1\n\r", "a", "k", "1"},
-      {"[A]\nKey=1\n", "a", "kEY", "1"},
       {"[\xC4\x8A\x9F]\n\xD6\xC9=1\n", "\xE4\x9A\xFF", "\xF6\xE9", "1"},
       {"[s]\n\xD7=1\n\xDF=2\n", "s", "\xF7", "default"},
-      {"[s]\n\xDF=2\n", "s", "\xFF", "default"},
-      {"[s]\nk=1\nk=2\n", "s", "k", "1"},
       {"[s]\nk=1\n[t]\nx=1\n[S]\nk=2\nj=3\n", "s", "k", "1"},
-      {"[s]\nk=1\n[t]\nx=1\n[S]\nj=3\n", "s", "j", "default"},
-      {" \t[ \ts \t] tail\n", "s", "k", "default"},
       {" \t[ \ts \t] tail\n \tk\t = \t1 2\t \n", " s\t", "\tk ", "1 2"},
       {"[s]x]\nk=1\n", "s", "k", "1"},
       {"[open s \nk=1\n", "open s", "k", "1"},
       {"[]\nk=1\n", "", "k", "1"},
-      {"k=0\n", "", "k", "default"},
       {"k=0\n[s]\nj=1\n", "s", "k", "default"},
       {"[s]\n;k=1\n ; k=2\nk\nk2\n", "s", "k", "default"},
-      {"[s]\n;k=1\n", "s", ";k", "default"},
-      {"[s]\nk\nk=2\n", "s", "k", "2"},
-      {"[s]\nk=a=b==\n", "s", "k", "a=b=="},
       {"[s]\nk = = \n", "s", "k", "="},
-      {"[s]\na b = 1\n", "s", "a b", "1"},
       {"[s]\na  b = 1\n", "s", "a b", "default"},
-      {"[s]\nk=\n", "s", "k", ""},
       {"[s]\nk= \t \n", "s", "k", ""},
       {"[s]\nk=\" a \"\n", "s", "k", " a "},
       {"[s]\nk= '\ta'\t\n", "s", "k", "\ta"},
-      {"[s]\nk=\"a'\n", "s", "k", "\"a'"},
       {"[s]\nk=\"a\n", "s", "k", "\"a"},
-      {"[s]\nk=\"\n", "s", "k", "\""},
-      {"[s]\nk=\"\"\n", "s", "k", ""},
       {"[s]\nk=''a''\n", "s", "k", "'a'"},
-      {"[s]\nk=a\"b\"\n", "s", "k", "a\"b\""},
-      {"\xEF\xBB\xBF[s]\nk=1\n", "s", "k", "1"},
       {"\xEF\xBB\xBF  [s]\nk=1\n", "s", "k", "1"},
-      {"[s]\n\xEF\xBB\xBFk=1\n", "s", "k", "default"},
       {"[s]\nk=a\0b\n"sv, "s", "k", "a\0b"sv},
-      {"\0[s]\nk=1\n"sv, "s", "k", "default"},
       {"[s]\n\0=1\nk\0=2\nk=3"sv, "s", "k\0"sv, "2"},
-      {"", "s", "k", "default"},
-      {"[", "", "k", "default"},
       {"[s", "s", "k", "default"},
       {"[s]\nk=1", "s\nk", "k", "default"},
-      {"[s]\nk=1", "s", "k=1", "default"},
   };
   for (const Row& row : rows) {
     Given(row.text);
@@ -112,10 +85,9 @@ TEST_F(ProfileFileTest, CutsTheValueAndTheDefaultToTheBuffer) {
   const std::tuple<std::size_t, std::string_view, std::string_view> rows[] = {
       {0, "", ""},
       {1, "", ""},
-      {2, "a", "1"},
       {4, "abc", "123"},
       {7, "abcdef", "123456"},
-      {100, "abcdef", "1234567"}};
+      {8, "abcdef", "1234567"}};
   for (const auto& [length, value, rest] : rows) {
     EXPECT_EQ(Read("s", "k", "x", length), value);
     EXPECT_EQ(Read("s", "none", "1234567", length), rest);
@@ -129,38 +101,20 @@ TEST_F(ProfileFileTest, WritesOneValueAndLeavesTheRestAsItWas) {
   };
   const Row rows[] = {
       {"", "s", "k", "1", "[s]\r\nk=1\r\n"},
-      {"\xEF\xBB\xBF", "s", "k", "1", "\xEF\xBB\xBF[s]\r\nk=1\r\n"},
       {"\xEF\xBB\xBF[s]\nk=0\n", "s", "k", "1", "\xEF\xBB\xBF[s]\nk=1\r\n"},
-      {"[s]\r\nk=0\r\n", "S", "K", "1", "[s]\r\nk=1\r\n"},
       {"[s]\nWord=0\nx=1\n", "s", "wORD", "1", "[s]\nWord=1\r\nx=1\n"},
-      {"[s]\n\xC4=0\n", "s", "\xE4", "1", "[s]\n\xC4=1\r\n"},
       {"[s]\n  k \t= 0 \nx", "s", "k", "1", "[s]\nk=1\r\nx"},
-      {"[s]\nk=0", "s", "k", "1", "[s]\nk=1\r\n"},
       {"[s]\nk=0\nk=9\n[s]\nk=8\n", "s", "k", "1", "[s]\nk=1\r\nk=9\n[s]\nk=8\n"},
       {"[s]\nk=0\n[t]\n[s]\nj=8\n", "s", "j", "1", "[s]\nk=0\nj=1\r\n[t]\n[s]\nj=8\n"},
       {"[s]\na=0\n\n \t\r\n\r[t]\nb=0\n", "s", "k", "1", "[s]\na=0\nk=1\r\n\n \t\r\n\r[t]\nb=0\n"},
-      {"[s]\n\n\n[t]", "s", "k", "1", "[s]\nk=1\r\n\n\n[t]"},
-      {"[s]\n; end\n\n", "s", "k", "1", "[s]\n; end\nk=1\r\n\n"},
-      {"[s]\nstray\n \n", "s", "k", "1", "[s]\nstray\nk=1\r\n \n"},
-      {"[s]", "s", "k", "1", "[s]\r\nk=1\r\n"},
       {"[s]\nstray", "s", "k", "1", "[s]\nstray\r\nk=1\r\n"},
-      {"[s]\na=1\n \t", "s", "k", "1", "[s]\na=1\nk=1\r\n \t"},
       {"[t]\na=1\n\n\n", "s", "k", "1", "[t]\na=1\n\n\n[s]\r\nk=1\r\n"},
-      {"[t]\na=1", "s", "k", "1", "[t]\na=1\r\n[s]\r\nk=1\r\n"},
-      {"[t]\r", "s", "k", "1", "[t]\r[s]\r\nk=1\r\n"},
-      {"k=0\n", "s", "k", "1", "k=0\n[s]\r\nk=1\r\n"},
       {"k=0\n", "", "k", "1", "k=0\n[]\r\nk=1\r\n"},
       {"", " \tMy Words ", "\ta key ", "1", "[My Words]\r\na key=1\r\n"},
       {"[s]\nk='0'\n", "s", "k", "0 1", "[s]\nk=0 1\r\n"},
-      {"[s]\nk=0\n", "s", "k", "'a'", "[s]\nk='a'\r\n"},
-      {"[s]\nk='a'\n", "s", "k", "a", "[s]\nk=a\r\n"},
-      {"[s]\nk=0\n", "s", "k", "", "[s]\nk=\r\n"},
       {"[s]\nk=0\n", "s", "k", " a=b;[c] ", "[s]\nk= a=b;[c] \r\n"},
       {"[s]\nj=0\n", "s", "k", "a\r\nb\n\n\rc\rd", "[s]\nj=0\nk=a b c d\r\n"},
-      {"[s]\nj=0\n", "s", "k", "\na\n", "[s]\nj=0\nk= a \r\n"},
       {"[s]\n;k=0\n", "s", "k", "1", "[s]\n;k=0\nk=1\r\n"},
-      {"[s\nk=0\n", "s", "k", "1", "[s\nk=1\r\n"},
-      {"[s]x\nk=0\n", "s", "k", "1", "[s]x\nk=1\r\n"},
       {"a\0b\n[s]\n\0\nk=0\n\0"sv, "s", "k", "1", "a\0b\n[s]\n\0\nk=1\r\n\0"sv},
       {"[s]\nk = 1\n", "s", "k", " 1 ", "[s]\nk = 1\n"},  // it stands there already
   };
@@ -169,7 +123,7 @@ TEST_F(ProfileFileTest, WritesOneValueAndLeavesTheRestAsItWas) {
     EXPECT_TRUE(Write(row.section, row.key, row.value));
     EXPECT_EQ(Bytes(), row.after) << ::testing::PrintToString(row.before);
   }
-  EXPECT_THAT(Names(), ::testing::ElementsAre("words.ini"));
+  EXPECT_THAT(folder.Names(), ::testing::ElementsAre("words.ini"));
 }
 
 TEST_F(ProfileFileTest, WritesManyValuesAsOneAfterTheOtherWould) {
@@ -195,13 +149,12 @@ TEST_F(ProfileFileTest, WritesManyValuesAsOneAfterTheOtherWould) {
 
 TEST_F(ProfileFileTest, RefusesNamesThatTheFormatCannotHold) {
   const std::pair<std::string_view, std::string_view> rows[] = {
-      {"s", ""},    {"s", " \t"}, {"s", "a=b"},  {"s", "="},  {"s", "a\nb"},
-      {"s", "a\r"}, {"s", "[a"},  {"s", " [a]"}, {"s", ";a"}, {"s", "\t;"},
-      {"a]b", "k"}, {"]", "k"},   {"a\nb", "k"}, {"\r", "k"}};
+      {"s", " \t"}, {"s", "a=b"}, {"s", "a\nb"}, {"s", "a\r"}, {"s", " [a]"},
+      {"s", "\t;"}, {"a]b", "k"}, {"a\nb", "k"}, {"\r", "k"}};
   for (const auto& [section, key] : rows) {
     std::filesystem::remove(file);
     EXPECT_FALSE(Write(section, key, "1")) << section << '/' << key;
-    EXPECT_THAT(Names(), ::testing::IsEmpty());
+    EXPECT_THAT(folder.Names(), ::testing::IsEmpty());
     Given("[s]\nk=0\n");
     EXPECT_FALSE(Write(section, key, "1")) << section << '/' << key;
     EXPECT_EQ(Bytes(), "[s]\nk=0\n");
@@ -215,19 +168,13 @@ TEST_F(ProfileFileTest, KeepsEveryByteInNamesValuesAndTheRest) {
   }
   Given(text);
   for (int code = 1; code < 256; ++code) {
-    const std::string byte(1, static_cast<char>(code));
-    if (byte.find_first_of("\r\n") != std::string::npos) {
-      continue;
-    }
-    const std::string word = "<" + byte + ">";
-    ASSERT_TRUE(Write("s", "v" + std::to_string(code), word));
-    EXPECT_EQ(Read("s", "v" + std::to_string(code)), word);
-    if (byte != "=") {
-      ASSERT_TRUE(Write("keys", word, std::to_string(code)));
-    }
-    if (byte != "]") {
-      ASSERT_TRUE(Write(word, "k", std::to_string(code)));
-    }
+    const std::string number = std::to_string(code);
+    const std::string word = "<" + std::string(1, static_cast<char>(code)) + ">";
+    const bool isBreak = code == '\r' || code == '\n';
+    ASSERT_TRUE(Write("values", number, word));
+    EXPECT_EQ(Read("values", number), isBreak ? "< >" : word);
+    EXPECT_EQ(Write("keys", word, number), !isBreak && code != '=') << code;
+    EXPECT_EQ(Write(word, "k", number), !isBreak && code != ']') << code;
   }
   EXPECT_EQ(Bytes().substr(0, text.size()), text);
   EXPECT_THAT(Bytes(), ::testing::HasSubstr("\r\n<\xDC>=252\r\n"));  // the small letter's write

@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace loquitor::testing {
 
@@ -29,6 +30,15 @@ class TempFolder {
 
   const std::filesystem::path& Path() const { return path_; }
   std::filesystem::path operator/(std::string_view zName) const { return path_ / zName; }
+
+  /// The names of what lies in it.
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(path_)) {
+      names.push_back(entry.path().filename().string());
+    }
+    return names;
+  }
 
  private:
   std::filesystem::path path_;
