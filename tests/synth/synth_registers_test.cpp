@@ -17,23 +17,6 @@ TEST(SynthRegisters, TheEnvelopeByteHoldsTypeAndBothBoxes) {
   EXPECT_EQ(EnvelopeControlByte(Square, true, true), 195);
 }
 
-TEST(SynthRegisters, TheToneVolumesFallIntoBands) {
-  using enum synth::VolumeBand;
-  const struct {
-    int sum;
-    synth::VolumeBand band;
-  } rows[] = {{0, Within}, {59, Within}, {60, Near}, {63, Near}, {64, Over}, {93, Over}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(BandOfToneVolumes(row.sum), row.band) << row.sum;
-  }
-}
-
-TEST(SynthRegisters, MaxGivesTheSmaller) {
-  EXPECT_EQ(max(40, 31), 31);
-  EXPECT_EQ(max(12, 31), 12);
-  EXPECT_EQ(max(31, 31), 31);
-}
-
 TEST(SynthRegisters, HarmoniseFindsTheNearestMultipleThatFits) {
   const double infinity = std::numeric_limits<double>::infinity();
   const struct {
@@ -73,21 +56,6 @@ TEST(SynthRegisters, AdjustedValuesRoundHalvesToEvenAndStopAtTheTop) {
   EXPECT_EQ(AdjustedFrequency(2000, 200), 3999);
   EXPECT_EQ(AdjustedFrequency(3999, 200), 3999);
   EXPECT_EQ(AdjustedFrequency(3999, 100), 3999);
-}
-
-TEST(SynthRegisters, TextsBecomeWholeNumbersInRange) {
-  const struct {
-    const char* text;
-    int expected;
-  } rows[] = {
-      {"", 0},       {"abc", 0},    {"12", 12},   {" 1 2 x", 12},
-      {"12.7", 13},  {"2.5", 2},    {"3.5", 4},   {"-1", 0},
-      {"-1e9", 0},   {"31", 31},    {"31.4", 31}, {"32", 31},
-      {"1e400", 31}, {"-1e400", 0}, {"&HF", 15},  {"99999999999999999999", 31},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(WholeNumberInRange(row.text, 31), row.expected) << row.text;
-  }
 }
 
 TEST(SoundName, SaysWhichNamesASectionCannotHold) {

@@ -2,7 +2,6 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
-#include <QWheelEvent>
 #include <filesystem>
 
 #include "tests/synth/synth_test.h"
@@ -63,35 +62,16 @@ TEST_F(SynthTest, TheAdjustToolsScaleFromTheirBases) {
   EXPECT_THAT(Values("scFreq"), ElementsAre(2000, 3999, 3, 9, 9));
 }
 
-TEST_F(SynthTest, TheAdjustBarsRebaseHoweverTheyTakeTheFocus) {
-  const auto wheel = [](ScrollBar* zBar) {
-    const QPointF middle = zBar->rect().center();
-    QWheelEvent event(middle, zBar->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(zBar, &event);
-  };
-  const struct {
-    const char* how;
-    std::function<void(ScrollBar*)> focus;
-  } rows[] = {
-      {"mouse",
-       [](ScrollBar* zBar) {
-         QTest::mouseClick(zBar, Qt::LeftButton, {}, {3, 5});
-       }},
-      {"Tab", [](ScrollBar* zBar) { zBar->setFocus(Qt::TabFocusReason); }},
-      {"wheel", wheel},
-  };
-  for (const auto& [bar, stem, index] :
-       {std::tuple{"scVolAdjTone", "scVol", 1}, std::tuple{"scFreqAdjTone", "scFreq", 2}}) {
-    for (const auto& row : rows) {
-      GivenOpenWindow();
-      Bar(bar)->setValue(170);
-      Given(stem, {16, 16});
-      row.focus(Bar(bar));
-      EXPECT_NEAR(Value(bar), 100, 5) << row.how;
-      Bar(bar)->setValue(150);
-      EXPECT_EQ(Value(Indexed(stem, index)), 24) << row.how;
-    }
+TEST_F(SynthTest, AnAdjustBarRebasesBeforeThePressThatBringsTheFocusMovesIt) {
+  for (const auto& [bar, stem] :
+       {std::pair{"scVolAdjTone", "scVol"}, std::pair{"scFreqAdjTone", "scFreq"}}) {
+    GivenOpenWindow();
+    Bar(bar)->setValue(170);
+    Given(stem, {16, 16});
+    QTest::mouseClick(Bar(bar), Qt::LeftButton, {}, {3, 5});
+    EXPECT_EQ(Value(bar), 99) << bar;
+    Bar(bar)->setValue(150);
+    EXPECT_EQ(Value(Indexed(stem, 2)), 24) << bar;
   }
 }
 

@@ -201,7 +201,7 @@ void FrmSynthCtrl::SendEnvelopeSettings() {
 }
 
 void FrmSynthCtrl::txtHFreq_Change() {
-  if (isHFreqMarked_ && NumberAtStart(form_.Get<TextBox>("txtHFreq")->Text()) > 0) {
+  if (NumberAtStart(form_.Get<TextBox>("txtHFreq")->Text()) > 0) {
     MarkHFreq(false);
   }
 }
@@ -213,7 +213,6 @@ void FrmSynthCtrl::MarkHFreq(bool zIsMarked) {
   box->SetBackground(zIsMarked ? WrongNumber : QColor());
   box->setToolTip(fault);
   box->setAccessibleDescription(fault);
-  isHFreqMarked_ = zIsMarked;
 }
 
 void FrmSynthCtrl::Command1_Click() {

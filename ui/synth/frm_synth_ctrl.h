@@ -92,7 +92,6 @@ class FrmSynthCtrl : public ToolWindow {
   std::array<std::int16_t, synth::ToneCount + 1> volAdjBase_{};
   int oscillatorTurn_ = 0;  // how often all oscillators have been set at once
   bool isLeavingByMouse_ = false;
-  bool isHFreqMarked_ = false;
 };
 
 }  // namespace loquitor
