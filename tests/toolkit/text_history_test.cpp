@@ -65,6 +65,13 @@ class TextHistoryTest : public ::testing::Test {
     area.setTextCursor(cursor);
   }
 
+  /// The text with one stretch of it replaced, or none; now and then nearly all of it.
+  std::string Varied(std::string zText) {
+    const std::size_t start = random() % (zText.size() + 1);
+    const std::string other(random() % 3 == 0 ? random() % 60 : random() % 3, "xy\n"[random() % 3]);
+    return zText.replace(start, random() % 5, other);
+  }
+
   std::mt19937 random{3};
   TextArea area{nullptr};
   TextHistory& history = *new TextHistory(&area, Bound);
@@ -118,14 +125,18 @@ TEST_F(TextHistoryTest, FollowsRandomEditsAndTakesThemAllBack) {
     std::string start(random() % 40, 'x');
     history.Load(start);
     for (int edit = 0; edit < 30; ++edit) {
-      EditAtRandom();
+      if (random() % 4 == 0) {
+        history.ReplaceAll(Varied(history.Text()));
+      } else {
+        EditAtRandom();
+      }
       ASSERT_EQ(history.Text(), area.Text()) << "round " << round << ", edit " << edit;
       if (random() % 4 == 0) {
         history.Undo();
         ASSERT_EQ(history.Text(), area.Text());
       }
     }
-    EditAtRandom();
+    history.Append("end");
     const std::string end = area.Text();
     while (history.CanUndo()) {
       history.Undo();
@@ -136,6 +147,33 @@ TEST_F(TextHistoryTest, FollowsRandomEditsAndTakesThemAllBack) {
       history.Redo();
     }
     EXPECT_EQ(area.Text(), end);
+  }
+}
+
+TEST_F(TextHistoryTest, TheSameTextAgainIsNoStepAndMovesTheCaretToTheStart) {
+  history.Load("one\ntwo");
+  area.moveCursor(QTextCursor::End);
+  Type("!");
+  history.Undo();
+  history.ReplaceAll("one\ntwo");
+  EXPECT_EQ(area.SelectionStart(), 0);
+  EXPECT_FALSE(history.CanUndo());
+  history.Redo();
+  EXPECT_EQ(area.Text(), "one\ntwo!");
+}
+
+TEST_F(TextHistoryTest, TakingBackAReplacementPutsTheCaretWhereItWas) {
+  for (const char* other : {"one\ntwo\n3\nfour", "all else"}) {
+    history.Load("one\ntwo\nthree\nfour");
+    area.Select(5, 0);
+    history.ReplaceAll(other);
+    EXPECT_EQ(area.SelectionStart(), 0);
+    area.Select(3, 0);
+    history.Undo();
+    EXPECT_EQ(area.SelectionStart(), 5) << other;
+    history.Redo();
+    EXPECT_EQ(area.SelectionStart(), 3) << other;
+    EXPECT_EQ(area.Text(), other);
   }
 }
 

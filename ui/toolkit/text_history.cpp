@@ -31,15 +31,31 @@ std::string BytesOf(QString zPiece) {
   return ToBytes(zPiece);
 }
 
-/// How many bytes two texts have in common at their beginning, or at their end.
-std::size_t CommonPrefix(std::string_view zOne, std::string_view zOther) {
-  const auto end = std::mismatch(zOne.begin(), zOne.end(), zOther.begin(), zOther.end()).first;
-  return static_cast<std::size_t>(end - zOne.begin());
+/// Where two texts differ: what stands in the one between what they have in common at their
+/// beginning and at their end, and what in the other.
+struct Stretch {
+  std::size_t start;
+  std::string_view before;
+  std::string_view after;
+};
+
+Stretch ChangedStretch(std::string_view zBefore, std::string_view zAfter) {
+  const auto first = std::mismatch(zBefore.begin(), zBefore.end(), zAfter.begin(), zAfter.end());
+  const auto start = static_cast<std::size_t>(first.first - zBefore.begin());
+  zBefore.remove_prefix(start);
+  zAfter.remove_prefix(start);
+  const auto last = std::mismatch(zBefore.rbegin(), zBefore.rend(), zAfter.rbegin(), zAfter.rend());
+  const auto tail = static_cast<std::size_t>(last.first - zBefore.rbegin());
+  zBefore.remove_suffix(tail);
+  zAfter.remove_suffix(tail);
+  return {start, zBefore, zAfter};
 }
 
-std::size_t CommonSuffix(std::string_view zOne, std::string_view zOther) {
-  const auto end = std::mismatch(zOne.rbegin(), zOne.rend(), zOther.rbegin(), zOther.rend()).first;
-  return static_cast<std::size_t>(end - zOne.rbegin());
+/// Inserts a text in pieces: as one, it would take three times its size on the way.
+void InsertPieces(QTextCursor& zCursor, std::string_view zText) {
+  for (std::size_t from = 0; from < zText.size(); from += PieceLength) {
+    zCursor.insertText(ToQString(zText.substr(from, PieceLength)));
+  }
 }
 
 /// Sets a flag as long as it lives.
@@ -77,11 +93,17 @@ void TextHistory::Load(std::string zText) {
 }
 
 void TextHistory::ReplaceAll(std::string zText) {
-  Step step{0, zText.size(), std::move(text_), area_->textCursor().position()};
-  text_ = std::move(zText);
+  const Stretch changed = ChangedStretch(text_, zText);
+  if (changed.before.empty() && changed.after.empty()) {
+    area_->moveCursor(QTextCursor::Start);
+    return;
+  }
+  Step step{changed.start, changed.before.size(), {}, 0};
+  const std::size_t end = changed.start + changed.after.size();
+  zText.erase(end).erase(0, changed.start);
+  step.other = std::move(zText);
   ForgetRedo();
-  Push(undo_, std::move(step));
-  Show();
+  Push(undo_, Apply(std::move(step)));
 }
 
 void TextHistory::Append(std::string_view zText) {
@@ -116,41 +138,47 @@ void TextHistory::Redo() {
 /// again.
 TextHistory::Step TextHistory::Apply(Step zStep) {
   Step inverse{zStep.start, zStep.other.size(), {}};
+  int caret = static_cast<int>(zStep.start + zStep.other.size());
   if (zStep.caret >= 0) {
     inverse.caret = area_->textCursor().position();
+    caret = zStep.caret;
   }
-  const bool isWhole = zStep.start == 0 && zStep.length == text_.size();
-  if (isWhole) {
+  if (zStep.start == 0 && zStep.length == text_.size()) {
     inverse.other = std::exchange(text_, std::move(zStep.other));
-    Show();
   } else {
     inverse.other = text_.substr(zStep.start, zStep.length);
-    text_.replace(zStep.start, zStep.length, zStep.other);
-    const FlagRaised ownChange(isOwnChange_);
-    QTextCursor cursor(area_->document());
-    cursor.setPosition(static_cast<int>(zStep.start));
-    cursor.setPosition(static_cast<int>(zStep.start + zStep.length), QTextCursor::KeepAnchor);
-    cursor.insertText(ToQString(zStep.other));
-    area_->setTextCursor(cursor);
+    text_.replace(zStep.start, zStep.length, std::exchange(zStep.other, {}));
   }
-  if (zStep.caret >= 0 || isWhole) {
-    const auto end = static_cast<int>(text_.size());
-    area_->Select(zStep.caret >= 0 ? std::min(zStep.caret, end) : end, 0);
-  }
+  ShowChange(inverse.start, zStep.length, inverse.length);
+  area_->Select(caret, 0);
   area_->ensureCursorVisible();
   return inverse;
 }
 
-/// Puts the text into the area in pieces: as one, it would take three times its size on the way.
+/// Shows what now stands from `zStart` on, `zAdded` bytes, in place of `zRemoved` bytes. The whole
+/// text afresh is quicker where most of it has changed, and lets go of the memory of what was
+/// there.
+void TextHistory::ShowChange(std::size_t zStart, std::size_t zRemoved, std::size_t zAdded) {
+  if (std::max(zRemoved, zAdded) > text_.size() / 2) {
+    Show();
+    return;
+  }
+  const FlagRaised ownChange(isOwnChange_);
+  QTextCursor cursor(area_->document());
+  cursor.setPosition(static_cast<int>(zStart));
+  cursor.setPosition(static_cast<int>(zStart + zRemoved), QTextCursor::KeepAnchor);
+  cursor.beginEditBlock();
+  cursor.removeSelectedText();
+  InsertPieces(cursor, std::string_view(text_).substr(zStart, zAdded));
+  cursor.endEditBlock();
+}
+
 void TextHistory::Show() {
   const FlagRaised ownChange(isOwnChange_);
   area_->SetText("");
   QTextCursor cursor(area_->document());
   cursor.beginEditBlock();
-  const std::string_view text = text_;
-  for (std::size_t from = 0; from < text.size(); from += PieceLength) {
-    cursor.insertText(ToQString(text.substr(from, PieceLength)));
-  }
+  InsertPieces(cursor, text_);
   cursor.endEditBlock();
   area_->moveCursor(QTextCursor::Start);
 }
@@ -167,19 +195,13 @@ void TextHistory::RecordChange(int zFrom, int zRemoved) {
   const auto behind = static_cast<int>(text_.size() - start - removed);
   const std::string added = AreaText(zFrom, length - behind);
 
-  const std::string_view before = std::string_view(text_).substr(start, removed);
-  const std::size_t prefix = CommonPrefix(before, added);
-  const std::size_t suffix =
-      CommonSuffix(before.substr(prefix), std::string_view(added).substr(prefix));
-  const std::string_view now =
-      std::string_view(added).substr(prefix, added.size() - prefix - suffix);
-  Step step{start + prefix, now.size(),
-            std::string(before.substr(prefix, removed - prefix - suffix))};
+  const Stretch changed = ChangedStretch(std::string_view(text_).substr(start, removed), added);
+  Step step{start + changed.start, changed.after.size(), std::string(changed.before)};
   if (step.length == 0 && step.other.empty()) {
     return;
   }
-  step.isRun = now.size() + step.other.size() == 1 && now != "\n";
-  text_.replace(step.start, step.other.size(), now);
+  step.isRun = step.length + step.other.size() == 1 && changed.after != "\n";
+  text_.replace(step.start, step.other.size(), changed.after);
   ForgetRedo();
   if (!JoinsLastStep(step)) {
     Push(undo_, std::move(step));

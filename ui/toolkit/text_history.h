@@ -31,7 +31,8 @@ class TextHistory : public QObject {
   /// Shows `zText` and forgets all steps. The caret stands at the start.
   void Load(std::string zText);
 
-  /// Replaces the whole text, which is one step. The caret stands at the start.
+  /// Replaces the whole text, which is one step; none when it is the same. The caret stands at the
+  /// start. What the two have in common at their beginning and their end costs nothing.
   void ReplaceAll(std::string zText);
 
   /// Adds `zText` behind the last character, which is one step. The caret ends behind it, in view.
@@ -71,6 +72,7 @@ class TextHistory : public QObject {
   void KeepWithinBound();
   Step Apply(Step zStep);
   void Show();
+  void ShowChange(std::size_t zStart, std::size_t zRemoved, std::size_t zAdded);
   std::string AreaText(int zFrom, int zEnd) const;
   void ForgetRedo();
   void ShowContextMenu(const QPoint& zPosition);
