@@ -73,6 +73,20 @@ std::string BoxTextFromFile(std::string_view zFileBytes) {
   return text;
 }
 
+TextExtent ExtentOf(std::string_view zBoxText) {
+  TextExtent extent{0, 0, 1};
+  for (std::size_t start = 0; start <= zBoxText.size();) {
+    const std::size_t end = std::min(zBoxText.find('\n', start), zBoxText.size());
+    ++extent.lines;
+    if (end - start > extent.longestLine) {
+      extent.longestLine = end - start;
+      extent.longestAt = extent.lines;
+    }
+    start = end + 1;
+  }
+  return extent;
+}
+
 std::string FileBytesFromBox(std::string_view zBoxText) {
   const auto breaks = static_cast<std::size_t>(std::count(zBoxText.begin(), zBoxText.end(), '\n'));
   std::string bytes;

@@ -15,6 +15,14 @@ namespace loquitor {
 /// of the file too.
 std::string BoxTextFromFile(std::string_view zFileBytes);
 
+/// How far a text of the box reaches.
+struct TextExtent {
+  std::size_t lines = 1;        ///< one more than it has line breaks
+  std::size_t longestLine = 0;  ///< in bytes
+  std::size_t longestAt = 1;    ///< which line that is, the first of them, counted from one
+};
+TextExtent ExtentOf(std::string_view zBoxText);
+
 /// The bytes to save for `zBoxText`: each LF becomes CR LF, and one CR LF follows the whole.
 std::string FileBytesFromBox(std::string_view zBoxText);
 

@@ -31,8 +31,8 @@ class WordImport {
   /// How many words that is.
   std::size_t Count() const { return count_; }
 
-  /// How many bytes that takes, with those of a word that goes on.
-  std::size_t Size() const { return addedText_.size() + word_.size(); }
+  /// How many bytes the word has so far that the bytes fed last ended in.
+  std::size_t UnfinishedSize() const { return word_.size(); }
 
  private:
   void TakeWord();

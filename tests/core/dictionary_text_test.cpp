@@ -31,6 +31,22 @@ TEST(DictionaryText, EveryKindOfLineEndBecomesOneLineBreak) {
   }
 }
 
+TEST(DictionaryText, TheExtentCountsLinesAndFindsTheLongest) {
+  const struct {
+    std::string text;
+    TextExtent expected;
+  } table[] = {
+      {"", {1, 0, 1}},         {"ab", {1, 2, 1}},        {"\n", {2, 0, 1}},
+      {"a\nbcd\n", {3, 3, 2}}, {"ab\ncd\ne", {3, 2, 1}}, {"\n\n\xFF\0c"s, {3, 3, 3}},
+  };
+  for (const auto& [text, expected] : table) {
+    const TextExtent extent = ExtentOf(text);
+    EXPECT_EQ(extent.lines, expected.lines) << text;
+    EXPECT_EQ(extent.longestLine, expected.longestLine) << text;
+    EXPECT_EQ(extent.longestAt, expected.longestAt) << text;
+  }
+}
+
 TEST(DictionaryText, SavingEndsLinesWithCrLfAndAddsOneMore) {
   const Conversion table[] = {
       {"", "\r\n"},

@@ -346,6 +346,44 @@ TEST_F(DictionaryEditor, ADictionaryBeyondTheBoundIsLeftAlone) {
   EXPECT_EQ(Saved(), "\r\n");
 }
 
+TEST_F(DictionaryEditor, WhatTheBoxCannotDrawIsLeftAlone) {
+  const std::string longLine = "\r\n" + std::string(frmDictEdit::MaximumLineLength, '\0');
+  const struct {
+    std::string file;
+    const char* told;
+  } table[] = {
+      {longLine, ""},
+      {longLine + "x\r\n", "Line 2 of"},
+      {std::string(frmDictEdit::MaximumLines, '\n'), "too large"},
+  };
+  for (const auto& [file, told] : table) {
+    prompts.asked.clear();
+    OpenOn(file);
+    if (*told == '\0') {
+      EXPECT_TRUE(prompts.asked.empty());
+      EXPECT_EQ(Box().Text(), BoxTextFromFile(file));
+      continue;
+    }
+    ASSERT_EQ(prompts.asked.size(), 1U) << told;
+    EXPECT_TRUE(prompts.asked[0].text.contains(told)) << prompts.asked[0].text.toStdString();
+    EXPECT_TRUE(prompts.asked[0].text.contains("Loquitor.Dic"));
+    EXPECT_EQ(Box().Text(), "");
+    Click("btnEraseBlank");
+    EXPECT_EQ(prompts.asked.size(), 2U);
+    EXPECT_TRUE(Saved() == file);
+  }
+}
+
+TEST_F(DictionaryEditor, AnImportEndsAtAWordThatTheBoxCannotDraw) {
+  OpenOn("[words]\r\na=\r\n");
+  GivenWordList("a first second " + std::string(3 * frmDictEdit::MaximumLineLength, 'x') + " last");
+  Click("btnReadTerms");
+  ASSERT_EQ(prompts.asked.size(), 2U);
+  EXPECT_TRUE(prompts.asked[0].text.contains("than the dictionary can take"));
+  EXPECT_EQ(prompts.asked[1].text, "2 Words added");
+  EXPECT_EQ(Box().Text(), "[words]\na=\nfirst=\nsecond=\n");
+}
+
 TEST_F(DictionaryEditor, CharactersOutsideTheCodePageAreRefused) {
   OpenOn("");
   QTest::keyClick(&Box(), Qt::Key_Z);

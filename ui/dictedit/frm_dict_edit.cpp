@@ -94,29 +94,45 @@ void frmDictEdit::FixBoxWidth() {
 
 void frmDictEdit::LoadDictionary() {
   const std::filesystem::path file = context_.dictionary.File();
-  std::error_code failure;
-  if (!std::filesystem::exists(file, failure) && !failure) {
+  std::error_code unknown;
+  if (!std::filesystem::exists(file, unknown) && !unknown) {
     TellOnceShown(QStringLiteral("There is no dictionary yet. Saving will create it as\r\n%1")
                       .arg(Shown(file)));
     return;
   }
-  isUnread_ = true;
-  if (std::filesystem::file_size(file, failure) > MaximumBytes && !failure) {
-    TellOnceShown(
-        QStringLiteral("The dictionary is too large to be edited here:\r\n%1").arg(Shown(file)));
-    return;
+  const QString failure = ShowDictionary(file);
+  isUnread_ = !failure.isEmpty();
+  if (isUnread_) {
+    TellOnceShown(failure.arg(Shown(file)));
   }
-  std::optional<std::string> bytes = ReadWholeFile(file);
+}
+
+/// Returns why the file cannot be shown (%1 stands for its name), or nothing.
+QString frmDictEdit::ShowDictionary(const std::filesystem::path& zFile) {
+  const QString tooLarge = QStringLiteral("The dictionary is too large to be edited here:\r\n%1");
+  std::error_code failure;
+  if (std::filesystem::file_size(zFile, failure) > MaximumBytes && !failure) {
+    return tooLarge;
+  }
+  std::optional<std::string> bytes = ReadWholeFile(zFile);
   if (!bytes) {
-    TellOnceShown(QStringLiteral("The dictionary cannot be read. Check whether you may read it:"
-                                 "\r\n%1")
-                      .arg(Shown(file)));
-    return;
+    return QStringLiteral("The dictionary cannot be read. Check whether you may read it:\r\n%1");
   }
-  isUnread_ = false;
   std::string text = BoxTextFromFile(*bytes);
   bytes.reset();
+  const TextExtent extent = ExtentOf(text);
+  if (extent.lines > MaximumLines) {
+    return tooLarge;
+  }
+  if (extent.longestLine > MaximumLineLength) {
+    return QStringLiteral(
+               "Line %2 of the dictionary is too long to be edited here; it must not "
+               "have more than %3 characters:\r\n%1")
+        .arg(QStringLiteral("%1"), QString::number(extent.longestAt),
+             QString::number(MaximumLineLength));
+  }
   history_->Load(std::move(text));
+  return {};
 }
 
 void frmDictEdit::TellOnceShown(const QString& zText) {
@@ -252,16 +268,22 @@ QString frmDictEdit::ImportFailure(WordImport& zImport) {
     if (IsUnloaded()) {
       return {};
     }
-    if (history_->Text().size() + zImport.Size() > MaximumBytes) {
+    if (IsTooMuch(zImport)) {
       return QStringLiteral(
-          "The word list has more words than the dictionary can take; only its "
-          "first words were added.");
+          "The word list has more words, or a longer one, than the dictionary can take; only the "
+          "words before were added.");
     }
   }
   zImport.Finish();
   return list.HasFailed() ? QStringLiteral("The word list %1 cannot be read or created in\r\n%2")
                                 .arg(WordListFile, QDir::currentPath())
                           : QString();
+}
+
+bool frmDictEdit::IsTooMuch(const WordImport& zImport) const {
+  return history_->Text().size() + zImport.AddedText().size() > MaximumBytes ||
+         static_cast<std::size_t>(txtDictionary_->blockCount()) + zImport.Count() > MaximumLines ||
+         zImport.UnfinishedSize() > MaximumLineLength;
 }
 
 }  // namespace loquitor

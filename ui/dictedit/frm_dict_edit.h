@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <string>
 
 #include "core/word_import.h"
@@ -17,8 +18,12 @@ namespace loquitor {
 class frmDictEdit : public ToolWindow {
   Q_OBJECT
  public:
-  /// Beyond this many bytes a dictionary is not shown, and an import ends.
+  /// What a dictionary may have that is shown; an import ends where there would be more. Beyond it
+  /// the box would need minutes and gigabytes: it takes about two seconds and 200 MB for a million
+  /// lines, and works out all of a line whenever it draws a part of it.
   static constexpr std::size_t MaximumBytes = std::size_t{64} << 20;
+  static constexpr std::size_t MaximumLines = 2'000'000;
+  static constexpr std::size_t MaximumLineLength = 65'536;
 
   frmDictEdit(QWidget* zOwner, const EditorContext& zContext);
 
@@ -36,6 +41,7 @@ class frmDictEdit : public ToolWindow {
   void ConnectControls();
   void FixBoxWidth();
   void LoadDictionary();
+  QString ShowDictionary(const std::filesystem::path& zFile);
   void TellOnceShown(const QString& zText);
   void SaveAndRewrite(QWidget* zButton, std::string (*zRewrite)(std::string));
   bool SaveText();
@@ -43,6 +49,7 @@ class frmDictEdit : public ToolWindow {
   void FindNext();
   void ShowSelection();
   QString ImportFailure(WordImport& zImport);
+  bool IsTooMuch(const WordImport& zImport) const;
 
   EditorContext context_;
   Form form_;
