@@ -20,6 +20,7 @@ struct Place {
 inline const std::string MainTitle = "Quenlith Phrase Translator for Orvatone  V.1.4";
 inline const std::string PhraseTitle = " Orvatone Phrase Editor";
 inline const std::string CodesTitle = "Orvatone Codes";
+inline const std::string DictionaryTitle = "Orvatone Dictionary Editor";
 
 /// The built program in a real X server, in a folder of its own, with a pseudo-terminal as the chip
 /// on port 1.
@@ -65,6 +66,7 @@ inline constexpr Place PhraseEditorButton{120, 120, 1995, 495};
 inline constexpr Place EepromEditorButton{2190, 120, 1995, 495};
 inline constexpr Place EventConfigButton{4260, 120, 1995, 495};
 inline constexpr Place SynthButton{120, 690, 1995, 495};
+inline constexpr Place DictionaryEditorButton{2190, 690, 1995, 495};
 inline constexpr Place CommunicationFrame{120, 1290, 4815, 855};
 inline constexpr Place PortBox{1200, 330, 435, 315};
 inline constexpr Place TestButton{1800, 300, 1875, 315};
@@ -81,6 +83,7 @@ inline constexpr Place PausesFrame{60, 60, 2055, 1665};
 inline constexpr Place Wait{1320, 360, 525, 255};
 inline constexpr Place CodesCopy{3825, 4770, 1695, 435};
 inline constexpr Place CodesDone{6120, 4770, 1155, 435};
+inline constexpr Place DictionarySave{9060, 6000, 1245, 435};
 }  // namespace place
 
 }  // namespace loquitor::testing

@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 
 #include "tests/e2e/loquitor_session.h"
 
@@ -145,6 +146,20 @@ TEST_F(LoquitorSession, APortThatCannotBeOpenedIsRedUntilTheNumberChanges) {
   ClickOn(mainWindow, place::TestButton, place::CommunicationFrame);
   AwaitBytes("\x1f\\0VX");
   EXPECT_TRUE(AwaitPortColour("00FF00"));
+}
+
+TEST_F(LoquitorSession, ASaveBeyondTheSystemsFileSizeIsToldAndHarmsNothing) {
+  const std::string before = ReadBytes(folder / "Loquitor.Dic");
+  StartLoquitor();
+  const rlimit tooSmall{8, RLIM_INFINITY};
+  ASSERT_EQ(prlimit(loquitor->Pid(), RLIMIT_FSIZE, &tooSmall, nullptr), 0);
+  ClickOn(mainWindow, place::DictionaryEditorButton);
+  const std::string editor = desktop.AwaitWindow(DictionaryTitle);
+  ASSERT_NE(editor, "");
+  ClickOn(editor, place::DictionarySave);
+  EXPECT_NE(desktop.AwaitWindow("Loquitor"), "");
+  EXPECT_TRUE(loquitor->IsRunning());
+  EXPECT_EQ(ReadBytes(folder / "Loquitor.Dic"), before);
 }
 
 }  // namespace

@@ -181,9 +181,10 @@ bool frmDictEdit::SaveText() {
   }
   if (!ReplaceFile(context_.dictionary.File(), FileBytesFromBox(history_->Text()))) {
     context_.prompts.Tell(
-        this, QStringLiteral("The dictionary could not be saved; the file is as it was, and your "
-                             "text is still here. Check the disk and whether you may write\r\n%1")
-                  .arg(Shown(context_.dictionary.File())));
+        this,
+        QStringLiteral("The dictionary could not be saved; the file is as it was, and your "
+                       "text is still here.\r\nCheck the disk and whether you may write\r\n%1")
+            .arg(Shown(context_.dictionary.File())));
     return false;
   }
   isUnread_ = false;

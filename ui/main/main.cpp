@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QIcon>
+#include <csignal>
 
 #include "link/program_folder.h"
 #include "link/qt/qt_serial_port.h"
@@ -16,10 +17,19 @@ QIcon ProgramIcon() {
   return icon;
 }
 
+/// A write beyond the system's limit for the size of a file fails, and is told, as on a full disk;
+/// otherwise it would end the program with all that is not saved.
+void OutliveWritesBeyondTheLimit() {
+#ifdef SIGXFSZ
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));  // cannot fail for a signal that exists
+#endif
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   loquitor::ReturnLargeBlocksAtOnce();
+  OutliveWritesBeyondTheLimit();
   QApplication application(argc, argv);
   QApplication::setApplicationName(loquitor::ApplicationTitle);
   QApplication::setApplicationVersion(QStringLiteral("1.4"));
