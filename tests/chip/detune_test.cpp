@@ -6,31 +6,19 @@ namespace loquitor {
 namespace {
 
 TEST(Detune, SendsOnlyBytesInHexadecimal) {
-  const struct {
-    const char* text;
-    const char* command;
-    bool isRefused;
-  } rows[] = {
-      {"&HFF", "\\0235J32HFFN", false},
-      {"&H10", "\\0235J32H10N", false},
-      {"&H5", "\\0235J32H05N", false},
-      {"&HZZ", "\\0235J32H00N", false},
-      {"&H", "\\0235J32H00N", false},
-      {"&Ha7x", "\\0235J32HA7N", false},
-      {"&H000FF", "\\0235J32HFFN", false},
-      {"&H100", "", true},
-      {"&H1FF", "", true},
-      {"&HFFFF", "", true},
-      {"&HFFFFFFFFFFFFFFFFFF", "", true},
-      {"255", "", false},
-      {"&hFF", "", false},
-      {"", "", false},
-      {" &HFF", "", false},
-  };
-  for (const auto& row : rows) {
-    const DetuneRequest request = ReadDetune(row.text);
-    EXPECT_EQ(request.command, row.command) << row.text;
-    EXPECT_EQ(request.isRefused, row.isRefused) << row.text;
+  for (const auto& [text, hex] : {std::pair("&HFF", "FF"),
+                                  {"&H10", "10"},
+                                  {"&H5", "05"},
+                                  {"&HZZ", "00"},
+                                  {"&H", "00"},
+                                  {"&Ha7x", "A7"},
+                                  {"&H000FF", "FF"}}) {
+    EXPECT_EQ(ReadDetune(text).command, std::string("\\0235J32H") + hex + "N") << text;
+    EXPECT_FALSE(ReadDetune(text).isRefused) << text;
+  }
+  for (const char* text : {"&H100", "&HFFFF", "&HFFFFFFFFFFFFFFFFFF", "255", "&hFF", "", " &HFF"}) {
+    EXPECT_EQ(ReadDetune(text).command, "") << text;
+    EXPECT_EQ(ReadDetune(text).isRefused, std::string_view(text).starts_with("&H")) << text;
   }
 }
 

@@ -1,12 +1,8 @@
 #include "ui/chip/frm_buttons.h"
 
 #include <QLabel>
-#include <QTest>
 #include <array>
-#include <map>
-#include <memory>
 
-#include "link/scp.h"
 #include "sim/virtual_chip.h"
 #include "tests/support/window_test.h"
 
@@ -14,41 +10,22 @@ namespace loquitor::testing {
 namespace {
 
 /// What the window sends when nothing was ever stored.
-std::string FirstUse() {
-  EventConfiguration configuration;
-  configuration.isAutoSilent = true;
-  return EventConfigurationString(configuration);
-}
+const std::string FirstUse =
+    R"(\0RX\0240J32HD0N\0241J32HD0N\0242J32HD0N\0243J32HD0N\0244J32HD0N\0245J32HD0N\0246J32HD0N)"
+    R"(\0247J32HD0N\0248J32HD0N\0249J32HD0N\0250J32HD0N\0251J32HD0N\0252J32HD0N\0253J32HD0N)"
+    R"(\0254J32HD0N\0255J32HD0N\0237J32HF0N\0238J32HC8N\0239J32H88N\0W)" +
+    std::string(5, '\0') + R"(\0VX)";
 
-class EventWindow : public WindowTest {
+class EventWindow : public ToolWindowTest {
  protected:
   void Stored(const std::string& zKey, std::string_view zValue) {
     ASSERT_TRUE(settings.SaveIniValue("EEPROM", zKey, zValue));
   }
-  void Open() {
-    window = std::make_unique<frmButtons>(nullptr, context);
-    window->Open();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  }
-  template <class T>
-  T* Find(const QString& zName) {
-    T* control = window->findChild<T*>(zName);
-    EXPECT_NE(control, nullptr) << zName.toStdString();
-    return control;
-  }
-  void Click(const QString& zName) {
-    auto* control = Find<QWidget>(zName);
-    QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
-  }
+  void OpenEvents() { Open<frmButtons>(); }
   void ClickCheck(const char* zStem, int zRow) {
-    QTest::mouseClick(Find<QWidget>(Indexed(zStem, zRow)), Qt::LeftButton);
+    QTest::mouseClick(Get(Indexed(zStem, zRow)), Qt::LeftButton);
   }
-  TextBox* Phrase(int zRow) { return Find<TextBox>(Indexed("txtPhrase", zRow)); }
-  void Type(TextBox* zBox, const QString& zText) {
-    zBox->setFocus();
-    zBox->selectAll();
-    QTest::keyClicks(zBox, zText);
-  }
+  void TypePhrase(int zRow, const QString& zText) { Type(Indexed("txtPhrase", zRow), zText); }
   std::string Written() {
     Click("btnWrite");
     return Sent();
@@ -56,60 +33,59 @@ class EventWindow : public WindowTest {
   std::vector<int> ChosenOptions() {
     std::vector<int> chosen;
     for (int index = 0; index < OptionCount; ++index) {
-      if (Find<OptionButton>(Indexed("optIO", index))->isChecked()) {
+      if (Get<OptionButton>(Indexed("optIO", index))->isChecked()) {
         chosen.push_back(index);
       }
     }
     return chosen;
   }
-
-  std::unique_ptr<frmButtons> window;
 };
 
 TEST_F(EventWindow, WritesTheDefaultsOnFirstUse) {
-  Open();
+  OpenEvents();
   EXPECT_EQ(window->windowTitle(), "Orvatone Event Configuration");
-  EXPECT_EQ(Find<QLabel>("Label1(16)")->text(), "Power up & Reset");
+  EXPECT_EQ(Get<QLabel>("Label1(16)")->text(), "Power up & Reset");
   EXPECT_TRUE(ChosenOptions().empty());
-  EXPECT_EQ(Written(), FirstUse());
+  EXPECT_EQ(Written(), FirstUse);
   EXPECT_FALSE(port.opened.at(0).hardwareHandshaking);
   EXPECT_EQ(host.longPhraseQuestions, 0);
 }
 
 TEST_F(EventWindow, TheChipThenHoldsWhatWasClickedAndTyped) {
-  Open();
+  OpenEvents();
   for (const char* stem : {"chPlay", "chClear", "chRestart"}) {
     ClickCheck(stem, 0);
   }
   ClickCheck("chInt", 1);
   ClickCheck("chPlay", 16);
-  Type(Phrase(0), "5");
-  Type(Phrase(1), "20");
-  Type(Phrase(16), "-1");
+  TypePhrase(0, "5");
+  TypePhrase(1, "20");
+  TypePhrase(15, "7");
+  TypePhrase(16, "-1");
   for (int index = 0; index < OptionCount; index += 2) {
     Click(Indexed("optIO", index));
   }
   Click("optIO(9)");
-  Type(Find<TextBox>("txtSCPNode"), "5");
+  Type("txtSCPNode", "5");
   VirtualChip chip;
   chip.Receive(Written());
   EXPECT_EQ(chip.Pending(), std::nullopt);
   const std::array<int, 19> expected{0x7F, 0xFB, 0xDF, 0x05, 0xF4, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0,
-                                     0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0};
+                                     0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD7};
   for (std::size_t at = 0; at < expected.size(); ++at) {
     EXPECT_EQ(chip.Eeprom(237 + static_cast<int>(at)), expected[at]) << at;
   }
 }
 
 TEST_F(EventWindow, ShowsTheNextRunWhatThisOneHeld) {
-  Open();
+  OpenEvents();
   for (int row = 0; row < InputEventCount; ++row) {
     ClickCheck(row % 2 == 0 ? "chPlay" : "chClear", row);
     ClickCheck(row % 3 == 0 ? "chInt" : "chRestart", row);
-    Type(Phrase(row), QString::number(15 - row));
+    TypePhrase(row, QString::number(15 - row));
   }
   ClickCheck("chPlay", 16);
-  Type(Phrase(16), "12.5");
+  TypePhrase(16, "12.5");
   for (const int option : {1, 2, 5, 6, 9, 10, 15}) {
     Click(Indexed("optIO", option));
   }
@@ -130,7 +106,7 @@ TEST_F(EventWindow, ShowsTheNextRunWhatThisOneHeld) {
                      "Out0On=True\r\nOut0Off=False\r\nOut1On=False\r\nOut1Off=False\r\n"
                      "Out2On=False\r\nOut2Off=True\r\nAutoSilence=0\r\n"))
       << file;
-  Open();
+  OpenEvents();
   EXPECT_EQ(ChosenOptions(), chosen);
   EXPECT_EQ(Written(), sent);
   window->close();
@@ -138,17 +114,11 @@ TEST_F(EventWindow, ShowsTheNextRunWhatThisOneHeld) {
 }
 
 TEST_F(EventWindow, ReadsStoredStatesAsTheyAreMeant) {
-  Stored("Play0", "2");
-  Stored("Clear0", "-1");
-  Stored("Restart0", "True");
-  Stored("Interupt0", "junk");
-  Stored("AutoSilence", "0");
-  Stored("In7RC", "true");
-  Stored("In7TTL", "1");  // both of a pair: the later one
-  Stored("Out0Chip", "-1");
-  Stored("Out0Phrase", "0");
-  Stored("Unknown", "kept");
-  Open();
+  WriteBytes(folder / "Loquitor.ini",
+             "[eeprom]\nPLAY0=2\nClear0=-1\nRestart0=True\nInterupt0=junk\nAutoSilence=0\n"
+             "In7RC=true\nIn7TTL=1\n"  // both of a pair: the later one
+             "Out0Chip=-1\nOut0Phrase=0\nUnknown=kept\n");
+  OpenEvents();
   EXPECT_EQ(ChosenOptions(), (std::vector<int>{1, 4}));
   const std::string sent = Written();
   EXPECT_TRUE(sent.starts_with(R"(\0RX\0240J32H00N)")) << sent;
@@ -159,86 +129,46 @@ TEST_F(EventWindow, ReadsStoredStatesAsTheyAreMeant) {
 }
 
 TEST_F(EventWindow, NormalisesANumberThatIsLeft) {
-  Open();
-  for (const auto& [typed, left] : std::map<QString, QString>{
-           {"7x", "7"}, {"12.5", "12.5"}, {"abc", "0"}, {".5", "0.5"}, {"1E3", "1000"}}) {
-    Type(Phrase(2), typed);
-    QTest::keyClick(Phrase(2), Qt::Key_Tab);
-    EXPECT_EQ(Phrase(2)->text(), left);
+  OpenEvents();
+  for (const auto& [typed, left] : {std::pair("7x", "7"), {"12.5", "12.5"}, {"abc", "0"}}) {
+    TypePhrase(2, typed);
+    QTest::keyClick(Get("txtPhrase(2)"), Qt::Key_Tab);
+    EXPECT_EQ(Get<TextBox>("txtPhrase(2)")->text(), left);
   }
 }
 
 TEST_F(EventWindow, NamesTheRowsWhoseNumbersCannotBeSent) {
-  const struct {
-    const char* key;
-    const char* value;
-    const char* row;
-  } rows[] = {{"PhraseToPlay3", "abc", "Input #1 - Goes Low: \"abc\""},
-              {"PhraseToPlay16", "7x", "Power up & Reset: \"7x\""},
-              {"PhraseToPlay0", "2147483648", "Input #0 - Goes High: \"2147483648\""}};
-  for (const auto& row : rows) {
-    Stored(row.key, row.value);
-    Open();
-    EXPECT_EQ(Written(), "");
-    ASSERT_EQ(prompts.asked.size(), 1U) << row.value;
-    EXPECT_TRUE(prompts.asked[0].text.contains(row.row)) << prompts.asked[0].text.toStdString();
-    EXPECT_TRUE(Find<QWidget>("btnWrite")->isEnabled());
-    window->close();
-    EXPECT_EQ(settings.GetIniValue("EEPROM", row.key, ""), row.value) << "stored as it is shown";
-    Stored(row.key, "0");
-    prompts.asked.clear();
-  }
-  Open();
-  Type(Find<TextBox>("txtSCPNode"), "99999999999");
+  Stored("PhraseToPlay0", "2147483648");
+  Stored("PhraseToPlay3", "abc");
+  Stored("PhraseToPlay16", "7x");
+  OpenEvents();
+  Type("txtSCPNode", "99999999999");
   EXPECT_EQ(Written(), "");
-  EXPECT_TRUE(prompts.asked.at(0).text.contains("SCP Node: \"99999999999\""));
-  Type(Find<TextBox>("txtSCPNode"), "node");
-  EXPECT_EQ(Written(), FirstUse()) << "no number means node 0";
-}
-
-TEST_F(EventWindow, ShutUpCutsAWriteAndClosingStopsIt) {
-  Open();
-  port.onByte = [this] {
-    if (port.written.size() == 30) {
-      EXPECT_FALSE(Find<QWidget>("btnWrite")->isEnabled());
-      Click("btnWrite");
-      Click("btnShutUp");
-    }
-  };
-  EXPECT_EQ(Written(), FirstUse().substr(0, 30) + StopSequence());
-  EXPECT_TRUE(Find<QWidget>("btnWrite")->isEnabled());
-  port.onByte = [this] {
-    if (port.written.size() == 30) {
-      window->close();
-    }
-  };
-  EXPECT_EQ(Written(), FirstUse().substr(0, 30));
-  EXPECT_EQ(settings.GetIniValue("EEPROM", "AutoSilence", ""), "1");
-}
-
-TEST_F(EventWindow, StaysUsableWhenThePortFails) {
-  Open();
-  port.bytesUntilFailure = 10;
-  EXPECT_EQ(Written().size(), 10U);
-  EXPECT_EQ(host.portState, PortState::Failed);
-  port.bytesUntilFailure = -1;
-  EXPECT_EQ(Written(), FirstUse());
+  EXPECT_EQ(prompts.asked.at(0).text,
+            "Nothing was sent, because this is no number that can be written:\r\n\r\n"
+            "Input #0 - Goes High: \"2147483648\"\r\nInput #1 - Goes Low: \"abc\"\r\n"
+            "Power up & Reset: \"7x\"\r\nSCP Node: \"99999999999\"\r\n\r\n"
+            "Type a phrase number from 0 to 15 (an SCP node from 0 to 7) and write again.");
+  EXPECT_TRUE(Get("txtPhrase(0)")->hasFocus());
+  EXPECT_TRUE(Get("btnWrite")->isEnabled());
+  Reopen<frmButtons>();
+  EXPECT_EQ(Get<TextBox>("txtPhrase(3)")->text(), "abc") << "stored as it was shown";
+  for (const char* row : {"txtPhrase(0)", "txtPhrase(3)", "txtPhrase(16)"}) {
+    Type(row, "0");
+  }
+  Type("txtSCPNode", "node");
+  EXPECT_EQ(Written(), FirstUse) << "no number means node 0";
 }
 
 TEST_F(EventWindow, TabsFromRowToRow) {
-  Open();
-  QStringList order;
-  for (QWidget* at = Find<QWidget>("chPlay(0)"); at->objectName() != "btnDone";
-       at = at->nextInFocusChain()) {
-    if ((at->focusPolicy() & Qt::TabFocus) != 0) {
-      order += at->objectName();
-    }
-  }
-  EXPECT_EQ(order.mid(0, 6).join(' '),
-            "chPlay(0) txtPhrase(0) chClear(0) chInt(0) chRestart(0) chPlay(1)");
-  EXPECT_EQ(order.mid(80).join(' '),
-            "chPlay(16) txtPhrase(16) txtSCPNode chAutoSil optIO(0) optIO(2) optIO(4) optIO(6) "
-            "optIO(8) optIO(10) optIO(12) optIO(14) btnWrite btnShutUp");
+  OpenEvents();
+  const QString order = TabOrder("chPlay(0)");
+  EXPECT_TRUE(order.startsWith("chPlay(0) txtPhrase(0) chClear(0) chInt(0) chRestart(0) chPlay(1)"))
+      << order.toStdString();
+  EXPECT_TRUE(order.endsWith(
+      "chPlay(16) txtPhrase(16) txtSCPNode chAutoSil optIO(0) optIO(2) optIO(4) optIO(6) optIO(8) "
+      "optIO(10) optIO(12) optIO(14) btnWrite btnShutUp btnDone"))
+      << order.toStdString();
 }
 
 }  // namespace

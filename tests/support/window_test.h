@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QTest>
+#include <memory>
+#include <stdexcept>
 #include <string>
 
 #include "core/code_table.h"
@@ -16,6 +18,8 @@
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/temp_folder.h"
 #include "ui/toolkit/editor_context.h"
+#include "ui/toolkit/text_box.h"
+#include "ui/toolkit/tool_window.h"
 
 namespace loquitor::testing {
 
@@ -44,6 +48,58 @@ class WindowTest : public ::testing::Test {
   ScriptedPrompts prompts;
   SharedState shared;
   EditorContext context{codeTable, translator, dictionary, settings, sender, prompts, shared};
+};
+
+/// A test of one window, with verbs for what its user does.
+class ToolWindowTest : public WindowTest {
+ protected:
+  template <class Window>
+  void Open() {
+    window = std::make_unique<Window>(nullptr, context);
+    window->Open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+  template <class Window>
+  void Reopen() {
+    window->close();
+    Open<Window>();
+  }
+
+  /// A control of the window; throws when there is none.
+  template <class T = QWidget>
+  T* Get(const QString& zName) {
+    T* control = window->findChild<T*>(zName);
+    if (control == nullptr) {
+      throw std::invalid_argument("no control " + zName.toStdString());
+    }
+    return control;
+  }
+
+  void Click(const QString& zName) {
+    auto* control = Get(zName);
+    QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
+  }
+  /// Types over what a box holds; the focus stays there.
+  void Type(const QString& zBox, const QString& zText) {
+    auto* box = Get<TextBox>(zBox);
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, zText);
+  }
+
+  /// The names of all Tab stops, from the given one on.
+  QString TabOrder(const QString& zFirst) {
+    QWidget* first = Get(zFirst);
+    QString order = zFirst;
+    for (QWidget* at = first->nextInFocusChain(); at != first; at = at->nextInFocusChain()) {
+      if ((at->focusPolicy() & Qt::TabFocus) != 0 && at != window.get()) {
+        order += ' ' + at->objectName();
+      }
+    }
+    return order;
+  }
+
+  std::unique_ptr<ToolWindow> window;
 };
 
 }  // namespace loquitor::testing
