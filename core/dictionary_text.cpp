@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "core/words.h"
 #include "link/letter_case.h"
 
 namespace loquitor {
@@ -15,14 +16,6 @@ constexpr std::string_view SectionLine = "[words]";
 /// How many bytes the line end at `zAt` takes: two for CR LF, else one.
 std::size_t LineEndLength(std::string_view zBytes, std::size_t zAt) {
   return zBytes.substr(zAt, 2) == "\r\n" ? 2 : 1;
-}
-
-std::string_view TrimSpaces(std::string_view zText) {
-  const std::size_t first = zText.find_first_not_of(' ');
-  if (first == std::string_view::npos) {
-    return {};
-  }
-  return zText.substr(first, zText.find_last_not_of(' ') - first + 1);
 }
 
 bool HasEntry(std::string_view zLine) {

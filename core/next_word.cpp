@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/words.h"
 #include "link/fresh_profile.h"
 #include "link/letter_case.h"
 #include "link/profile_lines.h"
@@ -28,13 +29,9 @@ int CompareInLowerCase(std::string_view zWord, std::string_view zLower) {
 /// What loading the blank-separated words of `zWords` makes of an empty Say Data.
 std::string SayDataOf(const ProfileIndex& zIndex, std::string_view zWords) {
   std::string sayData;
-  while (!zWords.empty()) {
-    const std::size_t end = std::min(zWords.find(' '), zWords.size());
-    sayData += DictionaryStore::EntryIn(zIndex, zWords.substr(0, end));
-    sayData += ' ';
-    zWords.remove_prefix(end);
-    zWords.remove_prefix(std::min(zWords.find_first_not_of(' '), zWords.size()));
-  }
+  ForEachWord(zWords, [&](std::string_view zWord) {
+    sayData.append(DictionaryStore::EntryIn(zIndex, zWord)).append(" ");
+  });
   return sayData;
 }
 

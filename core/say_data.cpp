@@ -5,6 +5,7 @@
 
 #include "core/expansion.h"
 #include "core/number_text.h"
+#include "core/words.h"
 
 namespace loquitor {
 
@@ -42,14 +43,6 @@ void AppendToken(std::string& zCodes, std::string_view zToken, const CodeTable& 
   }
 }
 
-std::string_view WithoutOuterBlanks(std::string_view zText) {
-  const std::size_t first = zText.find_first_not_of(' ');
-  if (first == std::string_view::npos) {
-    return {};
-  }
-  return zText.substr(first, zText.find_last_not_of(' ') - first + 1);
-}
-
 }  // namespace
 
 SayDataTranslator::SayDataTranslator(const CodeTable& zCodeTable,
@@ -65,11 +58,11 @@ std::string SayDataTranslator::ExpandSayData(std::string_view zSayData) const {
 
 std::string SayDataTranslator::MnemonicsToCodes(std::string_view zText) const {
   const std::string normalized = NormalizeCodeText(zText);
-  std::string_view rest = WithoutOuterBlanks(normalized);
+  std::string_view rest = TrimSpaces(normalized);
   std::string codes;
   while (!rest.empty()) {
     const std::size_t length = std::min(rest.find('\\', 1), rest.size());
-    AppendToken(codes, WithoutOuterBlanks(rest.substr(0, length)), codeTable_);
+    AppendToken(codes, TrimSpaces(rest.substr(0, length)), codeTable_);
     rest.remove_prefix(length);
   }
   return codes;

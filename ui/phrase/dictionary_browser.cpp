@@ -1,8 +1,10 @@
 #include "ui/phrase/dictionary_browser.h"
 
 #include <QPushButton>
+#include <QTextCursor>
 
 #include "core/next_word.h"
+#include "core/words.h"
 #include "ui/toolkit/busy.h"
 
 namespace loquitor {
@@ -33,10 +35,14 @@ void DictionaryBrowser::cmdLoadInsert_Click() {
   LoadDictWords();
 }
 
+/// One undoable step.
 void DictionaryBrowser::LoadDictWords() {
-  for (const std::string& word : SplitWords(txtDict_->Text())) {
-    emit InsertWanted(context_.dictionary.GetDictionaryValue(DictionaryStore::Section, word, ""));
-  }
+  QTextCursor step(txtSayData_->document());
+  step.beginEditBlock();
+  ForEachWord(txtDict_->Text(), [this](std::string_view zWord) {
+    emit InsertWanted(context_.dictionary.GetDictionaryValue(DictionaryStore::Section, zWord, ""));
+  });
+  step.endEditBlock();
   txtSayData_->setFocus();
 }
 
@@ -57,7 +63,11 @@ void DictionaryBrowser::btnNextWord_Click() {
     context_.prompts.Tell(window_, "Must select either With Data or Without Data or Both");
     return;
   }
-  if (!GetNextWord(mode)) {
+  const bool isFound = GetNextWord(mode);
+  if (!window_->isVisible()) {
+    return;  // closed by one of the events that were pending
+  }
+  if (!isFound) {
     context_.prompts.Tell(window_, NoWordNotice(mode));
   } else if (mode != NextWordMode::WithoutData) {
     emit SayWanted(context_.translator.ExpandSayData(txtSayData_->Text()));

@@ -1,5 +1,6 @@
 #include "ui/phrase/dictionary_words.h"
 
+#include "core/words.h"
 #include "link/letter_case.h"
 
 namespace loquitor {
@@ -36,29 +37,11 @@ NextWordMode NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTicked) {
   return zIsWithoutTicked ? NextWordMode::WithoutData : NextWordMode::None;
 }
 
-std::string_view TrimSpaces(std::string_view zText) {
-  const std::size_t first = zText.find_first_not_of(' ');
-  if (first == std::string_view::npos) {
-    return {};
-  }
-  return zText.substr(first, zText.find_last_not_of(' ') - first + 1);
-}
-
-std::vector<std::string> SplitWords(std::string_view zText) {
-  std::vector<std::string> words;
-  for (std::string_view rest = TrimSpaces(zText); !rest.empty(); rest = TrimSpaces(rest)) {
-    const std::string_view word = rest.substr(0, rest.find(' '));
-    words.emplace_back(word);
-    rest.remove_prefix(word.size());
-  }
-  return words;
-}
-
 std::string LoadedText(const DictionaryStore& zDictionary, std::string_view zText) {
   std::string text;
-  for (const std::string& word : SplitWords(zText)) {
-    text += zDictionary.GetDictionaryValue(DictionaryStore::Section, word, "") + " ";
-  }
+  ForEachWord(zText, [&](std::string_view zWord) {
+    text += zDictionary.GetDictionaryValue(DictionaryStore::Section, zWord, "") + " ";
+  });
   return text;
 }
 

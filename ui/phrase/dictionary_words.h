@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/dictionary_store.h"
 
@@ -19,12 +18,6 @@ enum class NextWordMode {
 };
 
 NextWordMode NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTicked);
-
-/// `zText` without the blanks (no other characters) around it.
-std::string_view TrimSpaces(std::string_view zText);
-
-/// The words of a dictionary box: what runs of blanks separate.
-std::vector<std::string> SplitWords(std::string_view zText);
 
 /// What loading the words of `zText` puts into an empty Say Data box: for each word its entry and
 /// one blank.
