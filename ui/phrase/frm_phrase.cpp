@@ -24,10 +24,10 @@ frmPhrase::frmPhrase(QWidget* zOwner, const EditorContext& zContext)
   AddControls();
   txtSayData_ = form_.Get<TextArea>("txtSayData");
   voice_ = new VoiceControls(form_, context_.codeTable, this);
-  auto* palette = new SoundPalette(this, form_, context_, *voice_);
+  palette_ = new SoundPalette(this, form_, context_, *voice_);
   auto* browser = new DictionaryBrowser(this, form_, context_);
   connect(voice_, &VoiceControls::InsertWanted, this, &frmPhrase::InsertIntoSayData);
-  connect(palette, &SoundPalette::InsertWanted, this, &frmPhrase::InsertIntoSayData);
+  connect(palette_, &SoundPalette::InsertWanted, this, &frmPhrase::InsertIntoSayData);
   connect(browser, &DictionaryBrowser::InsertWanted, this, &frmPhrase::InsertIntoSayData);
   connect(browser, &DictionaryBrowser::SayWanted, this, &frmPhrase::SayThisAllophoneList);
   ConnectButtons();
@@ -82,6 +82,7 @@ void frmPhrase::Load() {
 
 void frmPhrase::Activate() {
   txtSayData_->setFocus();
+  palette_->FocusRefusedBox();
 }
 
 void frmPhrase::bntSayIt_Click() {

@@ -57,6 +57,7 @@ class frmPhrase : public ToolWindow {
   const EditorContext context_;
   Form form_;
   VoiceControls* voice_ = nullptr;
+  SoundPalette* palette_ = nullptr;
   TextArea* txtSayData_ = nullptr;
 };
 

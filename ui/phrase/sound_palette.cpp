@@ -2,6 +2,7 @@
 
 #include <QMap>
 #include <optional>
+#include <utility>
 
 #include "ui/phrase/member_keys.h"
 #include "ui/phrase/sound_command.h"
@@ -112,8 +113,19 @@ bool SoundPalette::ConfirmWait() {
 }
 
 void SoundPalette::RefuseValue(const PaletteMember& zMember) {
-  ValueBoxOf(zMember)->SetBackground(RefusedColor);
+  refusedBox_ = ValueBoxOf(zMember);
+  refusedBox_->SetBackground(RefusedColor);
   context_.prompts.Tell(window_, ValueNotice(zMember));
+  if (window_->isActiveWindow()) {
+    FocusRefusedBox();
+  }
+}
+
+void SoundPalette::FocusRefusedBox() {
+  if (TextBox* box = std::exchange(refusedBox_, nullptr)) {
+    box->setFocus(Qt::OtherFocusReason);
+    box->selectAll();
+  }
 }
 
 TextBox* SoundPalette::ValueBoxOf(const PaletteMember& zMember) const {

@@ -23,6 +23,10 @@ class SoundPalette : public QObject {
   SoundPalette(QWidget* zWindow, const Form& zForm, const EditorContext& zContext,
                VoiceControls& zVoice);
 
+  /// Takes the user to the value box that has just been refused, if there is one. For the window,
+  /// which becomes active again when the message has been read.
+  void FocusRefusedBox();
+
  signals:
   /// `zText` is to be inserted into the Say Data.
   void InsertWanted(const std::string& zText);
@@ -41,6 +45,7 @@ class SoundPalette : public QObject {
   const Form form_;
   const EditorContext context_;
   VoiceControls& voice_;
+  TextBox* refusedBox_ = nullptr;  ///< until it has been given the focus
 };
 
 }  // namespace loquitor
