@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/phrase/phrase_window.h"
+#include "ui/phrase/dictionary_words.h"
 
 namespace loquitor::testing {
 namespace {
@@ -19,48 +20,34 @@ class DictionaryBrowserTest : public PhraseWindowTest {
     Tick("chkWith", zIsWith);
     Tick("chkWithout", zIsWithout);
   }
-  std::string Word() { return Box("txtDict")->Text(); }
 
   /// Presses the button and gives the word, the Say Data and what was said.
   std::string Step() {
     Press("btnNextWord");
-    return Word() + ": " + SayData() + ": " + Sent();
+    return Box("txtDict")->Text() + ": " + SayData() + ": " + Sent();
   }
 };
 
-TEST_F(DictionaryBrowserTest, LoadsWordsAtTheCaret) {
-  struct Case {
-    const char* words;
-    const char* before;
-    const char* after;
-  };
+TEST_F(DictionaryBrowserTest, LoadsWordsAtTheCaretOrInPlaceOfTheText) {
   GivenDictionary(Pets);
-  for (const Case& expected : {
-           Case{"cat  DOG ", "x |", "x \\KE \\AY \\DO |"},
-           Case{"cat", "a[b]c", "a\\KE \\AY |c"},
-           Case{"dog nothing", "x|  y", "x  \\DO  |y"},
-           Case{"  ", "x|", "x|"},
-       }) {
-    GivenSayData(expected.before);
-    Type("txtDict", expected.words);
-    Press("cmdLoadInsert");
-    EXPECT_EQ(SayData(), expected.after) << expected.words;
+  for (const auto& [button, words, before, after] :
+       Rows<const char*, const char*, const char*, const char*>{
+           {"cmdLoadInsert", "cat  DOG ", "x |", "x \\KE \\AY \\DO |"},
+           {"cmdLoadInsert", "cat dog", "a[b]  c", "a\\KE \\AY   \\DO |c"},
+           {"cmdLoadInsert", "dog nothing", "x|  y", "x  \\DO  |y"},
+           {"cmdLoadOver", "cat dog", "old |text", "\\KE \\AY \\DO |"},
+           {"cmdLoadOver", "nothing", "old |text", " |"},
+           {"cmdLoadOver", "", "old |text", "|"}}) {
+    GivenSayData(before);
+    const std::string text = SayDataBox()->Text();
+    Type("txtDict", words);
+    Press(button);
+    EXPECT_EQ(SayData(), after) << words;
     EXPECT_TRUE(SayDataBox()->hasFocus());
+    SayDataBox()->undo();
+    EXPECT_EQ(SayDataBox()->Text(), text) << "one step back from " << after;
   }
   EXPECT_EQ(Sent(), "");
-}
-
-TEST_F(DictionaryBrowserTest, LoadsWordsInPlaceOfTheText) {
-  GivenDictionary(Pets);
-  for (const auto& [words, after] :
-       {std::pair{"cat dog", "\\KE \\AY \\DO |"}, std::pair{"nothing", " |"}, std::pair{"", "|"}}) {
-    GivenSayData("old |text");
-    Type("txtDict", words);
-    Press("cmdLoadOver");
-    EXPECT_EQ(SayData(), after) << words;
-    SayDataBox()->undo();
-    EXPECT_EQ(SayDataBox()->Text(), "old text") << "one step back";
-  }
 }
 
 TEST_F(DictionaryBrowserTest, StepsThroughAllWordsAndSaysThem) {
@@ -71,10 +58,8 @@ TEST_F(DictionaryBrowserTest, StepsThroughAllWordsAndSaysThem) {
   EXPECT_EQ(Step(), "apple:  |: ") << "the first follows the last";
   Type("txtDict", "BOY");
   EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84") << "from a word that is not there";
-  Type("txtDict", "zzzzzzzzz!!!");
-  EXPECT_EQ(Step(), "apple:  |: ");
   Tick("chkApplyControlsBeforeSayData", true);
-  EXPECT_EQ(Step(), "cat: \\KE \\AY |: " + DefaultPrefix + "\xC2\x84");
+  EXPECT_EQ(Step(), "dog: \\DO |: " + DefaultPrefix + "\xAF");
 }
 
 TEST_F(DictionaryBrowserTest, StepsToWordsWithOrWithoutData) {
@@ -91,30 +76,35 @@ TEST_F(DictionaryBrowserTest, StepsToWordsWithOrWithoutData) {
   EXPECT_EQ(Step(), "apple:  |: ");
 }
 
+TEST(DictionaryWords, AreFoundByTheCapitalsOfAText) {
+  for (const auto& [sayData, findWith, isWanted] :
+       Rows<const char*, const char*, bool>{{"\\IY \\EH ", "\\eh", true},
+                                            {"\\iy ", "\\iy", false},
+                                            {"\xC9 ", "\xE9", true},
+                                            {"\x8A\x9F ", "\x9A\xFF", true}}) {
+    EXPECT_EQ(IsWanted(NextWordMode::WithData, sayData, findWith), isWanted) << findWith;
+    EXPECT_TRUE(IsWanted(NextWordMode::Any, sayData, findWith)) << "no matter in other modes";
+  }
+}
+
 TEST_F(DictionaryBrowserTest, EndsASearchThatCannotSucceed) {
-  struct Case {
-    const char* entries;
-    bool isWith;
-    bool isWithout;
-    const char* message;
-  };
-  for (const Case& expected : {
-           Case{nullptr, true, true, "no words"},
-           Case{"zzzzzzzzzz=\\IY\r\n", true, true, "no words"},
-           Case{"a=\r\nb=\r\n", true, false, "has data"},
-           Case{"a=x\r\nb=y\r\n", false, true, "has data"},
-           Case{"a=x\r\n", false, false, "Must select either With Data or Without Data or Both"},
-       }) {
-    if (expected.entries != nullptr) {  // else there is no file yet
-      GivenDictionary(expected.entries);
+  for (const auto& [entries, isWith, isWithout, message] :
+       Rows<const char*, bool, bool, const char*>{
+           {nullptr, true, true, "no words"},
+           {"zzzzzzzzzz=\\IY\r\n", true, true, "no words"},
+           {"a=\r\nb=\r\n", true, false, "has data"},
+           {"a=x\r\nb=y\r\n", false, true, "has data"},
+           {"a=x\r\n", false, false, "Must select either With Data or Without Data or Both"}}) {
+    if (entries != nullptr) {  // else there is no file yet
+      GivenDictionary(entries);
     }
-    GivenModes(expected.isWith, expected.isWithout);
+    GivenModes(isWith, isWithout);
     GivenSayData("as it [was]");
     Type("txtDict", "A word ");
     prompts.asked.clear();
-    EXPECT_EQ(Step(), "A word : as it [was]: ") << expected.message;
+    EXPECT_EQ(Step(), "A word : as it [was]: ") << message;
     ASSERT_EQ(prompts.asked.size(), 1u);
-    EXPECT_THAT(prompts.asked[0].text.toStdString(), HasSubstr(expected.message));
+    EXPECT_THAT(prompts.asked[0].text.toStdString(), HasSubstr(message));
     EXPECT_EQ(prompts.asked[0].title, "Loquitor");
     EXPECT_EQ(prompts.asked[0].buttons, PromptButtons::Ok);
   }
@@ -132,24 +122,25 @@ TEST_F(DictionaryBrowserTest, SavesTheSayDataUnderTheWord) {
   EXPECT_EQ(ReadBytes(dictionary.File()),
             "[words]\r\ndog=\\DE\r\nCat=\\KE \\AY\r\napple=\r\nHello=\\HE \\EH \\LO \\OW\r\n");
   EXPECT_TRUE(prompts.asked.empty());
-  GivenSayData("|");
-  Type("txtDict", "hello dog");
-  Press("bntSayIt");
-  Press("cmdLoadInsert");
-  EXPECT_EQ(SayData(), "\\HE \\EH \\LO \\OW \\DE |");
 }
 
-TEST_F(DictionaryBrowserTest, SavesNothingUnderAWordThatCannotBeHeld) {
-  GivenDictionary(Pets);
-  for (const auto& [word, messages] :
-       {std::pair{"   ", 0u}, std::pair{"two words", 1u}, std::pair{"a=b", 1u}}) {
+TEST_F(DictionaryBrowserTest, SavesNothingUnderAWordThatTheFileCannotHold) {
+  for (const auto& [word, problem] :
+       Rows<const char*, const char*>{{"   ", nullptr},
+                                      {"two words", "Cannot save mutil-word"},
+                                      {"a=b", "equals sign (=)"},
+                                      {"[words]", "begin with ["},
+                                      {";word", "begin with ;"}}) {
+    GivenDictionary(Pets);
     prompts.asked.clear();
     Type("txtDict", word);
     Press("cmdSave");
-    EXPECT_EQ(prompts.asked.size(), messages) << word;
+    EXPECT_EQ(prompts.asked.size(), problem == nullptr ? 0u : 1u) << word;
+    EXPECT_TRUE(problem == nullptr || prompts.asked.at(0).text.contains(problem)) << word;
     EXPECT_EQ(ReadBytes(dictionary.File()), std::string("[words]\r\n") + Pets) << word;
     EXPECT_TRUE(SayDataBox()->hasFocus());
   }
+  EXPECT_EQ(RefusalOfWord("a]b[;"), std::nullopt);
 }
 
 }  // namespace

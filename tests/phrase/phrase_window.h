@@ -9,6 +9,7 @@
 #include <string>
 
 #include "tests/support/real_mouse.h"
+#include "tests/support/rows.h"
 #include "tests/support/window_test.h"
 #include "ui/phrase/frm_phrase.h"
 #include "ui/toolkit/check_box.h"
@@ -73,6 +74,7 @@ class PhraseWindowTest : public WindowTest {
       QDialog box(window.get());
       QTimer::singleShot(200, &box, &QDialog::reject);
       box.exec();
+      window->activateWindow();  // as the window manager does
     };
   }
 
@@ -92,10 +94,8 @@ class PhraseWindowTest : public WindowTest {
   void Type(const char* zBox, const char* zText) {
     Box(zBox)->setFocus();
     Box(zBox)->selectAll();
+    QTest::keyClick(Box(zBox), Qt::Key_Delete);
     QTest::keyClicks(Box(zBox), zText);
-    if (*zText == '\0') {
-      QTest::keyClick(Box(zBox), Qt::Key_Delete);
-    }
   }
 
   /// The Say Data with the selection in brackets, or the caret as a bar.

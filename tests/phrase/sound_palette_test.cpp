@@ -1,28 +1,53 @@
+#include "ui/phrase/sound_palette.h"
+
 #include <gmock/gmock.h>
 
 #include "tests/phrase/phrase_window.h"
+#include "ui/phrase/sound_command.h"
 
 namespace loquitor::testing {
 namespace {
 
-using ::testing::ElementsAre;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
 
 class SoundPaletteTest : public PhraseWindowTest {
  protected:
   void SetUp() override { Open(); }
 };
 
+TEST(SoundCommand, ReadsAValueBoxAsAByte) {
+  constexpr int None = -1;
+  for (const auto& [text, byte] : Rows<const char*, int>{{"", 0},
+                                                         {"7abc", 7},
+                                                         {"2.5", 2},
+                                                         {"3.5", 4},
+                                                         {" 2 5 5 ", 255},
+                                                         {"&HfF", 255},
+                                                         {"-0.5", 0},
+                                                         {"255.4", 255},
+                                                         {"255.5", None},
+                                                         {"256", None},
+                                                         {"-1", None},
+                                                         {"1E999", None}}) {
+    const std::optional<std::uint8_t> read = ValueByte(text);
+    EXPECT_EQ(read ? *read : None, byte) << text;
+  }
+}
+
 TEST_F(SoundPaletteTest, PlaysWhatIsClicked) {
-  struct Case {
-    const char* caption;
-    std::string behindPrefix;
-  };
-  for (const Case& expected :
-       {Case{"IY", "\x80"}, Case{"P0", std::string(1, '\0')}, Case{"D11", "\xFB"},
-        Case{"Call", std::string("\x1C\0", 2)}, Case{"PCtrl", "\x18\x07"},
-        Case{"Delay", "\x1E\x64"}, Case{"Stress", "\x0E"}}) {
-    Click(expected.caption);
-    EXPECT_EQ(Sent(), DefaultPrefix + expected.behindPrefix) << expected.caption;
+  Type("txtPlay", "3.5");
+  for (const auto& [caption, codes] :
+       Rows<const char*, std::string>{{"IY", "\x80"},
+                                      {"P0", std::string(1, '\0')},
+                                      {"D11", "\xFB"},
+                                      {"Call", std::string("\x1C\0", 2)},
+                                      {"Play", "\x1D\x04"},
+                                      {"PCtrl", "\x18\x07"},
+                                      {"Delay", "\x1E\x64"},
+                                      {"Stress", "\x0E"}}) {
+    Click(caption);
+    EXPECT_EQ(Sent(), DefaultPrefix + codes) << caption;
   }
   Tick("chkApplyControlsBeforeSounds", false);
   Click("IY");
@@ -37,7 +62,6 @@ TEST_F(SoundPaletteTest, SendsTheSoundAfterARepeatWithoutPrefix) {
   EXPECT_EQ(Sent(), "\x1A\x05") << "a repeat after a repeat";
   Press("bntSayIt");
   EXPECT_EQ(Sent(), DefaultPrefix) << "Say Data goes by its own check box";
-  window.reset();
   Open();
   Click("OW");
   EXPECT_EQ(Sent(), "\x89") << "the flag outlives the window";
@@ -58,39 +82,40 @@ TEST_F(SoundPaletteTest, SendsTheSettingsAsTheyWereBeforeANoteOrAReset) {
 }
 
 TEST_F(SoundPaletteTest, RefusesAValueOutsideAByteButInsertsIt) {
-  Click("Repeat");
-  Sent();
+  shared.SkipControlsOnce = true;
   Type("txtCall", " 256x");
+  SayDataBox()->setFocus();
   GivenBoxesThatSwallowClicks();
   DoubleClick("Call");
   EXPECT_EQ(Sent(), "");
   ASSERT_EQ(prompts.asked.size(), 1u);
-  EXPECT_TRUE(prompts.asked[0].text.contains("Call"));
-  EXPECT_TRUE(prompts.asked[0].text.contains("0 to 255"));
+  EXPECT_THAT(prompts.asked[0].text.toStdString(), AllOf(HasSubstr("Call"), HasSubstr("0 to 255")));
   EXPECT_TRUE(Box("txtCall")->Background().isValid()) << "the box is marked";
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Box("txtCall")->hasFocus(); }));
   EXPECT_EQ(SayData(), "\\Call \\ 256x |");
   EXPECT_FALSE(shared.SkipControlsOnce) << "the click has used it up";
-  Type("txtCall", "255");
+  QTest::keyClicks(QApplication::focusWidget(), "255");
   EXPECT_FALSE(Box("txtCall")->Background().isValid());
   Click("Call");
   EXPECT_EQ(Sent(), DefaultPrefix + "\x1C\xFF");
+  prompts.whileOpen();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return SayDataBox()->hasFocus(); }))
+      << "as whenever the window becomes the active one";
 }
 
 TEST_F(SoundPaletteTest, PlaysOnceAndInsertsOnceAtADoubleClick) {
-  struct Case {
-    const char* caption;
-    std::string sent;
-    const char* inserted;
-  };
-  for (const Case& expected : {Case{"IY", "\x80", "\\IY |"}, Case{"NTC#1", "\x16\x23", "\\NTC#1 |"},
-                               Case{"POut", "\x19\x07", "\\POut \\7 |"}}) {
-    for (const int milliseconds : {50, 300}) {
-      Press("btnClear");
-      Get<ScrollBar>("scPitch")->setValue(88);
-      DoubleClick(expected.caption, milliseconds);
-      EXPECT_EQ(Sent(), DefaultPrefix + expected.sent) << expected.caption;
-      EXPECT_EQ(SayData(), expected.inserted);
-    }
+  for (const auto& [caption, codes, inserted, milliseconds] :
+       Rows<const char*, std::string, const char*, int>{
+           {"IY", "\x80", "\\IY |", 50},
+           {"IY", "\x80", "\\IY |", 300},
+           {"NTC#1", "\x16\x23", "\\NTC#1 |", 100},
+           {"POut", "\x19\x07", "\\POut \\7 |", 200}}) {
+    Press("btnClear");
+    Press("bntSayIt");
+    const std::string prefix = Sent();
+    DoubleClick(caption, milliseconds);
+    EXPECT_EQ(Sent(), prefix + codes) << caption;
+    EXPECT_EQ(SayData(), inserted);
   }
 }
 
@@ -116,6 +141,7 @@ TEST_F(SoundPaletteTest, AsksAboutWaitOnceAtAClickAndAtADoubleClick) {
       ASSERT_TRUE(QTest::qWaitFor([this] { return prompts.answers.empty(); }));
       ASSERT_EQ(prompts.asked.size(), 1u);
       EXPECT_EQ(prompts.asked[0].title, "Notice");
+      EXPECT_EQ(prompts.asked[0].text.split("\r\n").size(), 13);
       EXPECT_EQ(prompts.asked[0].buttons, PromptButtons::OkCancel);
       EXPECT_EQ(Sent(), answer == PromptAnswer::Ok ? DefaultPrefix + "\x10" : "");
       EXPECT_EQ(SayData(), isDouble ? "\\Wait |" : "|");
@@ -124,20 +150,18 @@ TEST_F(SoundPaletteTest, AsksAboutWaitOnceAtAClickAndAtADoubleClick) {
 }
 
 TEST_F(SoundPaletteTest, LeavesTheCaretInTheSayDataWhenItIsClicked) {
-  SayDataBox()->setFocus();
   Click("IY");
   QTest::keyClicks(QApplication::focusWidget(), "x");
   EXPECT_EQ(SayData(), "x|");
 }
 
-class PaletteKeysTest : public PhraseWindowTest {
+class PaletteKeysTest : public SoundPaletteTest {
  protected:
-  void SetUp() override { Open(); }
-
   void Focus(const char* zFrame) { Get<QWidget>(zFrame)->setFocus(Qt::TabFocusReason); }
   void Key(Qt::Key zKey, Qt::KeyboardModifiers zModifiers = Qt::NoModifier) {
     QTest::keyClick(QApplication::focusWidget(), zKey, zModifiers);
   }
+  QImage Picture(const char* zCaption) { return Member(zCaption)->grab().toImage(); }
 };
 
 TEST_F(PaletteKeysTest, MovePlayAndInsert) {
@@ -150,33 +174,28 @@ TEST_F(PaletteKeysTest, MovePlayAndInsert) {
   Key(Qt::Key_Down);
   Key(Qt::Key_Insert);
   EXPECT_EQ(Sent(), "") << "inserting plays nothing";
-  EXPECT_EQ(SayData(), "\\UH |");
   Key(Qt::Key_End);
   Key(Qt::Key_Enter, Qt::ControlModifier);
   EXPECT_EQ(SayData(), "\\UH \\AW |");
   EXPECT_TRUE(Get<QWidget>("Frame1")->hasFocus());
-}
-
-TEST_F(PaletteKeysTest, StartAtTheMemberClickedLast) {
   Click("EB");
   Sent();
   Focus("Frame5");
   Key(Qt::Key_Enter);
-  EXPECT_EQ(Sent(), DefaultPrefix + "\xAC");
+  EXPECT_EQ(Sent(), DefaultPrefix + "\xAC") << "starts at the member clicked last";
 }
 
-TEST_F(PaletteKeysTest, MarkTheCurrentMemberVisibly) {
-  const auto picture = [this](const char* zCaption) { return Member(zCaption)->grab().toImage(); };
-  const QImage plain = picture("IY");
+TEST_F(PaletteKeysTest, MarkTheCurrentMemberVisiblyAndDescribeIt) {
+  const QImage plain = Picture("IY");
   Focus("Frame1");
-  const QImage marked = picture("IY");
-  EXPECT_NE(marked, plain);
+  EXPECT_NE(Picture("IY"), plain);
   Key(Qt::Key_Right);
-  EXPECT_EQ(picture("IY"), plain);
-  EXPECT_EQ(picture("IY").size(), marked.size());
+  EXPECT_EQ(Picture("IY"), plain);
+  const QImage marked = Picture("UW");
   Focus("Frame2");
-  EXPECT_NE(picture("JH"), plain);
-  EXPECT_EQ(picture("IY"), plain);
+  EXPECT_NE(Picture("UW"), marked);
+  EXPECT_EQ(Member("IY")->accessibleName(), "IY");
+  EXPECT_EQ(Member("IY")->accessibleDescription(), "See, Even, Feed");
 }
 
 TEST_F(PaletteKeysTest, ReachTheVoiceLabelsAndReset) {
@@ -188,50 +207,34 @@ TEST_F(PaletteKeysTest, ReachTheVoiceLabelsAndReset) {
   Key(Qt::Key_Down);
   Key(Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(SayData(), "\\VOLUME \\96 \\PITCH \\88 |");
-  Key(Qt::Key_Down);
-  Key(Qt::Key_Right);
+  Key(Qt::Key_End);
   Key(Qt::Key_Space);
   EXPECT_EQ(Sent(), DefaultPrefix + "\x1F");
 }
 
 TEST_F(PaletteKeysTest, AreLeftAloneInAValueBox) {
   Type("txtCall", "1 2");
-  Key(Qt::Key_Return);
-  Key(Qt::Key_Insert);
-  Key(Qt::Key_Down);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Insert, Qt::Key_Down}) {
+    Key(key);
+  }
   EXPECT_EQ(Sent(), "");
   EXPECT_EQ(SayData(), "|");
   EXPECT_EQ(Box("txtCall")->Text(), "1 2");
 }
 
 TEST_F(PaletteKeysTest, StopOnceInEachFrameInTheOrderOfTheEye) {
-  std::vector<std::string> stops;
-  SayDataBox()->setFocus();
+  std::string stops;
   do {
-    stops.push_back(QApplication::focusWidget()->objectName().toStdString());
+    stops += QApplication::focusWidget()->objectName().toStdString() + " ";
     Key(Qt::Key_Tab);
-  } while (QApplication::focusWidget() != SayDataBox() && stops.size() < 100);
-  EXPECT_THAT(
-      stops,
-      ElementsAre("txtSayData", "bntSayIt", "btnSaySelection", "btnClear", "btnCodes", "Command2",
-                  "txtDict", "cmdLoadOver", "cmdLoadInsert", "btnNextWord", "chkWith", "chkWithout",
-                  "cmdSave", "btnShutUp", "btnDone", "Frame14", "TxtDelay", "Frame1", "Frame4",
-                  "Frame3", "Frame12", "Frame2", "Frame5", "Frame6", "Frame7", "Frame13", "Frame8",
-                  "Frame16", "txtCall", "txtPlay", "txtPCtrl", "txtPOut", "Frame9", "txtVolume",
-                  "scVolume", "txtSpeed", "scSpeed", "txtPitch", "scPitch", "txtBend", "scBend",
-                  "chkApplyControlsBeforeSounds", "chkApplyControlsBeforeSayData", "Frame11",
-                  "txtRepeat"));
-}
-
-TEST_F(PaletteKeysTest, HaveNamesForAssistivePrograms) {
-  EXPECT_EQ(Member("IY")->accessibleName(), "IY");
-  EXPECT_EQ(Member("IY")->accessibleDescription(), "See, Even, Feed");
-  EXPECT_EQ(Member("NTC1")->accessibleDescription(), "Set the Pitch to the Frequency for C1");
-  for (QWidget* control : window->findChildren<QWidget*>()) {
-    if (control->focusPolicy() != Qt::NoFocus && !control->objectName().startsWith("qt_")) {
-      EXPECT_NE(control->accessibleName(), "") << control->objectName().toStdString();
-    }
-  }
+  } while (QApplication::focusWidget() != SayDataBox() && stops.size() < 2000);
+  EXPECT_EQ(stops,
+            "txtSayData bntSayIt btnSaySelection btnClear btnCodes Command2 "
+            "txtDict cmdLoadOver cmdLoadInsert btnNextWord chkWith chkWithout cmdSave "
+            "btnShutUp btnDone Frame14 TxtDelay Frame1 Frame4 Frame3 Frame12 "
+            "Frame2 Frame5 Frame6 Frame7 Frame13 Frame8 Frame16 txtCall txtPlay txtPCtrl txtPOut "
+            "Frame9 txtVolume scVolume txtSpeed scSpeed txtPitch scPitch txtBend scBend "
+            "chkApplyControlsBeforeSounds chkApplyControlsBeforeSayData Frame11 txtRepeat ");
 }
 
 }  // namespace

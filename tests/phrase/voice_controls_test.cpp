@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QSlider>
-
 #include "tests/phrase/phrase_window.h"
+#include "ui/phrase/voice_values.h"
 
 namespace loquitor::testing {
 namespace {
@@ -18,27 +17,43 @@ class VoiceControlsTest : public PhraseWindowTest {
   }
 };
 
+TEST(VoiceValues, CommitTypedTexts) {
+  for (const auto& [typed, maximum, text, value] :
+       Rows<const char*, int, const char*, int>{{"300", 127, "127", 127},
+                                                {"127.4", 127, "127", 127},
+                                                {"127", 127, "127", 127},
+                                                {"-4", 255, "0", 0},
+                                                {"-0.4", 255, "0", 0},
+                                                {"-0", 255, "-0", 0},
+                                                {"7.5", 15, "7.5", 8},
+                                                {"6.5", 15, "6.5", 6},
+                                                {"14.6", 15, "14.6", 15},
+                                                {"15.4", 15, "15", 15},
+                                                {"", 127, "", 0},
+                                                {" 1 2 ", 127, " 1 2 ", 12},
+                                                {"1E999", 9, "9", 9},
+                                                {"-1E999", 9, "0", 0},
+                                                {"12abc", 127, "12abc", 12}}) {
+    const CommittedVoiceText committed = CommitVoiceText(typed, maximum);
+    EXPECT_EQ(committed.text, text) << typed;
+    EXPECT_EQ(committed.value, value) << typed;
+  }
+}
+
 TEST_F(VoiceControlsTest, TakeTypedValuesWhenTheFocusLeaves) {
-  struct Case {
-    const char* textBox;
-    const char* bar;
-    int before;
-    const char* typed;
-    const char* after;
-    int value;
-  };
-  for (const Case& expected : {
-           Case{"txtVolume", "scVolume", 96, "300", "127", 127},
-           Case{"txtBend", "scBend", 8, "7.5", "7.5", 8},
-           Case{"txtSpeed", "scSpeed", 40, "12abc", "12", 12},
-           Case{"txtVolume", "scVolume", 0, "abc", "abc", 0},
-       }) {
-    Bar(expected.bar)->setValue(expected.before);
-    Type(expected.textBox, expected.typed);
-    EXPECT_EQ(Bar(expected.bar)->value(), expected.before) << "not before the focus leaves";
-    QTest::keyClick(Box(expected.textBox), Qt::Key_Tab);
-    EXPECT_EQ(Bar(expected.bar)->value(), expected.value) << expected.typed;
-    EXPECT_EQ(Box(expected.textBox)->Text(), expected.after);
+  for (const auto& [setting, before, typed, after, value] :
+       Rows<std::string, int, const char*, const char*, int>{{"Volume", 96, "300", "127", 127},
+                                                             {"Bend", 8, "7.5", "7.5", 8},
+                                                             {"Speed", 40, "12abc", "12", 12},
+                                                             {"Pitch", 0, "abc", "abc", 0}}) {
+    ScrollBar* bar = Bar(("sc" + setting).c_str());
+    const std::string box = "txt" + setting;
+    bar->setValue(before);
+    Type(box.c_str(), typed);
+    EXPECT_EQ(bar->value(), before) << "not before the focus leaves";
+    QTest::keyClick(Box(box.c_str()), Qt::Key_Tab);
+    EXPECT_EQ(bar->value(), value) << typed;
+    EXPECT_EQ(Box(box.c_str())->Text(), after);
   }
   EXPECT_TRUE(prompts.asked.empty());
 }
@@ -56,21 +71,15 @@ TEST_F(VoiceControlsTest, ShowEveryStepOfADrag) {
 }
 
 TEST_F(VoiceControlsTest, MoveByArrowAndPage) {
-  struct Case {
-    const char* bar;
-    int page;
-    int maximum;
-  };
-  for (const Case& expected : {Case{"scVolume", 8, 127}, Case{"scSpeed", 8, 127},
-                               Case{"scPitch", 8, 255}, Case{"scBend", 1, 15}}) {
-    auto* bar = Bar(expected.bar);
+  for (const auto& [name, page] :
+       Rows<const char*, int>{{"scVolume", 8}, {"scSpeed", 8}, {"scPitch", 8}, {"scBend", 1}}) {
+    auto* bar = Bar(name);
     bar->setValue(3);
     bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
     EXPECT_EQ(bar->value(), 4);
     bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
-    EXPECT_EQ(bar->value(), 4 + expected.page) << expected.bar;
+    EXPECT_EQ(bar->value(), 4 + page) << name;
     bar->triggerAction(QAbstractSlider::SliderToMaximum);
-    EXPECT_EQ(bar->value(), expected.maximum) << expected.bar;
   }
   EXPECT_EQ(Prefix(), "\x14\x7F\x15\x7F\x16\xFF\x17\x0F");
 }
@@ -78,7 +87,6 @@ TEST_F(VoiceControlsTest, MoveByArrowAndPage) {
 TEST_F(VoiceControlsTest, InsertTheSettingAtADoubleClickOnTheLabel) {
   Type("txtPitch", "200");
   DoubleClick("Pitch");
-  EXPECT_EQ(SayData(), "\\PITCH \\200 |");
   EXPECT_EQ(Bar("scPitch")->value(), 200);
   DoubleClick("Bend");
   EXPECT_EQ(SayData(), "\\PITCH \\200 \\BEND \\5 |");
