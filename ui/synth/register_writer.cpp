@@ -30,7 +30,7 @@ void RegisterWriter::SendPostponed() {
 
 void RegisterWriter::StopSending() {
   sender_.ClearPendingOutput();
-  waiting_.reset();
+  last_.reset();
   cut_.reset();
   postponed_.clear();
 }
@@ -50,11 +50,11 @@ void RegisterWriter::Send(Registers zRegister, std::string_view zText) {
   if (hasGivenUp_) {
     return;
   }
-  if (sender_.PendingOutput().empty()) {
-    waiting_.reset();
+  if (!sender_.PendingOutput().empty()) {
+    cut_ |= last_;
   }
-  cut_ = (cut_ | waiting_) & ~zRegister;
-  waiting_ |= zRegister;
+  cut_ &= ~zRegister;
+  last_ = zRegister;
   lastSend_ = sender_.SendCount() + 1;
   ++depth_;
   sender_.SendCodesToOrvatone(zText, false);

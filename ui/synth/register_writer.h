@@ -52,8 +52,8 @@ class RegisterWriter {
 
   CodeSender& sender_;
   std::function<int(int)> shownValue_;
-  Registers waiting_;  ///< handed to the sender since it last had nothing left to write
-  Registers cut_;      ///< may have been cut short, and not written since
+  Registers last_;  ///< the register of the last send, none for the reset
+  Registers cut_;   ///< may have been cut short, and not written since
   std::deque<std::pair<int, int>> postponed_;  ///< number and value
   std::size_t lastSend_ = 0;  ///< which one of the sender's sends was the last of this writer
   int depth_ = 0;             ///< how many of the sends under way are this writer's
