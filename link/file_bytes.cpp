@@ -1,7 +1,5 @@
 #include "link/file_bytes.h"
 
-#include <array>
-
 #include "link/platform_files.h"
 
 namespace loquitor {
@@ -17,8 +15,7 @@ bool ReplaceFile(const std::filesystem::path& zFile, std::string_view zBytes) {
     return false;
   }
   const FolderLock lock(file->parent_path());
-  return lock.Result() != FolderLock::State::TimedOut &&
-         SwapFile(*file, std::array{zBytes}, lock.Result());
+  return lock.Result() != FolderLock::State::TimedOut && SwapFile(*file, zBytes, lock.Result());
 }
 
 }  // namespace loquitor

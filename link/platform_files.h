@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string_view>
 
 /// What the operating systems do differently with files: proofs that a file is as it was, locks,
@@ -76,11 +75,10 @@ class FolderLock {
   State state_ = State::Unsupported;
 };
 
-/// Puts a file that holds `zPieces`, one behind the other, in the place of `zFile` (no link; its
-/// folder locked by the caller, `zLock` says how well): written beside it, flushed to disk,
-/// swapped. Permissions are kept, the owner where the system allows it. False, the old file whole
-/// and nothing left beside it, when a step fails or the old file may not be written.
-bool SwapFile(const std::filesystem::path& zFile, std::span<const std::string_view> zPieces,
-              FolderLock::State zLock);
+/// Puts a file that holds `zBytes` in the place of `zFile` (no link; its folder locked by the
+/// caller, `zLock` says how well): written beside it, flushed to disk, swapped. Permissions are
+/// kept, the owner where the system allows it. False, the old file whole and nothing left beside
+/// it, when a step fails or the old file may not be written.
+bool SwapFile(const std::filesystem::path& zFile, std::string_view zBytes, FolderLock::State zLock);
 
 }  // namespace loquitor

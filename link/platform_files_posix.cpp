@@ -128,12 +128,10 @@ std::optional<std::optional<Ownership>> OwnershipToKeep(const fs::path& zFile) {
 }
 
 /// Writes the new content into `zFile` and flushes it to disk.
-bool Fill(const Descriptor& zFile, std::span<const std::string_view> zPieces,
+bool Fill(const Descriptor& zFile, std::string_view zBytes,
           const std::optional<Ownership>& zOwnership) {
-  for (const std::string_view piece : zPieces) {
-    if (!WriteAll(zFile, piece)) {
-      return false;
-    }
+  if (!WriteAll(zFile, zBytes)) {
+    return false;
   }
   if (zOwnership) {
     // Only an administrator may give files away; for everyone else the file is theirs from now on.
@@ -147,15 +145,14 @@ bool Fill(const Descriptor& zFile, std::span<const std::string_view> zPieces,
 
 /// Writes a file without a name and names it when it is whole, so that a killed process leaves
 /// nothing. Nothing when the system does not know such files; else whether it succeeded.
-std::optional<bool> MakeNamelessFirst(const fs::path& zNew,
-                                      std::span<const std::string_view> zPieces,
+std::optional<bool> MakeNamelessFirst(const fs::path& zNew, std::string_view zBytes,
                                       const std::optional<Ownership>& zOwnership) {
 #ifdef O_TMPFILE
   const Descriptor file(open(zNew.parent_path().c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666));
   if (!file.IsOpen()) {
     return std::nullopt;
   }
-  if (!Fill(file, zPieces, zOwnership)) {
+  if (!Fill(file, zBytes, zOwnership)) {
     return false;
   }
   const std::string self = "/proc/self/fd/" + std::to_string(file.Number());
@@ -165,17 +162,17 @@ std::optional<bool> MakeNamelessFirst(const fs::path& zNew,
   return true;
 #else
   static_cast<void>(zNew);
-  static_cast<void>(zPieces);
+  static_cast<void>(zBytes);
   static_cast<void>(zOwnership);
   return std::nullopt;
 #endif
 }
 
-bool MakeNamed(const fs::path& zNew, std::span<const std::string_view> zPieces,
+bool MakeNamed(const fs::path& zNew, std::string_view zBytes,
                const std::optional<Ownership>& zOwnership) {
   const Descriptor file(
       open(zNew.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC | O_NOFOLLOW, 0666));
-  return file.IsOpen() && Fill(file, zPieces, zOwnership);
+  return file.IsOpen() && Fill(file, zBytes, zOwnership);
 }
 
 /// The name of the new file until it is swapped in. One name for a folder, because its lock lets
@@ -262,8 +259,7 @@ FolderLock::~FolderLock() {
   }
 }
 
-bool SwapFile(const fs::path& zFile, std::span<const std::string_view> zPieces,
-              FolderLock::State zLock) {
+bool SwapFile(const fs::path& zFile, std::string_view zBytes, FolderLock::State zLock) {
   const fs::path folder = zFile.parent_path();
   const fs::path newFile = NewFileIn(folder, zLock);
   static_cast<void>(unlink(newFile.c_str()));  // what a killed process has left; mostly nothing
@@ -271,9 +267,9 @@ bool SwapFile(const fs::path& zFile, std::span<const std::string_view> zPieces,
   if (!ownership) {
     return false;
   }
-  auto isMade = MakeNamelessFirst(newFile, zPieces, *ownership);
+  auto isMade = MakeNamelessFirst(newFile, zBytes, *ownership);
   if (!isMade) {
-    isMade = MakeNamed(newFile, zPieces, *ownership);
+    isMade = MakeNamed(newFile, zBytes, *ownership);
   }
   if (!*isMade || rename(newFile.c_str(), zFile.c_str()) != 0) {
     static_cast<void>(unlink(newFile.c_str()));  // it is not there when making it failed early

@@ -89,17 +89,9 @@ bool WriteAll(const Handle& zFile, std::string_view zBytes) {
   return true;
 }
 
-bool MakeFile(const fs::path& zNew, std::span<const std::string_view> zPieces) {
+bool MakeFile(const fs::path& zNew, std::string_view zBytes) {
   const Handle file(zNew, GENERIC_WRITE, 0, CREATE_ALWAYS);
-  if (!file.IsOpen()) {
-    return false;
-  }
-  for (const std::string_view piece : zPieces) {
-    if (!WriteAll(file, piece)) {
-      return false;
-    }
-  }
-  return FlushFileBuffers(file.Get()) != 0;
+  return file.IsOpen() && WriteAll(file, zBytes) && FlushFileBuffers(file.Get()) != 0;
 }
 
 /// Whether the old file, if there is one, may be written.
@@ -176,8 +168,7 @@ FolderLock::~FolderLock() {
   }
 }
 
-bool SwapFile(const fs::path& zFile, std::span<const std::string_view> zPieces,
-              FolderLock::State zLock) {
+bool SwapFile(const fs::path& zFile, std::string_view zBytes, FolderLock::State zLock) {
   std::wstring name = L".loquitor-new";  // one name: the lock lets one writer in, see the lock
   if (zLock != FolderLock::State::Held) {
     name += std::to_wstring(GetCurrentProcessId());
@@ -186,7 +177,7 @@ bool SwapFile(const fs::path& zFile, std::span<const std::string_view> zPieces,
   if (!IsWritable(zFile)) {
     return false;
   }
-  if (!MakeFile(newFile, zPieces) || !Swap(newFile, zFile)) {
+  if (!MakeFile(newFile, zBytes) || !Swap(newFile, zFile)) {
     DeleteFileW(newFile.c_str());
     return false;
   }

@@ -1,8 +1,5 @@
 #include "link/profile_file.h"
 
-#include <array>
-#include <utility>
-
 #include "link/fresh_profile.h"
 #include "link/platform_files.h"
 #include "link/profile_edit.h"
@@ -17,27 +14,7 @@ bool IsMissing(const std::filesystem::path& zFile) {
 
 /// Changes the file, whose folder is locked. It must exist and be readable, or not exist at all.
 bool Store(const std::filesystem::path& zFile, FolderLock::State zLock, std::string_view zSection,
-           std::string_view zKey, std::string_view zValue) {
-  const auto old = LoadFile(zFile);
-  if (!old && !IsMissing(zFile)) {
-    return false;
-  }
-  const std::string_view text = old ? old->View() : std::string_view();
-  const auto edit = EditForValue(text, zSection, zKey, zValue);
-  if (!edit) {
-    return false;
-  }
-  if (old && edit->begin == edit->end && edit->replacement.empty()) {
-    return true;
-  }
-  const std::array<std::string_view, 3> pieces{text.substr(0, edit->begin), edit->replacement,
-                                               text.substr(edit->end)};
-  return SwapFile(zFile, pieces, zLock);
-}
-
-/// As Store, for several values.
-bool StoreAll(const std::filesystem::path& zFile, FolderLock::State zLock,
-              std::string_view zSection, std::span<const ProfileValue> zEntries) {
+           std::span<const ProfileValue> zEntries) {
   const auto old = LoadFile(zFile);
   if (!old && !IsMissing(zFile)) {
     return false;
@@ -51,11 +28,8 @@ bool StoreAll(const std::filesystem::path& zFile, FolderLock::State zLock,
     }
     text.replace(edit->begin, edit->end - edit->begin, edit->replacement);
   }
-  if (old && text == oldText) {
-    return true;
-  }
-  const std::array<std::string_view, 1> pieces{text};
-  return SwapFile(zFile, pieces, zLock);
+  const bool isAlreadySo = old && text == oldText;
+  return isAlreadySo || SwapFile(zFile, text, zLock);
 }
 
 }  // namespace
@@ -71,13 +45,8 @@ std::string ReadProfileValue(std::string_view zSection, std::string_view zKey,
 
 bool WriteProfileValue(std::string_view zSection, std::string_view zKey, std::string_view zValue,
                        const std::filesystem::path& zFile) {
-  const auto file = FollowLinks(zFile);
-  if (!file) {
-    return false;
-  }
-  const FolderLock lock(file->parent_path());
-  return lock.Result() != FolderLock::State::TimedOut &&
-         Store(*file, lock.Result(), zSection, zKey, zValue);
+  const ProfileValue entry{std::string(zKey), std::string(zValue)};
+  return WriteProfileValues(zSection, std::span(&entry, 1), zFile);
 }
 
 bool WriteProfileValues(std::string_view zSection, std::span<const ProfileValue> zEntries,
@@ -88,7 +57,7 @@ bool WriteProfileValues(std::string_view zSection, std::span<const ProfileValue>
   }
   const FolderLock lock(file->parent_path());
   return lock.Result() != FolderLock::State::TimedOut &&
-         StoreAll(*file, lock.Result(), zSection, zEntries);
+         Store(*file, lock.Result(), zSection, zEntries);
 }
 
 }  // namespace loquitor
