@@ -2,6 +2,8 @@
 
 #include <sstream>
 
+#include "core/upper_case.h"
+
 namespace loquitor {
 
 namespace {
@@ -47,16 +49,6 @@ constexpr std::uint8_t NotePitches[OctaveCount][NotesPerOctave] = {
     {131, 139, 147, 156, 165, 175, 185, 196, 208, 220, 233, 247},
 };
 
-std::string ToUpperCase(std::string_view zText) {
-  std::string upper(zText);
-  for (char& character : upper) {
-    if (character >= 'a' && character <= 'z') {
-      character = static_cast<char>(character - 'a' + 'A');
-    }
-  }
-  return upper;
-}
-
 }  // namespace
 
 void CodeTable::BuildCodeTable() {
@@ -84,7 +76,7 @@ void CodeTable::BuildCodeTable() {
 }
 
 std::int16_t CodeTable::GetCodeIndex(std::string_view zMnemonic) const {
-  const auto found = indexes_.find(ToUpperCase(zMnemonic));
+  const auto found = indexes_.find(UpperCase(zMnemonic));
   return found == indexes_.end() ? NotFound : found->second;
 }
 

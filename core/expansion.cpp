@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/upper_case.h"
+
 namespace loquitor {
 
 namespace {
@@ -32,19 +34,6 @@ RunKind KindOf(char zCharacter) {
     return RunKind::Spaces;
   }
   return zCharacter == ',' ? RunKind::Commas : RunKind::Ignored;
-}
-
-char UpperCase(char zCharacter) {
-  const bool isLower = zCharacter >= 'a' && zCharacter <= 'z';
-  return isLower ? static_cast<char>(zCharacter - 'a' + 'A') : zCharacter;
-}
-
-std::string UpperCase(std::string_view zText) {
-  std::string upper(zText);
-  for (char& character : upper) {
-    character = UpperCase(character);
-  }
-  return upper;
 }
 
 /// A text under expansion and the run of characters that it is in.

@@ -5,16 +5,12 @@
 
 #include "core/expansion.h"
 #include "core/number_text.h"
+#include "core/upper_case.h"
 #include "core/words.h"
 
 namespace loquitor {
 
 namespace {
-
-char UpperCase(char zCharacter) {
-  const bool isLower = zCharacter >= 'a' && zCharacter <= 'z';
-  return isLower ? static_cast<char>(zCharacter - 'a' + 'A') : zCharacter;
-}
 
 void AppendCode(std::string& zCodes, int zCode) {
   zCodes += static_cast<char>(static_cast<unsigned char>(zCode));
