@@ -1,6 +1,5 @@
 #include "core/next_word.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -58,11 +57,7 @@ TEST_F(NextWordTest, AsksForTheSayDataThatLoadingTheWordWouldMake) {
   };
   EXPECT_EQ(Next("b", none), "(none)");
   // stray and else stand outside the section, the second b behind the first.
-  EXPECT_THAT(asked,
-              ::testing::AllOf(::testing::HasSubstr("(\\KE )"), ::testing::HasSubstr("(\\AY  )"),
-                               ::testing::Not(::testing::HasSubstr("BB")),
-                               ::testing::Not(::testing::HasSubstr("AA")),
-                               ::testing::Not(::testing::HasSubstr("EH"))));
+  EXPECT_EQ(asked, "( )(\\KE )( )(\\AY  )(\\AY )( )( )( )(\\KE )( )( )(\\AY  )(\\AY )( )( )( )");
   const auto hasData = [](std::string_view zSayData) {
     return zSayData.find_first_not_of(' ') != std::string_view::npos;
   };
