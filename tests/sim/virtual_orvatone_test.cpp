@@ -19,11 +19,10 @@ namespace fs = std::filesystem;
 
 class VirtualOrvatoneTest : public ::testing::Test {
  protected:
-  fs::path Link() const { return folder / "virtual.port"; }
-
-  std::vector<std::string> Command() const { return {VIRTUAL_ORVATONE, "--link", Link().string()}; }
-
-  int OpenLine() const { return open(Link().c_str(), O_RDWR | O_NOCTTY); }
+  int OpenLine() const { return open(link.c_str(), O_RDWR | O_NOCTTY); }
+  void AwaitLink() const {
+    ASSERT_TRUE(Await([&] { return fs::exists(link); }));
+  }
 
   /// Opens the device, sends, closes it.
   void Send(std::string_view zBytes) const {
@@ -33,64 +32,63 @@ class VirtualOrvatoneTest : public ::testing::Test {
     close(line);
   }
 
-  static bool HasPrinted(ChildProcess& zProgram, const std::string& zLines) {
-    return Await([&] { return zProgram.Output() == zLines; });
+  static void ExpectPrinted(ChildProcess& zProgram, const std::string& zLines) {
+    EXPECT_TRUE(Await([&] { return zProgram.Output() == zLines; })) << zProgram.Output();
   }
 
   TempFolder folder;
+  const fs::path link = folder / "virtual.port";
+  const std::vector<std::string> command{VIRTUAL_ORVATONE, "--link", link.string()};
 };
 
-TEST_F(VirtualOrvatoneTest, PrintsALineAnEventForEveryClient) {
-  ChildProcess program(Command());
-  ASSERT_TRUE(Await([&] { return fs::is_symlink(Link()); }));
-  Send("\xb7\x16\x64"s);
-  std::string lines = "code 183 \\HE\ncontrol 22 \\PITCH 100\n";
-  EXPECT_TRUE(HasPrinted(program, lines)) << program.Output();
-  Send("\0\x1d\n"s);  // a line feed and a zero pass through unchanged
-  lines += "code 0 \\P0\ncontrol 29 \\PLAY 10: empty\n";
-  EXPECT_TRUE(HasPrinted(program, lines)) << program.Output();
-}
-
-TEST_F(VirtualOrvatoneTest, ShowsHalfACommandAfterAQuietMomentAndStillTakesItsRest) {
-  ChildProcess program(Command());
-  ASSERT_TRUE(Await([&] { return fs::is_symlink(Link()); }));
-  Send("\x16");
-  EXPECT_TRUE(HasPrinted(program, "incomplete: 16  .\n")) << program.Output();
-  Send("\x05\\0");
-  program.Signal(SIGTERM);
-  EXPECT_EQ(program.WaitForEnd(), 0);
-  EXPECT_EQ(program.Output(), "incomplete: 16  .\ncontrol 22 \\PITCH 5\nincomplete: 5C 30  \\0\n");
+TEST_F(VirtualOrvatoneTest, PrintsALineAnEventForEveryClientAndShowsHalfACommandAfterAQuietMoment) {
+  ChildProcess program(command);
+  AwaitLink();
+  std::string lines;
+  const struct {
+    std::string bytes, lines;
+  } clients[] = {
+      {"\xb7\x16\x64", "code 183 \\HE\ncontrol 22 \\PITCH 100\n"},
+      {"\0\x1d\n"s, "code 0 \\P0\ncontrol 29 \\PLAY 10: empty\n"},  // both pass through unchanged
+      {"\x16", "incomplete: 16  .\n"},
+      {"\x05", "control 22 \\PITCH 5\n"},  // its rest
+  };
+  for (const auto& client : clients) {
+    Send(client.bytes);
+    lines += client.lines;
+    ExpectPrinted(program, lines);
+  }
 }
 
 TEST_F(VirtualOrvatoneTest, StopsCleanlyAndRemovesItsLink) {
   for (const int stopSignal : {SIGINT, SIGTERM, SIGHUP}) {
-    ChildProcess program(Command());
-    ASSERT_TRUE(Await([&] { return fs::is_symlink(Link()); }));
-    Send("\x80");
+    ChildProcess program(command);
+    AwaitLink();
+    Send("\x80\\0");
     program.Signal(stopSignal);
     EXPECT_EQ(program.WaitForEnd(), 0);
-    EXPECT_EQ(program.Output(), "code 128 \\IY\n");
-    EXPECT_FALSE(fs::is_symlink(Link()));
+    EXPECT_EQ(program.Output(), "code 128 \\IY\nincomplete: 5C 30  \\0\n");
+    EXPECT_FALSE(fs::is_symlink(link));
   }
 }
 
 TEST_F(VirtualOrvatoneTest, ReplacesALeftOverLinkAndLeavesTheOneOfAnotherRun) {
-  fs::create_symlink("/dev/pts/99999", Link());
-  ChildProcess first(Command());
-  ASSERT_TRUE(Await([&] { return fs::exists(Link()); }));
-  const fs::path firstDevice = fs::read_symlink(Link());
-  ChildProcess second(Command());
-  ASSERT_TRUE(Await([&] { return fs::read_symlink(Link()) != firstDevice; }));
+  fs::create_symlink("/dev/pts/99999", link);
+  ChildProcess first(command);
+  AwaitLink();
+  const fs::path firstDevice = fs::read_symlink(link);
+  ChildProcess second(command);
+  ASSERT_TRUE(Await([&] { return fs::read_symlink(link) != firstDevice; }));
   first.Signal(SIGTERM);
   EXPECT_EQ(first.WaitForEnd(), 0);
-  EXPECT_TRUE(fs::exists(Link()));
+  EXPECT_TRUE(fs::exists(link));
   Send("\x81");
-  EXPECT_TRUE(HasPrinted(second, "code 129 \\IH\n"));
+  ExpectPrinted(second, "code 129 \\IH\n");
 }
 
 TEST_F(VirtualOrvatoneTest, LetsTheDeviceBeOpenedAgainAfterAClientDiedThatHadItForItself) {
-  ChildProcess program(Command());
-  ASSERT_TRUE(Await([&] { return fs::is_symlink(Link()); }));
+  ChildProcess program(command);
+  AwaitLink();
   const int line = OpenLine();
   ASSERT_EQ(ioctl(line, TIOCEXCL), 0);
   close(line);
@@ -106,24 +104,22 @@ TEST_F(VirtualOrvatoneTest, LetsTheDeviceBeOpenedAgainAfterAClientDiedThatHadItF
 TEST_F(VirtualOrvatoneTest, RefusesWhatItCannotDo) {
   WriteBytes(folder / "file", "precious");
   fs::create_symlink(folder / "file", folder / "link");
-  struct Row {
+  const struct {
     std::vector<std::string> arguments;
     int status;
     std::string message;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {{"--link", (folder / "file").string()}, 1, "exists already"},
       {{"--link", (folder / "link").string()}, 1, "exists already"},
       {{"--link", (folder / "none" / "x").string()}, 1, "cannot make the link"},
       {{"--link"}, 2, "--link needs a path"},
-      {{"--link="}, 2, "--link needs a path"},
       {{"--port", "3"}, 2, "unknown argument: --port"},
       {{"--help"}, 0, "Usage: virtual-orvatone [--link PATH]"},
   };
-  for (const Row& row : rows) {
-    std::vector<std::string> command = {"sh", "-c", "\"$0\" \"$@\" 2>&1", VIRTUAL_ORVATONE};
-    command.insert(command.end(), row.arguments.begin(), row.arguments.end());
-    ChildProcess program(command);
+  for (const auto& row : rows) {
+    std::vector<std::string> shell = {"sh", "-c", "\"$0\" \"$@\" 2>&1", VIRTUAL_ORVATONE};
+    shell.insert(shell.end(), row.arguments.begin(), row.arguments.end());
+    ChildProcess program(shell);
     EXPECT_EQ(program.WaitForEnd(), row.status) << row.message;
     EXPECT_NE(program.Output().find(row.message), std::string::npos) << program.Output();
   }
