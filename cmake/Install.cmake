@@ -7,7 +7,7 @@ endforeach()
 install(PROGRAMS dist/register-desktop DESTINATION .)
 install(FILES dist/org.loquitor.Loquitor.desktop dist/org.loquitor.Loquitor.svg
               dist/org.loquitor.Loquitor.metainfo.xml DESTINATION share)
-install(FILES README.md LICENSE DESTINATION .)
+install(FILES README.md CONTRIBUTING.md LICENSE DESTINATION .)
 install(DIRECTORY docs/ DESTINATION docs FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
 
 # The starter dictionary becomes the owner's at once: installing again must not put it back.
