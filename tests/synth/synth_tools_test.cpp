@@ -182,6 +182,10 @@ TEST_F(SynthTest, TheListOfNamesIsWorkedByKeysAndSwallowsNoClick) {
     EXPECT_FALSE(list->isVisible()) << row.text;
     EXPECT_TRUE(window->isVisible());
   }
+  type("b");
+  window->move(window->pos() + QPoint(40, 40));
+  LetRun();
+  EXPECT_FALSE(list->isVisible());
   type("Bird");
   auto* load = The<QAbstractButton>("btnLoad");
   QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, load->geometry().center());

@@ -21,9 +21,16 @@ NameCompletion::NameCompletion(TextBox* zBox, std::function<QStringList()> zName
   list_->setFocusPolicy(Qt::NoFocus);
   zBox->setCompleter(completer);
   zBox->installEventFilter(this);
+  zBox->window()->installEventFilter(this);
 }
 
 bool NameCompletion::eventFilter(QObject* zWatched, QEvent* zEvent) {
+  if (zWatched != parent()) {
+    if (zEvent->type() == QEvent::Move) {
+      list_->hide();  // it would stay where the window was
+    }
+    return false;
+  }
   switch (zEvent->type()) {
     case QEvent::FocusIn:
       model_->setStringList(names_());
