@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QWheelEvent>
 #include <filesystem>
 
 #include "tests/synth/synth_test.h"
@@ -73,6 +74,30 @@ TEST_F(SynthTest, AnAdjustBarRebasesBeforeThePressThatBringsTheFocusMovesIt) {
     Bar(bar)->setValue(150);
     EXPECT_EQ(Value(Indexed(stem, 2)), 24) << bar;
   }
+}
+
+TEST_F(SynthTest, ASecondTurnOfTheWheelDoesNotComeBeforeTheRebaseOfTheFirst) {
+  GivenOpenWindow();
+  Given("scFreq", {1000, 2000, 3000});
+  Box("txtVol(4)")->setFocus();
+  QTest::keyClicks(Box("txtVol(4)"), "9");
+  const auto turnWheel = [this] {
+    ScrollBar* bar = Bar("scFreqAdjTone");
+    const QPointF middle = bar->rect().center();
+    QWheelEvent event(middle, bar->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(bar, &event);
+  };
+  bool hasTurned = false;
+  port.onByte = [&] {
+    if (!std::exchange(hasTurned, true)) {
+      turnWheel();
+    }
+  };
+  turnWheel();
+  LetRun();
+  EXPECT_THAT(Values("scFreq"), ElementsAre(1020, 2040, 3060, 0, 0));
+  EXPECT_EQ(Value("scVol(4)"), 9);
 }
 
 TEST_F(SynthTest, ASoundIsSavedUnderItsNameAndNothingIsSent) {

@@ -1,7 +1,6 @@
 #include "ui/synth/frm_synth_ctrl.h"
 
 #include <QEvent>
-#include <QGuiApplication>
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
@@ -180,11 +179,12 @@ void FrmSynthCtrl::scEnvolopeFreq_Change() {
 }
 
 void FrmSynthCtrl::ValueBox_LostFocus(int zRegister) {
-  // A press on another control is delivered only when this has returned. A write lets events run,
-  // so the release would come before its press: a button would not click, a bar not stop.
-  isLeavingByMouse_ = QGuiApplication::mouseButtons() != Qt::NoButton;
+  // The control that the focus goes to hears of it, and of the press that brings it, only when this
+  // has returned. A write lets events run: a release would come before its press, and an adjust bar
+  // move before it has taken its bases.
+  isFocusOnItsWay_ = true;
   EnterText(zRegister);
-  isLeavingByMouse_ = false;
+  isFocusOnItsWay_ = false;
 }
 
 void FrmSynthCtrl::EnterText(int zRegister) {
@@ -316,7 +316,7 @@ void FrmSynthCtrl::SendEnvolopeControlToOrvatone(std::uint8_t zControlValue) {
 }
 
 void FrmSynthCtrl::WriteRegister(int zRegister, int zValue) {
-  if (isLeavingByMouse_) {
+  if (isFocusOnItsWay_) {
     writer_.Postpone(zRegister, zValue);
     QTimer::singleShot(0, this, [this] { writer_.SendPostponed(); });
   } else {

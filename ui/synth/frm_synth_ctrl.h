@@ -91,7 +91,7 @@ class FrmSynthCtrl : public ToolWindow {
   std::array<std::int32_t, synth::ToneCount + 1> freqAdjBase_{};  // by oscillator
   std::array<std::int16_t, synth::ToneCount + 1> volAdjBase_{};
   int oscillatorTurn_ = 0;  // how often all oscillators have been set at once
-  bool isLeavingByMouse_ = false;
+  bool isFocusOnItsWay_ = false;
 };
 
 }  // namespace loquitor
