@@ -76,27 +76,22 @@ class TextBoxes : public ::testing::Test {
 };
 
 TEST_F(TextBoxes, TakeWhatTheCodePageHoldsAndRefuseTheRestWithAHint) {
-  using Insert = void (*)(QWidget&, const QString&);
-  struct Row {
-    const char* way;
-    Insert insert;
-  };
-  for (const Row& row : {Row{"typed", &Type}, {"pasted", &Paste}, {"input method", &Commit}}) {
+  for (const auto& [way, insert] :
+       {std::pair("typed", &Type), {"pasted", &Paste}, {"input method", &Commit}}) {
     box.SetText("");
     area.SetText("");
     for (QWidget* each : std::initializer_list<QWidget*>{&box, &area}) {
       QToolTip::hideText();
-      row.insert(*each, QString::fromUtf8("é€"));
+      insert(*each, QString::fromUtf8("é€"));
       QCoreApplication::processEvents();
-      EXPECT_FALSE(QToolTip::text().contains("cannot be used")) << row.way;
-      row.insert(*each, QString::fromUtf8("ř"));
-      row.insert(*each, QString::fromUtf8("🙂"));
+      EXPECT_FALSE(QToolTip::text().contains("cannot be used")) << way;
+      insert(*each, QString::fromUtf8("ř"));
+      insert(*each, QString::fromUtf8("🙂"));
       QCoreApplication::processEvents();
-      EXPECT_TRUE(QToolTip::text().contains(QString::fromUtf8("“🙂” cannot be used")))
-          << row.way;
+      EXPECT_TRUE(QToolTip::text().contains(QString::fromUtf8("“🙂” cannot be used"))) << way;
     }
-    EXPECT_EQ(box.Text(), "\xE9\x80") << row.way;
-    EXPECT_EQ(area.Text(), "\xE9\x80") << row.way;
+    EXPECT_EQ(box.Text(), "\xE9\x80") << way;
+    EXPECT_EQ(area.Text(), "\xE9\x80") << way;
   }
 }
 
@@ -116,17 +111,13 @@ TEST_F(TextBoxes, RefuseADropAndAPasteWholeSoThatNothingIsHalfInserted) {
   EXPECT_EQ(area.Text().size(), 5U);
 }
 
-TEST_F(TextBoxes, ComposeAccentsThatArriveAsTwoCharacters) {
-  Paste(box, QString::fromUtf8("cafe\u0301"));
-  Paste(area, QString::fromUtf8("cafe\u0301"));
-  EXPECT_EQ(box.Text(), "caf\xE9");
-  EXPECT_EQ(area.Text(), "caf\xE9");
-}
-
-TEST_F(TextBoxes, LineBreaksPastedIntoOneLineBecomeBlanks) {
-  Paste(box, "one\r\n\r\ntwo\nthree\n");
-  EXPECT_EQ(box.Text(), "one two three");
-  EXPECT_EQ(box.cursorPosition(), 13);
+TEST_F(TextBoxes, ComposeAccentsAndPutPastedLinesIntoOne) {
+  for (QWidget* each : std::initializer_list<QWidget*>{&box, &area}) {
+    Paste(*each, QString::fromUtf8("\n\ncafe\u0301\r\n\r\ntwo\nthree\n"));
+  }
+  EXPECT_EQ(box.Text(), "caf\xE9 two three");
+  EXPECT_EQ(box.cursorPosition(), 14);
+  EXPECT_EQ(area.Text(), "\n\ncaf\xE9\n\ntwo\nthree\n");
 }
 
 TEST_F(TextBoxes, GiveBackExactlyWhatTheyWereGiven) {
@@ -142,17 +133,14 @@ TEST_F(TextBoxes, GiveBackExactlyWhatTheyWereGiven) {
   EXPECT_EQ(area.Text(), all + all);
   area.Select(0x9E, 3);
   EXPECT_EQ(area.SelectedText(), "\xA0\xA1\xA2");
-}
-
-TEST_F(TextBoxes, TheClipboardCarriesEveryCharacterFromAreaToArea) {
-  const std::string text = AllButLineBreaks().substr(1) + "\nsecond";  // X selections end at a NUL
-  area.SetText(text);
+  const std::string lines = all.substr(1) + "\nsecond";  // X selections end at a NUL
+  area.SetText(lines);
   area.selectAll();
   area.copy();
   EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasHtml());
   area.SetText("");
   area.paste();
-  EXPECT_EQ(area.Text(), text);
+  EXPECT_EQ(area.Text(), lines);
 }
 
 TEST_F(TextBoxes, EveryLineBreakOfAnAreaIsOneCharacter) {
@@ -195,22 +183,18 @@ TEST_F(TextBoxes, AReplacementIsOneUndoableStep) {
 TEST_F(TextBoxes, LoseTheFocusToAnotherControlButNotToAMenuOrAnotherProgram) {
   QSignalSpy fromBox(&box, &TextBox::LostFocus);
   QSignalSpy fromArea(&area, &TextArea::LostFocus);
-  struct Row {
-    Qt::FocusReason reason;
-    bool isLoss;
-  };
-  for (const Row& row : {Row{Qt::MouseFocusReason, true},
-                         {Qt::TabFocusReason, true},
-                         {Qt::OtherFocusReason, true},
-                         {Qt::ActiveWindowFocusReason, false},
-                         {Qt::PopupFocusReason, false},
-                         {Qt::MenuBarFocusReason, false}}) {
+  for (const auto& [reason, isLoss] : {std::pair(Qt::MouseFocusReason, true),
+                                       {Qt::TabFocusReason, true},
+                                       {Qt::OtherFocusReason, true},
+                                       {Qt::ActiveWindowFocusReason, false},
+                                       {Qt::PopupFocusReason, false},
+                                       {Qt::MenuBarFocusReason, false}}) {
     for (QWidget* each : std::initializer_list<QWidget*>{&box, &area}) {
-      QFocusEvent out(QEvent::FocusOut, row.reason);
+      QFocusEvent out(QEvent::FocusOut, reason);
       QCoreApplication::sendEvent(each, &out);
     }
-    EXPECT_EQ(fromBox.count(), row.isLoss) << row.reason;
-    EXPECT_EQ(fromArea.count(), row.isLoss) << row.reason;
+    EXPECT_EQ(fromBox.count(), isLoss) << reason;
+    EXPECT_EQ(fromArea.count(), isLoss) << reason;
     fromBox.clear();
     fromArea.clear();
   }
@@ -232,18 +216,14 @@ TEST_F(TextBoxes, TabLeavesAnAreaAndEnterInABoxPressesNoButton) {
 
 TEST_F(TextBoxes, TextStaysReadableOnEveryBackground) {
   const QPalette plain = box.palette();
-  struct Row {
-    QColor background;
-    QColor text;
-  };
-  for (const Row& row : {Row{Qt::white, Qt::black},
-                         {QColor(0, 255, 0), Qt::black},
-                         {QColor(255, 0, 0), Qt::black},
-                         {QColor(0, 0, 128), Qt::white}}) {
-    box.SetBackground(row.background);
-    EXPECT_EQ(box.palette().color(QPalette::Base), row.background);
-    EXPECT_EQ(box.palette().color(QPalette::Text), row.text);
-    EXPECT_EQ(box.Background(), row.background);
+  for (const auto& [background, text] : {std::pair<QColor, QColor>(Qt::white, Qt::black),
+                                         {QColor(0, 255, 0), Qt::black},
+                                         {QColor(255, 0, 0), Qt::black},
+                                         {QColor(0, 0, 128), Qt::white}}) {
+    box.SetBackground(background);
+    EXPECT_EQ(box.palette().color(QPalette::Base), background);
+    EXPECT_EQ(box.palette().color(QPalette::Text), text);
+    EXPECT_EQ(box.Background(), background);
   }
   box.SetBackground({});
   EXPECT_EQ(box.palette().color(QPalette::Base), plain.color(QPalette::Base));

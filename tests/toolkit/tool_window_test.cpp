@@ -59,13 +59,15 @@ class ToolWindowTest : public ::testing::Test {
 };
 
 TEST_F(ToolWindowTest, LoadsOnceAndUnloadsOnceHoweverItIsClosed) {
-  const std::function<void(NotingWindow&)> ways[] = {
-      [](NotingWindow& zWindow) { zWindow.close(); },
-      [](NotingWindow& zWindow) { zWindow.reject(); },
-      [](NotingWindow& zWindow) { zWindow.accept(); },
-  };
-  for (const auto& close : ways) {
+  for (const int way : {0, 1, 2}) {
     NotingWindow window(&owner);
+    const auto close = [way](ToolWindow& zWindow) {
+      way == 0   ? static_cast<void>(zWindow.close())
+      : way == 1 ? zWindow.reject()
+                 : zWindow.accept();
+    };
+    close(window);
+    EXPECT_EQ(window.steps, "") << "nothing is unloaded that was never shown";
     ShowAndWait(window);
     EXPECT_EQ(window.steps, "load activate ");
     EXPECT_FALSE(window.IsUnloaded());
@@ -74,34 +76,6 @@ TEST_F(ToolWindowTest, LoadsOnceAndUnloadsOnceHoweverItIsClosed) {
     EXPECT_TRUE(window.IsUnloaded());
     EXPECT_EQ(window.steps, "load activate unload closed ");
   }
-}
-
-TEST_F(ToolWindowTest, ShowModalReturnsWhenItHasBeenClosed) {
-  NotingWindow window(&owner);
-  QTimer::singleShot(0, &window, [&] {
-    EXPECT_EQ(QApplication::activeModalWidget(), &window);
-    window.close();
-  });
-  window.ShowModal();
-  EXPECT_TRUE(window.steps.ends_with("unload closed ")) << window.steps;
-}
-
-TEST_F(ToolWindowTest, NothingIsUnloadedThatWasNeverShown) {
-  NotingWindow window(&owner);
-  window.close();
-  EXPECT_EQ(window.steps, "");
-  EXPECT_FALSE(window.IsUnloaded());
-}
-
-TEST_F(ToolWindowTest, EnterAndEscapeDoNothing) {
-  NotingWindow window(&owner);
-  QSignalSpy pressed(&window.button, &QPushButton::clicked);
-  ShowAndWait(window);
-  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
-    QTest::keyClick(&window, key);
-  }
-  EXPECT_TRUE(window.isVisible());
-  EXPECT_EQ(pressed.count(), 0);
 }
 
 TEST_F(ToolWindowTest, ADoubleClickThatOpensItReachesNothingInIt) {
@@ -157,11 +131,17 @@ TEST_F(ToolWindowTest, TheOwnerIsFreeAtOnceEvenWhenUnloadingAndTheOpenerHaveToWa
   EXPECT_TRUE(isShownModal);
 }
 
-TEST_F(ToolWindowTest, ABoxLosesNoFocusToAnotherControlWhenItsWindowCloses) {
+TEST_F(ToolWindowTest, EnterAndEscapeDoNothingAndClosingMovesNoFocus) {
   NotingWindow window(&owner);
   TextBox box(&window);
   QSignalSpy lost(&box, &TextBox::LostFocus);
+  QSignalSpy pressed(&window.button, &QPushButton::clicked);
   ShowAndWait(window);
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+    QTest::keyClick(&window, key);
+  }
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_EQ(pressed.count(), 0);
   box.setFocus();
   window.close();
   QCoreApplication::processEvents();
@@ -187,6 +167,11 @@ TEST_F(ToolWindowTest, BusyCoversWindowAndBoxesAndGivesAllBack) {
   EXPECT_TRUE(window.button.hasFocus());
   EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
   EXPECT_EQ(box.cursor().shape(), Qt::IBeamCursor);
+  {
+    const Busy busy(&window, &window.button);
+    box.setFocus();
+  }
+  EXPECT_TRUE(box.hasFocus()) << "the user put it there";
 }
 
 TEST_F(ToolWindowTest, BusyLetsEventsRunAtBothEndsAndSurvivesItsWindow) {
@@ -204,18 +189,6 @@ TEST_F(ToolWindowTest, BusyLetsEventsRunAtBothEndsAndSurvivesItsWindow) {
   window.reset();
   busy.reset();
   EXPECT_EQ(runs, 2);
-}
-
-TEST_F(ToolWindowTest, TheFocusStaysWhereTheUserPutItWhileBusy) {
-  NotingWindow window(&owner);
-  QLineEdit box(&window);
-  ShowAndWait(window);
-  window.button.setFocus();
-  {
-    const Busy busy(&window, &window.button);
-    box.setFocus();
-  }
-  EXPECT_TRUE(box.hasFocus());
 }
 
 }  // namespace
