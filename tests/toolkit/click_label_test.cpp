@@ -92,9 +92,12 @@ TEST_F(ClickLabelTest, CanBePressedByAssistiveProgramsAndDisappearInItsOwnClick)
 
 TEST_F(ClickLabelTest, ShowsItsBackgroundAndItsPlaceInTheGroup) {
   const QColor plain = label->grab().toImage().pixelColor(1, 1);
-  label->SetBackground(Qt::darkBlue);
-  EXPECT_EQ(label->grab().toImage().pixelColor(1, 1), QColor(Qt::darkBlue));
-  EXPECT_EQ(label->palette().color(QPalette::Text), QColor(Qt::white));
+  for (const auto& [background, text] :
+       {std::pair(QColor(0, 0, 128), Qt::white), {QColor(255, 0, 0), Qt::black}}) {
+    label->SetBackground(background);
+    EXPECT_EQ(label->grab().toImage().pixelColor(1, 1), background);
+    EXPECT_EQ(label->palette().color(QPalette::Text), QColor(text));
+  }
   label->SetBackground({});
   EXPECT_EQ(label->grab().toImage().pixelColor(1, 1), plain);
   label->SetCurrent(true);
