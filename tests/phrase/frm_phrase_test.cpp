@@ -20,6 +20,7 @@ class FrmPhraseTest : public PhraseWindowTest {
       if (auto* viewer = qobject_cast<frmCodes*>(QApplication::activeModalWidget())) {
         EXPECT_EQ(viewer->parentWidget(), window.get());
         shown = viewer->findChild<TextArea*>("txtCodes")->Text();
+        ++viewersShown;
         viewer->close();
       }
     });
@@ -27,6 +28,8 @@ class FrmPhraseTest : public PhraseWindowTest {
     Press(zButton);
     return shown;
   }
+
+  int viewersShown = 0;
 };
 
 TEST_F(FrmPhraseTest, StartsWithTheTextsOfItsOpenerAndReturnsThemByDoneAlone) {
@@ -89,6 +92,16 @@ TEST_F(FrmPhraseTest, ShowsTheCodesAndSendsNothing) {
   GivenSayData("|\\IY");
   EXPECT_EQ(CodesShownBy("Command2"), "");
   EXPECT_EQ(Sent(), "");
+}
+
+TEST_F(FrmPhraseTest, OpensOneViewerForADoubleClick) {
+  Open();
+  for (const char* button : {"btnCodes", "Command2"}) {
+    viewersShown = 0;
+    QTimer::singleShot(0, window.get(), [&] { Press(button); });
+    CodesShownBy(button);
+    EXPECT_EQ(viewersShown, 1) << button;
+  }
 }
 
 TEST_F(FrmPhraseTest, InsertsAtTheCaretOrOverTheSelectionAndTakesItBack) {

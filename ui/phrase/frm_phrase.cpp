@@ -115,17 +115,17 @@ std::string frmPhrase::CodesOf(std::string_view zAllophoneList) const {
 }
 
 void frmPhrase::btnCodes_Click() {
-  ViewCodes(txtSayData_->Text());
+  ViewCodes(txtSayData_->Text(), "btnCodes");
 }
 
 void frmPhrase::Command2_Click() {
-  ViewCodes(txtSayData_->SelectedText());
+  ViewCodes(txtSayData_->SelectedText(), "Command2");
 }
 
-void frmPhrase::ViewCodes(const std::string& zSayData) {
+void frmPhrase::ViewCodes(const std::string& zSayData, const char* zButton) {
   std::string codes;
   {
-    const Busy busy(this);
+    const Busy busy(this, form_.Get<QPushButton>(zButton));
     codes = CodesOf(context_.translator.ExpandSayData(zSayData));
   }
   if (!IsUnloaded()) {

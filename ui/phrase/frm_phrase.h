@@ -51,7 +51,7 @@ class frmPhrase : public ToolWindow {
   void btnDone_Click();
 
   void Say(const std::string& zSayData, const char* zButton);
-  void ViewCodes(const std::string& zSayData);
+  void ViewCodes(const std::string& zSayData, const char* zButton);
   std::string CodesOf(std::string_view zAllophoneList) const;
 
   const EditorContext context_;
