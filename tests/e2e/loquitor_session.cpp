@@ -23,7 +23,7 @@ void LoquitorSession::SetUp() {
   chip = std::make_unique<PtyChip>();
   std::filesystem::copy_file(LOQUITOR_PROGRAM, folder / "Loquitor");
   WriteBytes(folder / "Loquitor.Dic", Dictionary);
-  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Device() + "\r\n");
+  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Path() + "\r\n");
 }
 
 void LoquitorSession::TearDown() {

@@ -49,7 +49,7 @@ TEST_F(LoquitorSession, SaysAPhraseShowsItsCodesAndClosesThePort) {
   EXPECT_TRUE(desktop.AwaitGone(PhraseTitle));
   EXPECT_EQ(Finish(), 0);
   EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"),
-            "[Ports]\r\n1=" + chip->Device() + "\r\n[Serial]\r\nPort=1\r\nFlowControl=1\r\n");
+            "[Ports]\r\n1=" + chip->Path() + "\r\n[Serial]\r\nPort=1\r\nFlowControl=1\r\n");
 }
 
 TEST_F(LoquitorSession, ShutUpCutsAPhraseThatTheChipHoldsBack) {
@@ -99,7 +99,7 @@ TEST_F(LoquitorSession, ALineThatIsPulledAwayInMidSendShowsRedAndLeavesEverythin
   EXPECT_TRUE(AwaitPortColour("FF0000"));
 
   chip = std::make_unique<PtyChip>();
-  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Device() + "\r\n");
+  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Path() + "\r\n");
   ClickOn(phraseWindow, place::PhraseShutUp);
   AwaitBytes(StopBytes);
   EXPECT_TRUE(AwaitPortColour("00FF00"));

@@ -2,32 +2,22 @@
 
 #include <string>
 
+#include "tests/support/pseudo_terminal.h"
+
 namespace loquitor::testing {
 
-/// The chip's end of a line: a pseudo-terminal that the program opens as its serial port.
-class PtyChip {
+/// The chip's end of a line that the program under test opens as its serial port. Nothing is taken
+/// off the line before it is asked for, so a chip that is not asked holds the line back once the
+/// line's own buffer is full.
+class PtyChip : public PseudoTerminal {
  public:
-  PtyChip();
-  ~PtyChip();
-  PtyChip(const PtyChip&) = delete;
-  PtyChip& operator=(const PtyChip&) = delete;
-
-  /// The device to put into the settings file.
-  const std::string& Device() const { return device_; }
-
-  /// Everything received so far. Nothing is taken off the line before it is asked for, so a chip
-  /// that is not asked holds the line back once the line's own buffer is full.
-  const std::string& Received();
+  /// Everything received so far.
+  const std::string& Received() { return received_ += PseudoTerminal::Received(); }
 
   /// Forgets what has been received.
   void Forget() { received_.clear(); }
 
-  /// Pulls the plug.
-  void HangUp();
-
  private:
-  int master_ = -1;
-  std::string device_;
   std::string received_;
 };
 

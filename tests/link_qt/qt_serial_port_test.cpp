@@ -69,6 +69,9 @@ class QtSerialPortTest : public ::testing::Test {
 
 TEST_F(QtSerialPortTest, WrittenBytesAreOnTheLineAtOnce) {
   ASSERT_TRUE(Open());
+  terminal.Answer("thrown away, and not echoed");
+  QTest::qWait(20);
+  port.DiscardReceived();
   std::string all;
   for (int code = 0; code < 256; ++code) {
     all.push_back(static_cast<char>(code));
@@ -83,12 +86,10 @@ TEST_F(QtSerialPortTest, WhatIsNoUsableDeviceIsRefused) {
   std::filesystem::create_symlink(folder / "nowhere", folder / "dangling");
   std::filesystem::create_symlink("loop", folder / "loop");
   const std::string devices[] = {"",
-                                 "/",
-                                 folder.Path().string(),
-                                 (folder / "regular").string(),
-                                 (folder / "missing").string(),
-                                 (folder / "dangling").string(),
-                                 (folder / "loop").string(),
+                                 folder.Path(),
+                                 folder / "regular",
+                                 folder / "dangling",
+                                 folder / "loop",
                                  "/dev/null",
                                  std::string("/dev/nul\0l", 10),
                                  std::string(5000, 'x')};
@@ -109,11 +110,10 @@ TEST_F(QtSerialPortTest, SpeedAndHandshakingReachTheLine) {
     bool handshaking;
     bool opens;
     speed_t speed;
-  } cases[] = {{"2400", false, true, B2400},     {"4800", true, true, B4800},
-               {"9600", true, true, B9600},      {"19200", false, true, B19200},
-               {"0", false, false, B0},          {"-9600", false, false, B0},
-               {"9600 baud", false, false, B0},  {"", false, false, B0},
-               {"99999999999", false, false, B0}};
+  } cases[] = {{"2400", false, true, B2400},
+               {"9600", true, true, B9600},
+               {"19200", false, true, B19200},
+               {"9600 baud", false, false, B0}};
   for (const auto& one : cases) {
     ASSERT_EQ(Open(terminal.Path(), one.baudRate, one.handshaking), one.opens) << one.baudRate;
     if (one.opens) {
@@ -125,16 +125,10 @@ TEST_F(QtSerialPortTest, SpeedAndHandshakingReachTheLine) {
   }
 }
 
-TEST_F(QtSerialPortTest, OpensThroughASymbolicLink) {
+TEST_F(QtSerialPortTest, APortInUseIsRefusedAndKeepsItsSettings) {
   std::filesystem::create_symlink(terminal.Path(), folder / "virtual port");
   std::filesystem::create_symlink("virtual port", folder / "again");
-  ASSERT_TRUE(Open((folder / "again").string()));
-  EXPECT_TRUE(port.WriteByte('A'));
-  EXPECT_EQ(terminal.Received(), "A");
-}
-
-TEST_F(QtSerialPortTest, APortInUseIsRefusedAndKeepsItsSettings) {
-  ASSERT_TRUE(Open(terminal.Path(), "19200", true));
+  ASSERT_TRUE(Open(folder / "again", "19200", true));
   QtSerialPort second;
   EXPECT_FALSE(second.Open({terminal.Path(), "2400", false}));
   const termios settings = terminal.Settings();
@@ -179,15 +173,6 @@ TEST_F(QtSerialPortTest, ADeviceThatAnotherProgramHasLockedIsRefusedEvenToTheSup
   ::close(other);
 }
 
-TEST_F(QtSerialPortTest, AnswersAreThrownAway) {
-  ASSERT_TRUE(Open());
-  terminal.Answer("answer");
-  QTest::qWait(20);
-  port.DiscardReceived();
-  EXPECT_TRUE(port.IsOpen());
-  EXPECT_EQ(terminal.Received(), "");  // no echo
-}
-
 TEST_F(QtSerialPortTest, AHeldBackLineNeitherBlocksNorFails) {
   ASSERT_TRUE(Open());
   const std::size_t count = FillLine();
@@ -215,29 +200,20 @@ TEST_F(QtSerialPortTest, ClosingAHeldBackLineReturnsAndItOpensAgain) {
   EXPECT_TRUE(Open());
 }
 
-TEST_F(QtSerialPortTest, AHangUpIsToldOnceWhileIdle) {
-  ASSERT_TRUE(Open());
-  terminal.HangUp();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return failures > 0; }));
-  QTest::qWait(50);
-  EXPECT_EQ(failures, 1);
-  EXPECT_FALSE(port.IsOpen());
-  EXPECT_FALSE(port.WriteByte('A'));
-  EXPECT_FALSE(Open());
-
-  PseudoTerminal another;
-  EXPECT_TRUE(Open(another.Path()));
-}
-
-TEST_F(QtSerialPortTest, AHangUpFailsTheNextByteAndIsToldOnce) {
-  ASSERT_TRUE(Open());
-  terminal.HangUp();
-  EXPECT_TRUE(port.IsReadyForByte());  // so that a sender goes on to write, and learns
-  EXPECT_FALSE(port.WriteByte('A'));
-  EXPECT_FALSE(port.IsOpen());
-  EXPECT_EQ(failures, 0);  // not from within a call
-  QTest::qWait(50);
-  EXPECT_EQ(failures, 1);
+TEST_F(QtSerialPortTest, AHangUpIsToldOnceWhileIdleOrAfterTheByteThatFails) {
+  for (const bool isIdle : {true, false}) {
+    PseudoTerminal another;
+    ASSERT_TRUE(Open(another.Path()));
+    another.HangUp();
+    // Ready, so that a sender goes on to write, and learns.
+    EXPECT_TRUE(isIdle || (port.IsReadyForByte() && !port.WriteByte('A')));
+    EXPECT_EQ(port.IsOpen(), isIdle);
+    EXPECT_EQ(failures, 0);  // not from within a call
+    ASSERT_TRUE(QTest::qWaitFor([this] { return failures > 0; }));
+    QTest::qWait(50);
+    EXPECT_EQ(std::exchange(failures, 0), 1);
+    EXPECT_FALSE(port.IsOpen() || port.WriteByte('A') || Open(another.Path()));
+  }
 }
 
 TEST_F(QtSerialPortTest, AFailureThatWasClosedOrReplacedIsNotTold) {

@@ -9,6 +9,7 @@
 #include "link/scp.h"
 #include "tests/support/pseudo_terminal.h"
 #include "tests/support/temp_folder.h"
+#include "tests/support/turn_host.h"
 
 namespace loquitor {
 namespace {
@@ -17,16 +18,10 @@ using testing::PseudoTerminal;
 using testing::TempFolder;
 
 /// A host with a real event loop and a real closing timer.
-class LoopHost : public SenderHost {
+class LoopHost : public testing::TurnHost {
  public:
   explicit LoopHost(std::function<void()> zOnTick) : turns(std::move(zOnTick)) {}
 
-  std::string PortDevice() const override { return device; }
-  bool IsFlowControlTicked() const override { return true; }
-  void ShowPortState(PortState zState) override {
-    log += zState == PortState::Open ? "green " : zState == PortState::Closed ? "white " : "red ";
-  }
-  bool ConfirmLongPhrase() override { return true; }
   void StopClosingTimer() override { closingTimer.stop(); }
   void StartClosingTimer(int) override { closingTimer.start(20); }
   void LetEventsRun() override { turns.LetEventsRun(); }
@@ -35,8 +30,6 @@ class LoopHost : public SenderHost {
 
   EventTurns turns;
   QTimer closingTimer;
-  std::string device;
-  std::string log;
 };
 
 /// The whole way from a string to the chip's end of a pseudo-terminal.
@@ -86,26 +79,15 @@ TEST_F(SendingTest, AllBytesArriveAndThePortClosesLater) {
   EXPECT_EQ(host.log, "green white ");
 }
 
-TEST_F(SendingTest, AHeldBackLineGoesOnWhenItIsReleased) {
-  std::string received;
-  QTimer reading;
-  QObject::connect(&reading, &QTimer::timeout, [&] { received += chip.Received(); });
-  OnceHeldBack([&] { reading.start(1); });
-  Send(tooLong);
-  EXPECT_EQ(received + chip.Received(), tooLong);
-}
-
 TEST_F(SendingTest, AHeldBackLineIsLeftWhenTheSendIsEndedByOthers) {
-  const struct {
-    std::function<void()> act;
-    const char* log;
-  } cases[] = {{[this] { sender.ClearPendingOutput(); }, "green "},
-               {[this] { sender.CloseSerialPort(); }, "green white "},
-               {[this] { chip.HangUp(); }, "green red "}};
-  for (const auto& one : cases) {
-    OnceHeldBack(one.act);
+  const std::pair<const char*, std::function<void()>> cases[] = {
+      {"green ", [this] { sender.ClearPendingOutput(); }},
+      {"green white ", [this] { sender.CloseSerialPort(); }},
+      {"green red ", [this] { chip.HangUp(); }}};
+  for (const auto& [log, act] : cases) {
+    OnceHeldBack(act);
     Send(tooLong);
-    EXPECT_EQ(host.log, one.log);
+    EXPECT_EQ(host.log, log);
     EXPECT_FALSE(sender.IsSending());
     sender.CloseSerialPort();
     host.log.clear();
@@ -125,7 +107,7 @@ TEST_F(SendingTest, ShutUpFollowsWhatHasGoneOut) {
   EXPECT_EQ(received.find_first_not_of('x'), received.size() - StopSequence().size());
 }
 
-TEST_F(SendingTest, ALoopOfAModalWindowDoesNotStopTheSend) {
+TEST_F(SendingTest, AHeldBackLineGoesOnInALoopOfAModalWindowAndBehindIt) {
   std::string received;
   QTimer reading;
   QObject::connect(&reading, &QTimer::timeout, [&] { received += chip.Received(); });
@@ -134,6 +116,7 @@ TEST_F(SendingTest, ALoopOfAModalWindowDoesNotStopTheSend) {
     const std::size_t held = received.size();
     reading.start(1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return received.size() > held + 50; }));
+    EXPECT_FALSE(sender.PendingOutput().empty());
   });
   Send(tooLong);
   EXPECT_EQ(received + chip.Received(), tooLong);

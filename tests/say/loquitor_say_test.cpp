@@ -33,7 +33,7 @@ class LoquitorSayTest : public ::testing::Test {
   /// Port 1 is the chip.
   void GivenPort(std::string_view zMoreSettings = "") {
     WriteBytes(folder / "Loquitor.ini",
-               "[Ports]\r\n1=" + chip.Device() + "\r\n" + std::string(zMoreSettings));
+               "[Ports]\r\n1=" + chip.Path() + "\r\n" + std::string(zMoreSettings));
   }
 
   /// Starts the program with the input file; arguments as the shell reads them.
@@ -121,7 +121,7 @@ TEST_F(LoquitorSayTest, SaysWhatIsWrongWithThePort) {
       {"[Serial]\r\nPort=0\r\n", "there is no port 0"},
       {"[Serial]\r\nPort=99999999999\r\n", "there is no port 99999999999"},
       {"[Ports]\r\n1=missing.port\r\n", "cannot open port 1 ("},
-      {"[Ports]\r\n1=" + chip.Device() + "\r\n[Serial]\r\nBaudRate=fast\r\n", "cannot open port 1"},
+      {"[Ports]\r\n1=" + chip.Path() + "\r\n[Serial]\r\nBaudRate=fast\r\n", "cannot open port 1"},
   };
   for (const auto& [settings, message] : rows) {
     WriteBytes(folder / "Loquitor.ini", settings);
