@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "tests/support/temp_folder.h"
 
 namespace loquitor {
@@ -36,13 +34,10 @@ TEST(NaturalOrder, ComparesRunsOfDigitsAsNumbers) {
                                             "tty00",
                                             "tty1",
                                             "tty01x",
-                                            "tty1y",
                                             "tty2",
-                                            "tty10",
                                             "tty10a2",
                                             "tty10a10",
                                             "ttyACM0",
-                                            "ttyUSB9",
                                             "ttyUSB99999999999999999998",
                                             "ttyUSB99999999999999999999"};
   for (std::size_t i = 0; i < ordered.size(); ++i) {
@@ -53,34 +48,25 @@ TEST(NaturalOrder, ComparesRunsOfDigitsAsNumbers) {
 }
 
 TEST_F(PortNumbersTest, WithoutAnEntryDevicesAreNumberedInNaturalOrder) {
-  const struct {
-    int number;
-    const char* device;
-  } cases[] = {
-      {1, "/dev/ttyACM0"}, {2, "/dev/ttyUSB2"}, {3, "/dev/ttyUSB10"}, {4, ""}, {0, ""}, {-1, ""},
-      {2147483647, ""},    {-2147483648, ""}};
-  for (const auto& one : cases) {
-    EXPECT_EQ(Device(one.number), one.device) << one.number;
+  const std::string devices[] = {"", "/dev/ttyACM0", "/dev/ttyUSB2", "/dev/ttyUSB10", ""};
+  for (int number = 0; number < 5; ++number) {
+    EXPECT_EQ(Device(number), devices[number]);
   }
+  EXPECT_EQ(Device(-1) + Device(2147483647) + Device(-2147483647 - 1), "");
 }
 
 TEST_F(PortNumbersTest, AnEntryDecides) {
   GivenPorts(
       "0=/dev/zero\r\n1 = \"/dev/serial/by-id/My Adapter \"\r\n2=virtual.port\r\n"
-      "3=../up/port\r\n4=ttyUSB10\r\n5=\r\n7=/dev/ttyS0\r\n");
-  const struct {
-    int number;
-    std::string device;
-  } cases[] = {{0, ""},
-               {1, "/dev/serial/by-id/My Adapter"},
-               {2, (folder / "virtual.port").string()},
-               {3, (folder / "../up/port").string()},
-               {4, "/dev/ttyUSB10"},
-               {5, ""},
-               {6, ""},
-               {7, "/dev/ttyS0"}};
-  for (const auto& one : cases) {
-    EXPECT_EQ(Device(one.number), one.device) << one.number;
+      "3=../up/port\r\n4=ttyUSB10\r\n5=\r\n");
+  const std::string devices[] = {"",
+                                 "/dev/serial/by-id/My Adapter",
+                                 folder / "virtual.port",
+                                 folder / "../up/port",
+                                 "/dev/ttyUSB10",
+                                 ""};
+  for (int number = 0; number < 6; ++number) {
+    EXPECT_EQ(Device(number), devices[number]);
   }
 }
 
@@ -93,9 +79,7 @@ TEST_F(PortNumbersTest, TheTooltipListsWhatIsThereNow) {
   WriteBytes(virtualPort, "");
   EXPECT_EQ(DescribePorts(settings, present),
             "Serial ports that are present:\n1:  /dev/ttyACM0\n2:  " + virtualPort + rest);
-}
-
-TEST_F(PortNumbersTest, TheTooltipAdvisesWhereNothingIsThere) {
+  GivenPorts("");
   EXPECT_TRUE(DescribePorts(settings, {}).starts_with("No serial port is present."));
 }
 

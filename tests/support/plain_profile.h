@@ -1,9 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
-#include <cctype>
-#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -88,26 +85,19 @@ class PlainProfile {
     std::string end;
   };
 
-  static std::string Trim(std::string zText) {
-    while (!zText.empty() && std::strchr(" \t", zText.back()) && zText.back() != 0) {
-      zText.pop_back();
-    }
-    while (!zText.empty() && (zText[0] == ' ' || zText[0] == '\t')) {
-      zText.erase(0, 1);
-    }
-    return zText;
+  static std::string Trim(const std::string& zText) {
+    const std::size_t begin = zText.find_first_not_of(" \t");
+    const std::size_t last = zText.find_last_not_of(" \t");
+    return begin == std::string::npos ? "" : zText.substr(begin, last + 1 - begin);
   }
 
   static std::string Capitals(std::string zText) {
-    static const std::string small =
-        "abcdefghijklmnopqrstuvwxyz\x9A\x9C\x9E\xFF\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB"
-        "\xEC\xED\xEE\xEF\xF0\xF1\xF2\xF3\xF4\xF5\xF6\xF8\xF9\xFA\xFB\xFC\xFD\xFE";
-    static const std::string capital =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZ\x8A\x8C\x8E\x9F\xC0\xC1\xC2\xC3\xC4\xC5\xC6\xC7\xC8\xC9\xCA\xCB"
-        "\xCC\xCD\xCE\xCF\xD0\xD1\xD2\xD3\xD4\xD5\xD6\xD8\xD9\xDA\xDB\xDC\xDD\xDE";
     for (char& c : zText) {
-      const std::size_t at = small.find(c);
-      c = at == std::string::npos ? c : capital[at];
+      const auto code = static_cast<unsigned char>(c);
+      const bool isFarBelow =
+          (c >= 'a' && c <= 'z') || (code >= 0xE0 && code < 0xFF && code != 0xF7);
+      const bool isNearBelow = code == 0x9A || code == 0x9C || code == 0x9E;
+      c = static_cast<char>(code == 0xFF ? 0x9F : code - (isFarBelow ? 32 : isNearBelow ? 16 : 0));
     }
     return zText;
   }
