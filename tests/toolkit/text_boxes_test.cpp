@@ -161,6 +161,45 @@ TEST_F(TextBoxes, EveryLineBreakOfAnAreaIsOneCharacter) {
   EXPECT_EQ(area.Text(), "a\nx\nyd\n\n");
 }
 
+TEST_F(TextBoxes, TypingAndReplacementsAreStepsOfTheirOwn) {
+  area.SetText("");
+  std::vector<std::string> texts = {""};
+  const auto done = [&] { texts.push_back(area.Text()); };
+  QTest::keyClicks(&area, "ab ");
+  done();
+  area.ReplaceSelection("\\IY ");
+  done();
+  area.ReplaceSelection("\\EH ");
+  done();
+  QTest::keyClicks(&area, "cd");
+  done();
+  area.ReplaceSelection("\\OW ");
+  done();
+  area.ReplaceText("");
+  done();
+  QGuiApplication::clipboard()->setText("pasted");
+  area.paste();
+  done();
+  QTest::keyClicks(&area, "ef");
+  done();
+  area.ReplaceText("new");
+  done();
+  area.Select(1, 1);
+  area.ReplaceSelection("E");
+  done();
+  QTest::keyClicks(&area, "x");
+  done();
+  for (std::size_t i = texts.size() - 1; i-- > 0;) {
+    QTest::keySequence(&area, QKeySequence::Undo);
+    EXPECT_EQ(area.Text(), texts[i]) << i;
+  }
+  EXPECT_FALSE(area.document()->isUndoAvailable());
+  for (std::size_t i = 1; i < texts.size(); ++i) {
+    QTest::keySequence(&area, QKeySequence::Redo);
+    EXPECT_EQ(area.Text(), texts[i]);
+  }
+}
+
 TEST_F(TextBoxes, LoseTheFocusToAnotherControlButNotToAMenuOrAnotherProgram) {
   QSignalSpy fromBox(&box, &TextBox::LostFocus);
   QSignalSpy fromArea(&area, &TextArea::LostFocus);

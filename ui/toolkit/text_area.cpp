@@ -40,19 +40,24 @@ void TextArea::SetText(std::string_view zBytes) {
 
 void TextArea::ReplaceText(std::string_view zBytes) {
   QTextCursor cursor(document());
-  cursor.beginEditBlock();
   cursor.select(QTextCursor::Document);
-  cursor.insertText(ToQString(zBytes));
-  cursor.endEditBlock();
+  InsertAsStep(cursor, ToQString(zBytes));
   moveCursor(QTextCursor::Start);
 }
 
 void TextArea::ReplaceSelection(std::string_view zBytes) {
   QTextCursor cursor = textCursor();
-  cursor.beginEditBlock();
-  cursor.insertText(ToQString(zBytes));
-  cursor.endEditBlock();
+  InsertAsStep(cursor, ToQString(zBytes));
   setTextCursor(cursor);
+}
+
+/// Replaces what `zCursor` has selected, as one step that what is typed next is no part of: Qt
+/// joins insertions that follow each other, but never across an unmodified state.
+void TextArea::InsertAsStep(QTextCursor& zCursor, const QString& zText) {
+  zCursor.beginEditBlock();
+  zCursor.insertText(zText);
+  zCursor.endEditBlock();
+  document()->setModified(false);
 }
 
 std::string TextArea::SelectedText() const {
@@ -117,7 +122,9 @@ void TextArea::insertFromMimeData(const QMimeData* zSource) {
     ShowRefusal(this, text);
     return;
   }
-  textCursor().insertText(text);
+  QTextCursor cursor = textCursor();
+  InsertAsStep(cursor, text);
+  setTextCursor(cursor);
   ensureCursorVisible();
 }
 

@@ -17,13 +17,13 @@ class TextArea : public QPlainTextEdit {
 
   std::string Text() const;
 
-  /// Replaces the whole text: SetText forgets the undo history, ReplaceText is one undoable step.
-  /// Afterwards the caret stands at the start.
+  /// Replaces the whole text: SetText forgets the undo history, ReplaceText is an undoable step of
+  /// its own. Afterwards the caret stands at the start.
   void SetText(std::string_view zBytes);
   void ReplaceText(std::string_view zBytes);
 
-  /// Replaces the selection, or inserts at the caret when nothing is selected; one undoable step.
-  /// The caret ends behind it.
+  /// Replaces the selection, or inserts at the caret when nothing is selected; an undoable step of
+  /// its own. The caret ends behind it.
   void ReplaceSelection(std::string_view zBytes);
 
   std::string SelectedText() const;
@@ -45,6 +45,9 @@ class TextArea : public QPlainTextEdit {
   void insertFromMimeData(const QMimeData* zSource) override;
   QMimeData* createMimeDataFromSelection() const override;
   void inputMethodEvent(QInputMethodEvent* zEvent) override;
+
+ private:
+  void InsertAsStep(QTextCursor& zCursor, const QString& zText);
 };
 
 }  // namespace loquitor
