@@ -1,6 +1,7 @@
 #include <QTimer>
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <vector>
 
 #include "link/scp.h"
@@ -17,6 +18,8 @@ struct WritingWindow {
   std::unique_ptr<ToolWindow> (*make)(const EditorContext&);
   std::string whole;
   const char* lastStored;
+
+  friend void PrintTo(const WritingWindow& zWindow, std::ostream* zOut) { *zOut << zWindow.name; }
 };
 
 template <class Window>
