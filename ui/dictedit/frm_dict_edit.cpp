@@ -271,7 +271,8 @@ QString frmDictEdit::ImportFailure(WordImport& zImport) {
     }
     if (IsTooMuch(zImport)) {
       return QStringLiteral(
-          "The word list has more words, or a longer one, than the dictionary can take; only the "
+          "The word list has more words, or a longer one, than the dictionary can take;\r\nonly "
+          "the "
           "words before were added.");
     }
   }
