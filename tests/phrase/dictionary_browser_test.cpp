@@ -1,12 +1,10 @@
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "tests/phrase/phrase_window.h"
 #include "ui/phrase/dictionary_words.h"
 
 namespace loquitor::testing {
 namespace {
-
-using ::testing::HasSubstr;
 
 constexpr char Pets[] = "dog=\\DO\r\nCat=\\KE \\AY\r\napple=\r\n";
 
@@ -29,73 +27,66 @@ class DictionaryBrowserTest : public PhraseWindowTest {
 };
 
 TEST_F(DictionaryBrowserTest, LoadsWordsAtTheCaretOrInPlaceOfTheText) {
+  const Rows<const char*, const char*, const char*, const char*> rows = {
+      {"cmdLoadInsert", "cat  DOG ", "x |", "x \\KE \\AY \\DO |"},
+      {"cmdLoadInsert", "cat dog", "a[b]  c", "a\\KE \\AY   \\DO |c"},
+      {"cmdLoadInsert", "dog nothing", "x|  y", "x  \\DO  |y"},
+      {"cmdLoadOver", "cat dog", "old |text", "\\KE \\AY \\DO |"},
+      {"cmdLoadOver", "nothing", "old |text", " |"},
+      {"cmdLoadOver", "", "old |text", "|"}};
   GivenDictionary(Pets);
-  for (const auto& [button, words, before, after] :
-       Rows<const char*, const char*, const char*, const char*>{
-           {"cmdLoadInsert", "cat  DOG ", "x |", "x \\KE \\AY \\DO |"},
-           {"cmdLoadInsert", "cat dog", "a[b]  c", "a\\KE \\AY   \\DO |c"},
-           {"cmdLoadInsert", "dog nothing", "x|  y", "x  \\DO  |y"},
-           {"cmdLoadOver", "cat dog", "old |text", "\\KE \\AY \\DO |"},
-           {"cmdLoadOver", "nothing", "old |text", " |"},
-           {"cmdLoadOver", "", "old |text", "|"}}) {
+  for (const auto& [button, words, before, after] : rows) {
     GivenSayData(before);
-    const std::string text = SayDataBox()->Text();
+    const std::string old = SayDataBox()->Text();
     Type("txtDict", words);
     Press(button);
     EXPECT_EQ(SayData(), after) << words;
     EXPECT_TRUE(SayDataBox()->hasFocus());
     SayDataBox()->undo();
-    EXPECT_EQ(SayDataBox()->Text(), text) << "one step back from " << after;
+    EXPECT_EQ(SayDataBox()->Text(), old) << "one step back from " << after;
   }
   EXPECT_EQ(Sent(), "");
 }
 
-TEST_F(DictionaryBrowserTest, StepsThroughAllWordsAndSaysThem) {
+TEST_F(DictionaryBrowserTest, StepsToAllWordsOrThoseWithOrWithoutData) {
   GivenDictionary(Pets);
   EXPECT_EQ(Step(), "apple:  |: ");
   EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84");
   EXPECT_EQ(Step(), "dog: \\DO |: \xAF");
   EXPECT_EQ(Step(), "apple:  |: ") << "the first follows the last";
   Type("txtDict", "BOY");
-  EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84") << "from a word that is not there";
   Tick("chkApplyControlsBeforeSayData", true);
-  EXPECT_EQ(Step(), "dog: \\DO |: " + DefaultPrefix + "\xAF");
-}
-
-TEST_F(DictionaryBrowserTest, StepsToWordsWithOrWithoutData) {
-  GivenDictionary(std::string(Pets) + "bird=\r\n");
+  EXPECT_EQ(Step(), "cat: \\KE \\AY |: " + DefaultPrefix + "\xC2\x84");
+  Tick("chkApplyControlsBeforeSayData", false);
   GivenModes(true, false);
-  EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84");
   EXPECT_EQ(Step(), "dog: \\DO |: \xAF");
-  Box("txtfindwith")->SetText("\\ke");
   EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84");
+  Box("txtfindwith")->SetText("\\ke");
   EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84") << "round to itself";
   GivenModes(false, true);
   EXPECT_EQ(Step(), "apple:  |: ") << "and says nothing";
-  EXPECT_EQ(Step(), "bird:  |: ");
-  EXPECT_EQ(Step(), "apple:  |: ");
 }
 
 TEST(DictionaryWords, AreFoundByTheCapitalsOfAText) {
-  for (const auto& [sayData, findWith, isWanted] :
-       Rows<const char*, const char*, bool>{{"\\IY \\EH ", "\\eh", true},
-                                            {"\\iy ", "\\iy", false},
-                                            {"\xC9 ", "\xE9", true},
-                                            {"\x8A\x9F ", "\x9A\xFF", true}}) {
+  const Rows<const char*, const char*, bool> rows = {{"\\IY \\EH ", "\\eh", true},
+                                                     {"\\iy ", "\\iy", false},
+                                                     {"\xC9 ", "\xE9", true},
+                                                     {"\x8A\x9F ", "\x9A\xFF", true}};
+  for (const auto& [sayData, findWith, isWanted] : rows) {
     EXPECT_EQ(IsWanted(NextWordMode::WithData, sayData, findWith), isWanted) << findWith;
     EXPECT_TRUE(IsWanted(NextWordMode::Any, sayData, findWith)) << "no matter in other modes";
   }
 }
 
 TEST_F(DictionaryBrowserTest, EndsASearchThatCannotSucceed) {
-  for (const auto& [entries, isWith, isWithout, message] :
-       Rows<const char*, bool, bool, const char*>{
-           {nullptr, true, true, "no words"},
-           {"zzzzzzzzzz=\\IY\r\n", true, true, "no words"},
-           {"a=\r\nb=\r\n", true, false, "has data"},
-           {"a=x\r\nb=y\r\n", false, true, "has data"},
-           {"a=x\r\n", false, false, "Must select either With Data or Without Data or Both"}}) {
-    if (entries != nullptr) {  // else there is no file yet
+  const Rows<const char*, bool, bool, const char*> rows = {
+      {nullptr, true, true, "no words"},  // there is no file yet
+      {"zzzzzzzzzz=\\IY\r\n", true, true, "no words"},
+      {"a=\r\nb=\r\n", true, false, "has data"},
+      {"a=x\r\nb=y\r\n", false, true, "has data"},
+      {"a=x\r\n", false, false, "Must select either With Data or Without Data or Both"}};
+  for (const auto& [entries, isWith, isWithout, message] : rows) {
+    if (entries != nullptr) {
       GivenDictionary(entries);
     }
     GivenModes(isWith, isWithout);
@@ -104,7 +95,7 @@ TEST_F(DictionaryBrowserTest, EndsASearchThatCannotSucceed) {
     prompts.asked.clear();
     EXPECT_EQ(Step(), "A word : as it [was]: ") << message;
     ASSERT_EQ(prompts.asked.size(), 1u);
-    EXPECT_THAT(prompts.asked[0].text.toStdString(), HasSubstr(message));
+    EXPECT_TRUE(prompts.asked[0].text.contains(message));
     EXPECT_EQ(prompts.asked[0].title, "Loquitor");
     EXPECT_EQ(prompts.asked[0].buttons, PromptButtons::Ok);
   }
@@ -125,17 +116,17 @@ TEST_F(DictionaryBrowserTest, SavesTheSayDataUnderTheWord) {
 }
 
 TEST_F(DictionaryBrowserTest, SavesNothingUnderAWordThatTheFileCannotHold) {
-  for (const auto& [word, problem] :
-       Rows<const char*, const char*>{{"   ", nullptr},
-                                      {"two words", "Cannot save mutil-word"},
-                                      {"a=b", "equals sign (=)"},
-                                      {"[words]", "begin with ["},
-                                      {";word", "begin with ;"}}) {
-    GivenDictionary(Pets);
+  const Rows<const char*, const char*> rows = {{"two words", "Cannot save mutil-word"},
+                                               {"a=b", "equals sign (=)"},
+                                               {"[words]", "begin with ["},
+                                               {";word", "begin with ;"},
+                                               {"   ", nullptr}};
+  GivenDictionary(Pets);
+  for (const auto& [word, problem] : rows) {
     prompts.asked.clear();
     Type("txtDict", word);
     Press("cmdSave");
-    EXPECT_EQ(prompts.asked.size(), problem == nullptr ? 0u : 1u) << word;
+    EXPECT_EQ(prompts.asked.empty(), problem == nullptr) << word;
     EXPECT_TRUE(problem == nullptr || prompts.asked.at(0).text.contains(problem)) << word;
     EXPECT_EQ(ReadBytes(dictionary.File()), std::string("[words]\r\n") + Pets) << word;
     EXPECT_TRUE(SayDataBox()->hasFocus());

@@ -29,19 +29,14 @@ struct FrameMap {
 };
 
 TEST(Neighbour, FollowsRowsAndColumns) {
-  for (const auto& [frame, from, way, to] :
-       Rows<const char*, const char*, Direction, const char*>{{"Frame1", "IY", Right, "UW"},
-                                                              {"Frame1", "IY", Down, "IH"},
-                                                              {"Frame1", "IY", Left, "IY"},
-                                                              {"Frame1", "AX", Left, "EY"},
-                                                              {"Frame1", "AY", Down, "AY"},
-                                                              {"Frame4", "AXUW", Down, "EHLE"},
-                                                              {"Frame4", "EHLE", Right, "IHWW"},
-                                                              {"Frame8", "R9", Right, "M0"},
-                                                              {"Frame8", "D11", Up, "M2"},
-                                                              {"Frame13", "NTB3", Up, "NTA#3"},
-                                                              {"Frame14", "P3", Right, "Delay"},
-                                                              {"Frame14", "Wait", Left, "P4"}}) {
+  const Rows<const char*, const char*, Direction, const char*> rows = {
+      {"Frame1", "IY", Right, "UW"},     {"Frame1", "IY", Down, "IH"},
+      {"Frame1", "IY", Left, "IY"},      {"Frame1", "AX", Left, "EY"},
+      {"Frame1", "AY", Down, "AY"},      {"Frame4", "AXUW", Down, "EHLE"},
+      {"Frame4", "EHLE", Right, "IHWW"}, {"Frame8", "R9", Right, "M0"},
+      {"Frame8", "D11", Up, "M2"},       {"Frame13", "NTB3", Up, "NTA#3"},
+      {"Frame14", "P3", Right, "Delay"}, {"Frame14", "Wait", Left, "P4"}};
+  for (const auto& [frame, from, way, to] : rows) {
     const FrameMap map(frame);
     const auto at = std::find(map.captions.begin(), map.captions.end(), from);
     const auto current = static_cast<std::size_t>(at - map.captions.begin());

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
@@ -14,6 +15,7 @@
 #include "ui/phrase/frm_phrase.h"
 #include "ui/toolkit/check_box.h"
 #include "ui/toolkit/click_label.h"
+#include "ui/toolkit/form.h"
 #include "ui/toolkit/scroll_bar.h"
 #include "ui/toolkit/text_area.h"
 #include "ui/toolkit/text_box.h"
@@ -34,11 +36,7 @@ class PhraseWindowTest : public WindowTest {
 
   template <class T>
   T* Get(const char* zName) {
-    T* control = window->findChild<T*>(zName);
-    if (control == nullptr) {
-      throw std::invalid_argument(std::string("no control ") + zName);
-    }
-    return control;
+    return Form(window.get()).Get<T>(zName);
   }
   ClickLabel* Member(std::string_view zCaption) {
     for (ClickLabel* label : window->findChildren<ClickLabel*>()) {
@@ -113,13 +111,11 @@ class PhraseWindowTest : public WindowTest {
   void GivenSayData(std::string zMarked) {
     const std::size_t start = zMarked.find_first_of("|[");
     zMarked.erase(start, 1);
-    const std::size_t end = zMarked.find(']');
-    if (end != std::string::npos) {
-      zMarked.erase(end, 1);
-    }
+    const std::size_t end = std::min(zMarked.find(']'), zMarked.size());
+    const std::size_t length = end < zMarked.size() ? end - start : 0;
+    zMarked.erase(end, 1);
     SayDataBox()->SetText(zMarked);
-    SayDataBox()->Select(static_cast<int>(start),
-                         end == std::string::npos ? 0 : static_cast<int>(end - start));
+    SayDataBox()->Select(static_cast<int>(start), static_cast<int>(length));
   }
 
   std::unique_ptr<frmPhrase> window;

@@ -18,41 +18,33 @@ class SoundPaletteTest : public PhraseWindowTest {
 
 TEST(SoundCommand, ReadsAValueBoxAsAByte) {
   constexpr int None = -1;
-  for (const auto& [text, byte] : Rows<const char*, int>{{"", 0},
-                                                         {"7abc", 7},
-                                                         {"2.5", 2},
-                                                         {"3.5", 4},
-                                                         {" 2 5 5 ", 255},
-                                                         {"&HfF", 255},
-                                                         {"-0.5", 0},
-                                                         {"255.4", 255},
-                                                         {"255.5", None},
-                                                         {"256", None},
-                                                         {"-1", None},
-                                                         {"1E999", None}}) {
+  const Rows<const char*, int> rows = {{"", 0},       {"7abc", 7},      {"2.5", 2},
+                                       {"3.5", 4},    {" 2 5 5 ", 255}, {"&HfF", 255},
+                                       {"-0.5", 0},   {"255.4", 255},   {"255.5", None},
+                                       {"256", None}, {"-1", None},     {"1E999", None}};
+  for (const auto& [text, byte] : rows) {
     const std::optional<std::uint8_t> read = ValueByte(text);
     EXPECT_EQ(read ? *read : None, byte) << text;
   }
 }
 
 TEST_F(SoundPaletteTest, PlaysWhatIsClicked) {
+  const Rows<const char*, std::string> rows = {
+      {"IY", "\x80"},        {"P0", std::string(1, '\0')},
+      {"D11", "\xFB"},       {"Call", std::string("\x1C\0", 2)},
+      {"Play", "\x1D\x04"},  {"PCtrl", "\x18\x07"},
+      {"Delay", "\x1E\x64"}, {"Stress", "\x0E"}};
   Type("txtPlay", "3.5");
-  for (const auto& [caption, codes] :
-       Rows<const char*, std::string>{{"IY", "\x80"},
-                                      {"P0", std::string(1, '\0')},
-                                      {"D11", "\xFB"},
-                                      {"Call", std::string("\x1C\0", 2)},
-                                      {"Play", "\x1D\x04"},
-                                      {"PCtrl", "\x18\x07"},
-                                      {"Delay", "\x1E\x64"},
-                                      {"Stress", "\x0E"}}) {
+  SayDataBox()->setFocus();
+  for (const auto& [caption, codes] : rows) {
     Click(caption);
     EXPECT_EQ(Sent(), DefaultPrefix + codes) << caption;
   }
   Tick("chkApplyControlsBeforeSounds", false);
   Click("IY");
   EXPECT_EQ(Sent(), "\x80");
-  EXPECT_EQ(SayData(), "|") << "a click inserts nothing";
+  QTest::keyClicks(QApplication::focusWidget(), "x");
+  EXPECT_EQ(SayData(), "x|") << "the caret stays, and nothing is inserted";
 }
 
 TEST_F(SoundPaletteTest, SendsTheSoundAfterARepeatWithoutPrefix) {
@@ -104,17 +96,15 @@ TEST_F(SoundPaletteTest, RefusesAValueOutsideAByteButInsertsIt) {
 }
 
 TEST_F(SoundPaletteTest, PlaysOnceAndInsertsOnceAtADoubleClick) {
-  for (const auto& [caption, codes, inserted, milliseconds] :
-       Rows<const char*, std::string, const char*, int>{
-           {"IY", "\x80", "\\IY |", 50},
-           {"IY", "\x80", "\\IY |", 300},
-           {"NTC#1", "\x16\x23", "\\NTC#1 |", 100},
-           {"POut", "\x19\x07", "\\POut \\7 |", 200}}) {
+  const Rows<int, const char*, std::string, const char*> rows = {
+      {50, "IY", DefaultPrefix + "\x80", "\\IY |"},
+      {300, "IY", DefaultPrefix + "\x80", "\\IY |"},
+      {200, "POut", DefaultPrefix + "\x19\x07", "\\POut \\7 |"},
+      {100, "NTC#1", DefaultPrefix + "\x16\x23", "\\NTC#1 |"}};
+  for (const auto& [milliseconds, caption, sent, inserted] : rows) {
     Press("btnClear");
-    Press("bntSayIt");
-    const std::string prefix = Sent();
     DoubleClick(caption, milliseconds);
-    EXPECT_EQ(Sent(), prefix + codes) << caption;
+    EXPECT_EQ(Sent(), sent) << caption;
     EXPECT_EQ(SayData(), inserted);
   }
 }
@@ -149,12 +139,6 @@ TEST_F(SoundPaletteTest, AsksAboutWaitOnceAtAClickAndAtADoubleClick) {
   }
 }
 
-TEST_F(SoundPaletteTest, LeavesTheCaretInTheSayDataWhenItIsClicked) {
-  Click("IY");
-  QTest::keyClicks(QApplication::focusWidget(), "x");
-  EXPECT_EQ(SayData(), "x|");
-}
-
 class PaletteKeysTest : public SoundPaletteTest {
  protected:
   void Focus(const char* zFrame) { Get<QWidget>(zFrame)->setFocus(Qt::TabFocusReason); }
@@ -173,11 +157,17 @@ TEST_F(PaletteKeysTest, MovePlayAndInsert) {
   EXPECT_EQ(Sent(), DefaultPrefix + "\x8B") << "UW";
   Key(Qt::Key_Down);
   Key(Qt::Key_Insert);
-  EXPECT_EQ(Sent(), "") << "inserting plays nothing";
   Key(Qt::Key_End);
   Key(Qt::Key_Enter, Qt::ControlModifier);
-  EXPECT_EQ(SayData(), "\\UH \\AW |");
   EXPECT_TRUE(Get<QWidget>("Frame1")->hasFocus());
+  Focus("Frame9");
+  Key(Qt::Key_Space);
+  Key(Qt::Key_Insert);
+  EXPECT_EQ(Sent(), "") << "inserting plays nothing, a click on a voice label neither";
+  EXPECT_EQ(SayData(), "\\UH \\AW \\VOLUME \\96 |");
+  Key(Qt::Key_End);
+  Key(Qt::Key_Space);
+  EXPECT_EQ(Sent(), DefaultPrefix + "\x1F");
   Click("EB");
   Sent();
   Focus("Frame5");
@@ -196,20 +186,6 @@ TEST_F(PaletteKeysTest, MarkTheCurrentMemberVisiblyAndDescribeIt) {
   EXPECT_NE(Picture("UW"), marked);
   EXPECT_EQ(Member("IY")->accessibleName(), "IY");
   EXPECT_EQ(Member("IY")->accessibleDescription(), "See, Even, Feed");
-}
-
-TEST_F(PaletteKeysTest, ReachTheVoiceLabelsAndReset) {
-  Focus("Frame9");
-  Key(Qt::Key_Space);
-  EXPECT_EQ(Sent(), "") << "a click on a voice label does nothing";
-  Key(Qt::Key_Insert);
-  Key(Qt::Key_Down);
-  Key(Qt::Key_Down);
-  Key(Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(SayData(), "\\VOLUME \\96 \\PITCH \\88 |");
-  Key(Qt::Key_End);
-  Key(Qt::Key_Space);
-  EXPECT_EQ(Sent(), DefaultPrefix + "\x1F");
 }
 
 TEST_F(PaletteKeysTest, AreLeftAloneInAValueBox) {
