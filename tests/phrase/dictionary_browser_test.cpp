@@ -64,7 +64,8 @@ TEST_F(DictionaryBrowserTest, StepsToAllWordsOrThoseWithOrWithoutData) {
   Box("txtfindwith")->SetText("\\ke");
   EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84") << "round to itself";
   GivenModes(false, true);
-  EXPECT_EQ(Step(), "apple:  |: ") << "and says nothing";
+  Tick("chkApplyControlsBeforeSayData", true);
+  EXPECT_EQ(Step(), "apple:  |: ") << "and says nothing, the prefix neither";
 }
 
 TEST(DictionaryWords, AreFoundByTheCapitalsOfAText) {

@@ -29,13 +29,14 @@ TEST(SoundCommand, ReadsAValueBoxAsAByte) {
 }
 
 TEST_F(SoundPaletteTest, PlaysWhatIsClicked) {
-  const Rows<const char*, std::string> rows = {
-      {"IY", "\x80"},        {"P0", std::string(1, '\0')},
-      {"D11", "\xFB"},       {"Call", std::string("\x1C\0", 2)},
-      {"Play", "\x1D\x04"},  {"PCtrl", "\x18\x07"},
-      {"Delay", "\x1E\x64"}, {"Stress", "\x0E"}};
-  Type("txtPlay", "3.5");
-  SayDataBox()->setFocus();
+  const Rows<const char*, std::string> rows = {{"IY", "\x80"},
+                                               {"P0", std::string(1, '\0')},
+                                               {"D11", "\xFB"},
+                                               {"Call", std::string("\x1C\0", 2)},
+                                               {"Play", std::string("\x1D\0", 2)},
+                                               {"PCtrl", "\x18\x07"},
+                                               {"Delay", "\x1E\x64"},
+                                               {"Stress", "\x0E"}};
   for (const auto& [caption, codes] : rows) {
     Click(caption);
     EXPECT_EQ(Sent(), DefaultPrefix + codes) << caption;

@@ -12,11 +12,12 @@ namespace {
 
 constexpr int Gap = 4;  // pixels between the mark and the caption
 
-/// The part of the button that the frame around it does not cut off.
+/// The part of the button that lies inside the border of the frame around it.
 QRect VisiblePart(const QWidget* zButton) {
   const QWidget* parent = zButton->parentWidget();
-  return parent == nullptr ? zButton->rect()
-                           : zButton->rect() & parent->rect().translated(-zButton->pos());
+  return parent == nullptr
+             ? zButton->rect()
+             : zButton->rect() & parent->rect().adjusted(0, 0, -1, -1).translated(-zButton->pos());
 }
 
 /// The style's outline of a mark hardly shows on dark windows.
