@@ -52,12 +52,16 @@ TEST_F(VirtualOrvatoneTest, PrintsALineAnEventForEveryClientAndShowsHalfACommand
       {"\0\x1d\n"s, "code 0 \\P0\ncontrol 29 \\PLAY 10: empty\n"},  // both pass through unchanged
       {"\x16", "incomplete: 16  .\n"},
       {"\x05", "control 22 \\PITCH 5\n"},  // its rest
+      {"\\0", "incomplete: 5C 30  \\0\n"},
   };
   for (const auto& client : clients) {
     Send(client.bytes);
     lines += client.lines;
     ExpectPrinted(program, lines);
   }
+  program.Signal(SIGTERM);
+  EXPECT_EQ(program.WaitForEnd(), 0);
+  EXPECT_EQ(program.Output(), lines);  // what has been shown is not shown again
 }
 
 TEST_F(VirtualOrvatoneTest, StopsCleanlyAndRemovesItsLink) {
