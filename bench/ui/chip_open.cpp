@@ -8,57 +8,35 @@
 #include <filesystem>
 
 #include "bench/support/sample_dictionary.h"
-#include "tests/support/scripted_port.h"
-#include "tests/support/scripted_prompts.h"
+#include "bench/support/window_main.h"
+#include "tests/support/program.h"
 #include "ui/chip/frm_buttons.h"
 #include "ui/chip/frm_eeprom.h"
 
 namespace loquitor {
 namespace {
 
-class SilentHost : public SenderHost {
- public:
-  std::string PortDevice() const override { return {}; }
-  bool IsFlowControlTicked() const override { return false; }
-  void ShowPortState(PortState) override {}
-  bool ConfirmLongPhrase() override { return true; }
-  void StopClosingTimer() override {}
-  void StartClosingTimer(int) override {}
-  void LetEventsRun() override {}
-  void WaitForEvents() override {}
-  void SetTicking(bool) override {}
-};
-
-/// The program around the windows, its settings and dictionary in a folder of their own.
-struct Program {
-  Program() {
-    codeTable.BuildCodeTable();
+/// The program over a large dictionary, with sixteen long phrases stored.
+struct FullProgram {
+  FullProgram() {
     for (int slot = 0; slot < PhraseSlotCount; ++slot) {
       std::string phrase;
       for (int word = 0; phrase.size() < 240; ++word) {
         phrase += bench::SampleDictionary::Word(slot * 1000 + word) + ' ';
       }
-      static_cast<void>(settings.SaveIniValue("EEPROM", "Phrase" + std::to_string(slot), phrase));
+      static_cast<void>(
+          program.settings.SaveIniValue("EEPROM", "Phrase" + std::to_string(slot), phrase));
     }
     bench::SampleDictionary::LetItSettle();
   }
 
   bench::SampleDictionary words{130'000};
-  CodeTable codeTable;
-  DictionaryStore dictionary{words.Folder()};
-  SettingsFile settings{words.Folder()};
-  SayDataTranslator translator{codeTable, dictionary};
-  testing::ScriptedPort port;
-  SilentHost host;
-  CodeSender sender{port, host, settings};
-  testing::ScriptedPrompts prompts;
-  SharedState shared;
-  EditorContext context{codeTable, translator, dictionary, settings, sender, prompts, shared};
+  testing::Program program{words.Folder()};
 };
 
 template <class Window>
-void OpenAndClose(benchmark::State& zState, Program& zProgram) {
-  Window window(nullptr, zProgram.context);
+void OpenAndClose(benchmark::State& zState, FullProgram& zProgram) {
+  Window window(nullptr, zProgram.program.context);
   window.Open();
   QApplication::processEvents();
   zState.PauseTiming();
@@ -72,28 +50,28 @@ std::filesystem::file_time_type Now() {
 
 /// The dictionary has just been saved by someone, so the first lookup reads it anew.
 void OpenEepromEditorFirst(benchmark::State& zState) {
-  Program program;
+  FullProgram full;
   for (auto _ : zState) {
     zState.PauseTiming();
-    std::filesystem::last_write_time(program.words.File(), Now());
+    std::filesystem::last_write_time(full.words.File(), Now());
     bench::SampleDictionary::LetItSettle();
     zState.ResumeTiming();
-    OpenAndClose<frmEEPROM>(zState, program);
+    OpenAndClose<frmEEPROM>(zState, full);
   }
 }
 BENCHMARK(OpenEepromEditorFirst)->Unit(benchmark::kMillisecond)->Iterations(10)->UseRealTime();
 
 void OpenEepromEditorAgain(benchmark::State& zState) {
-  Program program;
+  FullProgram full;
   for (auto _ : zState) {
-    OpenAndClose<frmEEPROM>(zState, program);
+    OpenAndClose<frmEEPROM>(zState, full);
   }
 }
 BENCHMARK(OpenEepromEditorAgain)->Unit(benchmark::kMillisecond)->Iterations(20)->UseRealTime();
 
 void ChangeAPhrase(benchmark::State& zState) {
-  Program program;
-  frmEEPROM window(nullptr, program.context);
+  FullProgram full;
+  frmEEPROM window(nullptr, full.program.context);
   window.Open();
   for (auto _ : zState) {
     window.ReportUsed();
@@ -103,19 +81,19 @@ void ChangeAPhrase(benchmark::State& zState) {
 BENCHMARK(ChangeAPhrase)->Unit(benchmark::kMillisecond)->Iterations(100)->UseRealTime();
 
 void OpenEventWindow(benchmark::State& zState) {
-  Program program;
+  FullProgram full;
   for (auto _ : zState) {
-    OpenAndClose<frmButtons>(zState, program);
+    OpenAndClose<frmButtons>(zState, full);
   }
 }
 BENCHMARK(OpenEventWindow)->Unit(benchmark::kMillisecond)->Iterations(20)->UseRealTime();
 
 /// Each time with another phrase number, so that the settings change.
 void CloseEventWindow(benchmark::State& zState) {
-  Program program;
+  FullProgram full;
   for (auto _ : zState) {
     zState.PauseTiming();
-    frmButtons window(nullptr, program.context);
+    frmButtons window(nullptr, full.program.context);
     window.Open();
     auto* box = window.findChild<TextBox*>("txtPhrase(3)");
     box->SetText(box->Text() == "1" ? "2" : "1");
@@ -128,9 +106,6 @@ BENCHMARK(CloseEventWindow)->Unit(benchmark::kMillisecond)->Iterations(20)->UseR
 }  // namespace
 }  // namespace loquitor
 
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  application.setQuitOnLastWindowClosed(false);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
+int main(int zCount, char** zArguments) {
+  return loquitor::bench::RunWithWindows(zCount, zArguments);
 }

@@ -5,13 +5,15 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QTest>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string>
 
 #include "bench/support/sample_dictionary.h"
-#include "tests/support/window_test.h"
+#include "bench/support/window_main.h"
+#include "tests/support/program.h"
 #include "ui/dictedit/frm_dict_edit.h"
 #include "ui/toolkit/large_blocks.h"
 
@@ -21,16 +23,16 @@ namespace {
 using bench::SampleDictionary;
 
 /// Everything but the main window, over the dictionary of one size.
-class Editor : public testing::WindowTest {
+class Editor {
  public:
-  explicit Editor(std::int64_t zSize) : sample_(zSize), store_(sample_.Folder()) {
+  explicit Editor(std::int64_t zSize) : sample_(zSize) {
     std::filesystem::current_path(sample_.Folder());
     LengthenEntries();
   }
-  ~Editor() override { std::filesystem::current_path("/"); }
+  ~Editor() { std::filesystem::current_path("/"); }
 
   void Open() {
-    window_ = std::make_unique<frmDictEdit>(nullptr, editorContext_);
+    window_ = std::make_unique<frmDictEdit>(nullptr, program_.context);
     window_->Open();
     window_->repaint();
     QCoreApplication::processEvents();
@@ -52,8 +54,6 @@ class Editor : public testing::WindowTest {
   }
 
  private:
-  void TestBody() override {}
-
   /// Makes the lines 46 bytes long on average, as in a dictionary of a language, and adds a blank
   /// entry at the top.
   void LengthenEntries() {
@@ -66,8 +66,7 @@ class Editor : public testing::WindowTest {
   }
 
   SampleDictionary sample_;
-  DictionaryStore store_;
-  EditorContext editorContext_{codeTable, translator, store_, settings, sender, prompts, shared};
+  testing::Program program_{sample_.Folder()};
   std::unique_ptr<frmDictEdit> window_;
 };
 
@@ -214,8 +213,5 @@ BENCHMARK(BM_PeakMemory)->Arg(130'000)->Arg(1'000'000)->Iterations(1);
 
 int main(int zCount, char** zArguments) {
   loquitor::ReturnLargeBlocksAtOnce();  // as the program does
-  QApplication application(zCount, zArguments);
-  benchmark::Initialize(&zCount, zArguments);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
+  return loquitor::bench::RunWithWindows(zCount, zArguments);
 }

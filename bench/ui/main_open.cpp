@@ -5,22 +5,14 @@
 
 #include <QApplication>
 
-#include "tests/support/scripted_port.h"
-#include "tests/support/scripted_prompts.h"
+#include "bench/support/window_main.h"
+#include "tests/support/program.h"
 #include "tests/support/temp_folder.h"
 #include "ui/main/frm_codes.h"
 #include "ui/main/frm_utility.h"
 
 namespace loquitor {
 namespace {
-
-struct Program {
-  testing::TempFolder folder;
-  SettingsFile settings{folder.Path()};
-  DictionaryStore dictionary{folder.Path()};
-  testing::ScriptedPort port;
-  testing::ScriptedPrompts prompts;
-};
 
 void BareWindow(benchmark::State& zState) {
   for (auto _ : zState) {
@@ -32,7 +24,8 @@ void BareWindow(benchmark::State& zState) {
 }
 
 void MainWindow(benchmark::State& zState) {
-  Program program;
+  const testing::TempFolder folder;
+  testing::Program program(folder.Path());
   for (auto _ : zState) {
     frmUtility window(program.port, program.settings, program.dictionary, program.prompts);
     window.Open();
@@ -41,7 +34,8 @@ void MainWindow(benchmark::State& zState) {
 }
 
 void CodesViewer(benchmark::State& zState) {
-  Program program;
+  const testing::TempFolder folder;
+  testing::Program program(folder.Path());
   frmUtility owner(program.port, program.settings, program.dictionary, program.prompts);
   owner.Context().shared.OrvatoneCodes = CodeListText(std::string(10'000, '\x80'));
   for (auto _ : zState) {
@@ -59,10 +53,6 @@ BENCHMARK(CodesViewer)->Unit(benchmark::kMillisecond);
 }  // namespace
 }  // namespace loquitor
 
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
+int main(int zCount, char** zArguments) {
+  return loquitor::bench::RunWithWindows(zCount, zArguments);
 }

@@ -5,12 +5,10 @@
 
 #include <QApplication>
 #include <QPushButton>
-#include <memory>
 
 #include "bench/support/sample_dictionary.h"
-#include "tests/support/scripted_host.h"
-#include "tests/support/scripted_port.h"
-#include "tests/support/scripted_prompts.h"
+#include "bench/support/window_main.h"
+#include "tests/support/program.h"
 #include "ui/phrase/frm_phrase.h"
 #include "ui/toolkit/check_box.h"
 #include "ui/toolkit/text_box.h"
@@ -20,34 +18,11 @@ namespace {
 
 using bench::SampleDictionary;
 
-/// What the window needs around it, on the dictionary of a folder and a line that takes everything.
-class Program {
- public:
-  explicit Program(const std::filesystem::path& zFolder)
-      : dictionary_(zFolder), settings_(zFolder) {
-    codeTable_.BuildCodeTable();
-  }
-  const EditorContext& Context() const { return context_; }
-
- private:
-  CodeTable codeTable_;
-  DictionaryStore dictionary_;
-  SettingsFile settings_;
-  SayDataTranslator translator_{codeTable_, dictionary_};
-  testing::ScriptedPort port_;
-  testing::ScriptedHost host_;
-  CodeSender sender_{port_, host_, settings_};
-  testing::ScriptedPrompts prompts_;
-  SharedState shared_;
-  EditorContext context_{codeTable_, translator_, dictionary_, settings_,
-                         sender_,    prompts_,    shared_};
-};
-
 void OpenTheWindow(benchmark::State& zState) {
   const SampleDictionary dictionary(0);
-  const Program program(dictionary.Folder());
+  testing::Program program(dictionary.Folder());
   for (auto _ : zState) {
-    frmPhrase window(nullptr, program.Context());
+    frmPhrase window(nullptr, program.context);
     window.Open();
     benchmark::DoNotOptimize(window.grab());  // with everything painted
   }
@@ -56,9 +31,9 @@ BENCHMARK(OpenTheWindow)->Unit(benchmark::kMillisecond);
 
 /// Steps through a dictionary, with data only when `zIsWithDataOnly`.
 void Step(benchmark::State& zState, const SampleDictionary& zDictionary, bool zIsWithDataOnly) {
-  const Program program(zDictionary.Folder());
+  testing::Program program(zDictionary.Folder());
   SampleDictionary::LetItSettle();
-  frmPhrase window(nullptr, program.Context());
+  frmPhrase window(nullptr, program.context);
   window.Open();
   window.findChild<CheckBox*>("chkWithout")->SetValue(zIsWithDataOnly ? 0 : 1);
   auto* button = window.findChild<QPushButton*>("btnNextWord");
@@ -86,8 +61,6 @@ BENCHMARK(NextWordWithData)->Arg(100'000)->Unit(benchmark::kMillisecond);
 }  // namespace
 }  // namespace loquitor
 
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
+int main(int zCount, char** zArguments) {
+  return loquitor::bench::RunWithWindows(zCount, zArguments);
 }

@@ -6,8 +6,8 @@
 
 #include <QApplication>
 
-#include "tests/support/scripted_port.h"
-#include "tests/support/scripted_prompts.h"
+#include "bench/support/window_main.h"
+#include "tests/support/program.h"
 #include "tests/support/temp_folder.h"
 #include "ui/synth/frm_synth_ctrl.h"
 #include "ui/toolkit/scroll_bar.h"
@@ -15,36 +15,9 @@
 namespace loquitor {
 namespace {
 
-class BenchHost : public SenderHost {
- public:
-  std::string PortDevice() const override { return "bench"; }
-  bool IsFlowControlTicked() const override { return false; }
-  void ShowPortState(PortState) override {}
-  bool ConfirmLongPhrase() override { return true; }
-  void StopClosingTimer() override {}
-  void StartClosingTimer(int) override {}
-  void LetEventsRun() override { QApplication::processEvents(); }
-  void WaitForEvents() override { QApplication::processEvents(); }
-  void SetTicking(bool) override {}
-};
-
-/// The program around the window, its sound library in a folder of its own.
-struct Program {
-  testing::TempFolder folder;
-  CodeTable codeTable;
-  DictionaryStore dictionary{folder.Path()};
-  SettingsFile settings{folder.Path()};
-  SayDataTranslator translator{codeTable, dictionary};
-  testing::ScriptedPort port;
-  BenchHost host;
-  CodeSender sender{port, host, settings};
-  testing::ScriptedPrompts prompts;
-  SharedState shared;
-  EditorContext context{codeTable, translator, dictionary, settings, sender, prompts, shared};
-};
-
 void OpenSynthWindow(benchmark::State& zState) {
-  Program program;
+  const testing::TempFolder folder;
+  testing::Program program(folder.Path());
   for (auto _ : zState) {
     program.port.written.clear();
     FrmSynthCtrl window(nullptr, program.context);
@@ -60,7 +33,8 @@ void OpenSynthWindow(benchmark::State& zState) {
 BENCHMARK(OpenSynthWindow)->Unit(benchmark::kMillisecond)->Iterations(30)->UseRealTime();
 
 void MoveBar(benchmark::State& zState, const char* zBar, int zFrom, int zTo) {
-  Program program;
+  const testing::TempFolder folder;
+  testing::Program program(folder.Path());
   FrmSynthCtrl window(nullptr, program.context);
   window.Open();
   QApplication::processEvents();
@@ -81,9 +55,6 @@ BENCHMARK_CAPTURE(MoveBar, VolumeAdj, "scVolAdjTone", 100, 200)->Iterations(300)
 }  // namespace
 }  // namespace loquitor
 
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  application.setQuitOnLastWindowClosed(false);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
+int main(int zCount, char** zArguments) {
+  return loquitor::bench::RunWithWindows(zCount, zArguments);
 }

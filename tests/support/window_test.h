@@ -8,26 +8,21 @@
 #include <stdexcept>
 #include <string>
 
-#include "core/code_table.h"
-#include "core/dictionary_store.h"
-#include "core/say_data.h"
-#include "link/code_sender.h"
-#include "link/settings_file.h"
-#include "tests/support/scripted_host.h"
-#include "tests/support/scripted_port.h"
-#include "tests/support/scripted_prompts.h"
+#include "tests/support/program.h"
 #include "tests/support/temp_folder.h"
-#include "ui/toolkit/editor_context.h"
 #include "ui/toolkit/text_box.h"
 #include "ui/toolkit/tool_window.h"
 
 namespace loquitor::testing {
 
-/// The program without its main window: real files in a folder of the test's own, a scripted port
-/// and scripted answers.
-class WindowTest : public ::testing::Test {
+struct InFolder {
+  TempFolder folder;
+};
+
+/// A test with the program without its main window, in a folder of the test's own.
+class WindowTest : public ::testing::Test, protected InFolder, protected Program {
  protected:
-  WindowTest() { codeTable.BuildCodeTable(); }
+  WindowTest() : Program(folder.Path()) {}
 
   /// Writes the dictionary, one section with these entries.
   void GivenDictionary(std::string_view zEntries) {
@@ -36,18 +31,6 @@ class WindowTest : public ::testing::Test {
 
   /// What has gone out on the line since the last call.
   std::string Sent() { return port.TakeWritten(); }
-
-  TempFolder folder;
-  CodeTable codeTable;
-  DictionaryStore dictionary{folder.Path()};
-  SettingsFile settings{folder.Path()};
-  SayDataTranslator translator{codeTable, dictionary};
-  ScriptedPort port;
-  ScriptedHost host;
-  CodeSender sender{port, host, settings};
-  ScriptedPrompts prompts;
-  SharedState shared;
-  EditorContext context{codeTable, translator, dictionary, settings, sender, prompts, shared};
 };
 
 /// A test of one window, with verbs for what its user does.

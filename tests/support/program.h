@@ -1,0 +1,36 @@
+#pragma once
+
+#include <filesystem>
+
+#include "core/code_table.h"
+#include "core/dictionary_store.h"
+#include "core/say_data.h"
+#include "link/code_sender.h"
+#include "link/settings_file.h"
+#include "tests/support/scripted_host.h"
+#include "tests/support/scripted_port.h"
+#include "tests/support/scripted_prompts.h"
+#include "ui/toolkit/editor_context.h"
+
+namespace loquitor::testing {
+
+/// The program without its main window: the real files of a folder, a scripted port and scripted
+/// answers. What tests and benchmarks open windows in.
+struct Program {
+  explicit Program(const std::filesystem::path& zFolder) : dictionary(zFolder), settings(zFolder) {
+    codeTable.BuildCodeTable();
+  }
+
+  CodeTable codeTable;
+  DictionaryStore dictionary;
+  SettingsFile settings;
+  SayDataTranslator translator{codeTable, dictionary};
+  ScriptedPort port;
+  ScriptedHost host;
+  CodeSender sender{port, host, settings};
+  ScriptedPrompts prompts;
+  SharedState shared;
+  EditorContext context{codeTable, translator, dictionary, settings, sender, prompts, shared};
+};
+
+}  // namespace loquitor::testing
