@@ -103,9 +103,10 @@ TEST(DictionaryText, SortingAStretchAgreesWithAPlainByteComparisonOnRandomLines)
     const std::vector<std::string> given = texts;
     std::vector<std::string_view> lines(given.begin(), given.end());
     const std::size_t first = random() % texts.size();
-    const std::size_t end = first + random() % (texts.size() - first + 1);
-    SortDictionaryLines(lines, first, end - 1);
-    std::sort(texts.begin() + static_cast<int>(first), texts.begin() + static_cast<int>(end));
+    const std::size_t last = first + random() % (texts.size() - first);
+    SortDictionaryLines(lines, last + 1, last);  // an empty stretch
+    SortDictionaryLines(lines, first, last);
+    std::sort(texts.begin() + static_cast<int>(first), texts.begin() + static_cast<int>(last) + 1);
     EXPECT_TRUE(std::equal(lines.begin(), lines.end(), texts.begin(), texts.end())) << round;
   }
 }
