@@ -3,7 +3,9 @@
 #include <QTimer>
 #include <random>
 
+#include "link/scp.h"
 #include "tests/support/simulated_line.h"
+#include "tests/support/turn_host.h"
 #include "tests/synth/synth_test.h"
 
 namespace loquitor::testing {
@@ -203,6 +205,26 @@ TEST_F(HeldBackSynthTest, AWriterThatGivesUpWaitsForNoByteInThePortsQueue) {
   writer.Write(1, 6);
   EXPECT_FALSE(isStuck);
   EXPECT_EQ(Sent(), Writes({{1, 5}}));
+}
+
+/// The sends of windows closed since may still wait, as deep in each other as sends go.
+TEST_F(HeldBackSynthTest, AWriterWhoseBytesAreLeftToAnotherSendWritesEachRegisterOnceMore) {
+  TurnHost turns;
+  CodeSender deep(port, turns, settings);
+  RegisterWriter writer(deep, [](int zNumber) { return zNumber; });
+  port.isHeldBack = true;
+  turns.acts.assign(7, [&] { deep.SendCodesToOrvatone("x", false); });
+  turns.acts.push_back([&] {
+    writer.Write(11, 11);
+    writer.Write(12, 12);
+    port.isHeldBack = false;
+  });
+  Sent();
+  deep.SendCodesToOrvatone("x", false);
+  const std::string written = Sent();
+  EXPECT_NE(written.find(RegisterWrite(11, 11)), std::string::npos);
+  EXPECT_TRUE(written.ends_with(RegisterWrite(12, 12)));
+  EXPECT_LT(written.size(), 60U);
 }
 
 TEST_F(HeldBackSynthTest, AWriterThatGivesUpLeavesTheSendOfAnotherWindowAlone) {

@@ -65,11 +65,15 @@ void RegisterWriter::Send(Registers zRegister, std::string_view zText) {
 }
 
 void RegisterWriter::WriteWhatWasCut() {
-  for (int number = 0; cut_.any() && !sender_.HasFailed(); number = (number + 1) % RegisterCount) {
-    if ((cut_ & Only(number)).any()) {
-      cut_ &= ~Only(number);
-      Send(number, shownValue_(number));
+  bool isLeftToOther = false;  // a send further out has the bytes, and keeps those of a turn whole
+  while (cut_.any() && !isLeftToOther && !sender_.HasFailed()) {
+    for (int number = 0; number < RegisterCount; ++number) {
+      if ((cut_ & Only(number)).any()) {
+        cut_ &= ~Only(number);
+        Send(number, shownValue_(number));
+      }
     }
+    isLeftToOther = !sender_.PendingOutput().empty();
   }
   cut_.reset();
 }
