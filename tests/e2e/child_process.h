@@ -26,7 +26,7 @@ class ChildProcess {
 
   /// Waits for its end, at most `zSeconds`; the exit status, or -1 when it still runs or died of a
   /// signal.
-  int WaitForEnd(int zSeconds = 10);
+  int WaitForEnd(int zSeconds = 30);
 
   pid_t Pid() const { return pid_; }
 
@@ -44,7 +44,7 @@ std::string RunCommand(const std::vector<std::string>& zCommand,
 
 /// Asks `zCondition` every few milliseconds until it holds; false after `zSeconds`.
 template <class Condition>
-bool Await(Condition zCondition, double zSeconds = 10);
+bool Await(Condition zCondition, double zSeconds = 30);
 
 }  // namespace loquitor::testing
 
