@@ -23,6 +23,9 @@ void EventTurns::LetEventsRun() {
 
 void EventTurns::WaitForEvents() {
   Q_ASSERT(ticks_.isActive());
+  // Where this is called out of a posted event, the dispatcher does not know of those behind it and
+  // would leave them until another one is posted.
+  QCoreApplication::sendPostedEvents();
   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 

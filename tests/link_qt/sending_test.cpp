@@ -107,6 +107,15 @@ TEST_F(SendingTest, ShutUpFollowsWhatHasGoneOut) {
   EXPECT_EQ(received.find_first_not_of('x'), received.size() - StopSequence().size());
 }
 
+TEST_F(SendingTest, WhatWasPostedBehindAHeldBackSendRunsWhileItWaits) {
+  chip.HoldBack();
+  QTimer::singleShot(0, &poll, [this] { Send(tooLong); });
+  QTimer::singleShot(0, &poll, [this] { sender.ClearPendingOutput(); });
+  QTimer::singleShot(5000, &poll, [this] { chip.HangUp(); });
+  QCoreApplication::processEvents();
+  EXPECT_EQ(host.log, "green ") << "the send went on until the line was pulled away";
+}
+
 TEST_F(SendingTest, AHeldBackLineGoesOnInALoopOfAModalWindowAndBehindIt) {
   std::string received;
   QTimer reading;

@@ -3,8 +3,12 @@
 #include <QRegularExpression>
 #include <QTimer>
 #include <QWheelEvent>
+#include <functional>
+#include <memory>
 #include <random>
 
+#include "link/qt/qt_serial_port.h"
+#include "tests/support/pseudo_terminal.h"
 #include "tests/support/window_test.h"
 #include "ui/main/frm_utility.h"
 #include "ui/toolkit/tool_window.h"
@@ -12,16 +16,31 @@
 namespace loquitor::testing {
 namespace {
 
-constexpr int ActionCount = 2000;
+/// The same luck each time for the same seed.
+class Luck {
+ public:
+  explicit Luck(unsigned zSeed) : numbers_(zSeed) {}
 
-/// Someone who clicks, types, drags and closes whatever is in front, without a plan but with the
-/// same luck each time.
+  /// 0 to below `zBelow`.
+  int Random(std::size_t zBelow) { return zBelow == 0 ? 0 : static_cast<int>(numbers_() % zBelow); }
+  int Random(int zBelow) { return Random(static_cast<std::size_t>(zBelow)); }
+  bool Chance(int zOneIn) { return Random(zOneIn) == 0; }
+
+ private:
+  std::mt19937 numbers_;
+};
+
+/// Someone who clicks, types, drags and closes whatever is in front, without a plan.
 class RestlessUser : public QObject {
  public:
-  RestlessUser(QWidget* zMainWindow, unsigned zSeed) : mainWindow_(zMainWindow), luck_(zSeed) {}
+  RestlessUser(QWidget* zMainWindow, Luck& zLuck, int zActions)
+      : mainWindow_(zMainWindow), luck_(zLuck), left_(zActions) {}
 
   void Start() { ScheduleNext(); }
-  int ActionsDone() const { return done_; }
+  int ActionsLeft() const { return left_; }
+
+  /// Happens now and then between two actions.
+  std::function<void()> onMishap;
 
  private:
   void ScheduleNext() {
@@ -29,11 +48,14 @@ class RestlessUser : public QObject {
   }
 
   void Act() {
-    if (done_ == ActionCount) {
+    if (left_ == 0) {
       CloseEverything();
       return;
     }
-    ++done_;
+    --left_;
+    if (Chance(40)) {
+      onMishap();
+    }
     ScheduleNext();  // first: the action may open a window and not return before it is closed
     QWidget* window = QApplication::activeModalWidget();
     if (window != nullptr && Chance(80)) {
@@ -43,12 +65,14 @@ class RestlessUser : public QObject {
     }
   }
 
+  /// Window by window, as a person does, or all at once, as the end of a session does.
   void CloseEverything() {
-    if (QWidget* window = QApplication::activeModalWidget()) {
+    QWidget* window = QApplication::activeModalWidget();
+    if (window == nullptr || Chance(3)) {
+      mainWindow_->close();
+    } else {
       ScheduleNext();
       window->close();
-    } else {
-      mainWindow_->close();
     }
   }
 
@@ -115,13 +139,51 @@ class RestlessUser : public QObject {
     }
   }
 
-  int Random(std::size_t zBelow) { return zBelow == 0 ? 0 : static_cast<int>(luck_() % zBelow); }
-  int Random(int zBelow) { return Random(static_cast<std::size_t>(zBelow)); }
-  bool Chance(int zOneIn) { return Random(zOneIn) == 0; }
+  int Random(std::size_t zBelow) { return luck_.Random(zBelow); }
+  int Random(int zBelow) { return luck_.Random(zBelow); }
+  bool Chance(int zOneIn) { return luck_.Chance(zOneIn); }
 
   QWidget* mainWindow_;
-  std::mt19937 luck_;
-  int done_ = 0;
+  Luck& luck_;
+  int left_;
+};
+
+/// Answers each question with any of its buttons.
+class RashPrompts : public Prompts {
+ public:
+  explicit RashPrompts(Luck& zLuck) : luck_(zLuck) {}
+
+  PromptAnswer Ask(QWidget*, const QString&, const QString& zText,
+                   PromptButtons zButtons) override {
+    asked.push_back(zText);
+    switch (zButtons) {
+      case PromptButtons::Ok:
+        return PromptAnswer::Ok;
+      case PromptButtons::OkCancel:
+        return luck_.Chance(2) ? PromptAnswer::Ok : PromptAnswer::Cancel;
+      case PromptButtons::YesNoCancel:
+        if (luck_.Chance(3)) {
+          return PromptAnswer::Cancel;
+        }
+        [[fallthrough]];
+      case PromptButtons::YesNo:
+        break;
+    }
+    return luck_.Chance(2) ? PromptAnswer::Yes : PromptAnswer::No;
+  }
+
+  std::optional<QString> AskText(QWidget*, const QString&, const QString& zPrompt,
+                                 const QString& zInitial) override {
+    asked.push_back(zPrompt);
+    return luck_.Chance(3)   ? std::nullopt
+           : luck_.Chance(2) ? std::optional(zInitial)
+                             : QStringLiteral("o");
+  }
+
+  std::vector<QString> asked;
+
+ private:
+  Luck& luck_;
 };
 
 /// Whether a restless user, whose disk and port are in order, can have brought up the box himself.
@@ -136,21 +198,96 @@ bool MayBeAsked(const QString& zText) {
   return boxes.match(zText).hasMatch();
 }
 
-TEST_F(WindowTest, SurvivesTwoThousandRandomActionsWithoutABoxThatNobodyAskedFor) {
-  GivenDictionary("cat=\\KE \\AY \\TT\r\ndog=\\DO \\AW \\OG\r\nempty=\r\n");
-  std::filesystem::current_path(folder.Path());
-  WriteBytes(folder / "ImportWords.txt", "cat mouse don't\n");
-  frmUtility mainWindow(port, settings, dictionary, prompts);
-  mainWindow.Open();
-  RestlessUser user(&mainWindow, 20261122);
-  user.Start();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !mainWindow.isVisible(); }, 240'000));
+/// A number from the environment, for longer runs by hand.
+int Given(const char* zVariable, int zDefault) {
+  return qEnvironmentVariableIsSet(zVariable) ? qEnvironmentVariableIntValue(zVariable) : zDefault;
+}
 
-  EXPECT_EQ(user.ActionsDone(), ActionCount);
-  EXPECT_FALSE(port.IsOpen());
-  for (const ScriptedPrompts::Asked& asked : prompts.asked) {
-    EXPECT_TRUE(MayBeAsked(asked.text)) << asked.text.toStdString();
+class RandomActions : public WindowTest {
+ protected:
+  RandomActions() {
+    std::string entries = "cat=\\KE \\AY \\TT\r\ndog=\\DO \\AW \\OG\r\nempty=\r\nlong=";
+    for (int copies = 0; copies < 200; ++copies) {
+      entries += "\\IY";
+    }
+    GivenDictionary(entries + "\r\n");
+    std::filesystem::current_path(folder.Path());
+    WriteBytes(folder / "ImportWords.txt", "cat mouse don't\n");
+    std::string ports = "[Ports]\r\n";
+    for (int number = 1; number < 200; ++number) {
+      ports += std::to_string(number) + "=" + (folder / "line").string() + "\r\n";
+    }
+    WriteBytes(folder / "Loquitor.ini", ports + "[EEPROM]\r\nPhrase0=cat long dog\r\n");
   }
+  ~RandomActions() override { std::filesystem::current_path("/"); }
+
+  /// Ten times: opens the program over `zPort`, acts, and closes it in the midst of whatever is
+  /// going on. `zMishap` is what happens to the line now and then.
+  void Live(SerialPort& zPort, int zActions, const std::function<void()>& zMishap) {
+    constexpr int rounds = 10;
+    for (int round = 0; round < rounds; ++round) {
+      frmUtility mainWindow(zPort, settings, dictionary, rash);
+      mainWindow.Open();
+      RestlessUser user(&mainWindow, luck, zActions / rounds);
+      user.onMishap = zMishap;
+      user.Start();
+      ASSERT_TRUE(QTest::qWaitFor([&] { return !mainWindow.isVisible(); }, 240'000));
+      ASSERT_EQ(QApplication::activeModalWidget(), nullptr);
+      ASSERT_EQ(user.ActionsLeft(), 0);
+      ASSERT_FALSE(zPort.IsOpen());
+      ASSERT_FALSE(mainWindow.Context().sender.IsSending());
+    }
+    for (const QString& text : rash.asked) {
+      EXPECT_TRUE(MayBeAsked(text)) << text.toStdString();
+    }
+  }
+
+  Luck luck{static_cast<unsigned>(Given("LOQUITOR_RANDOM_SEED", 20261122))};
+  RashPrompts rash{luck};
+};
+
+TEST_F(RandomActions, AreSurvivedOverALineThatFailsInEveryWay) {
+  std::size_t opened = 0;
+  const auto change = [&] {
+    port.isHeldBack = luck.Chance(3);
+    port.unsentBytes = luck.Chance(4) ? 5 : 0;
+    port.refusesToOpen = luck.Chance(4);
+    port.bytesUntilFailure = luck.Chance(4) ? luck.Random(300) : -1;
+    if (port.IsOpen() && luck.Chance(4)) {
+      port.Vanish();
+    }
+    opened = port.opened.size();
+  };
+  Live(port, Given("LOQUITOR_RANDOM_ACTIONS", 2000), change);
+  EXPECT_GT(opened, 10u) << "hardly anything was sent";
+}
+
+TEST_F(RandomActions, AreSurvivedOverARealLineThatIsHeldBackAndPulledAway) {
+  std::unique_ptr<PseudoTerminal> chip;
+  std::size_t received = 0;
+  const auto plugIn = [&] {
+    chip = std::make_unique<PseudoTerminal>();
+    chip->HoldBack();
+    chip->Release();
+    std::filesystem::remove(folder / "line");
+    std::filesystem::create_symlink(chip->Path(), folder / "line");
+  };
+  plugIn();
+  QTimer reading;
+  QObject::connect(&reading, &QTimer::timeout, [&] { received += chip->Received().size(); });
+  reading.start(1);
+  const auto change = [&] {
+    if (luck.Chance(4)) {
+      plugIn();
+    } else if (luck.Chance(3)) {
+      chip->HoldBack();
+    } else {
+      chip->Release();
+    }
+  };
+  QtSerialPort realPort;
+  Live(realPort, Given("LOQUITOR_RANDOM_ACTIONS", 1000), change);
+  EXPECT_GT(received, 100u) << "hardly anything was sent";
 }
 
 }  // namespace

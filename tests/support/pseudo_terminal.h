@@ -56,16 +56,36 @@ class PseudoTerminal {
     return settings;
   }
 
+  /// Passes bytes as they are, before a program has set the line so.
+  void MakeRaw() {
+    termios raw = Settings();
+    ::cfmakeraw(&raw);
+    ::tcsetattr(chip_, TCSANOW, &raw);
+  }
+
+  /// The chip takes back its "clear to send": nothing passes, whatever the program writes. To be
+  /// called for the first time while the program does not have the line open.
+  void HoldBack() {
+    if (line_ < 0 && (line_ = ::open(path_.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC)) < 0) {
+      throw std::runtime_error("no end of the pseudo-terminal for the program");
+    }
+    ::tcflow(line_, TCOOFF);
+  }
+  void Release() { ::tcflow(line_, TCOON); }
+
   /// The adapter is unplugged.
   void HangUp() {
-    if (chip_ >= 0) {
-      ::close(chip_);
-      chip_ = -1;
+    for (int* end : {&chip_, &line_}) {
+      if (*end >= 0) {
+        ::close(*end);
+        *end = -1;
+      }
     }
   }
 
  private:
   int chip_ = -1;
+  int line_ = -1;  // the program's end, for its flow alone
   std::string path_;
 };
 
