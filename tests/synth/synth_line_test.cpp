@@ -46,38 +46,29 @@ class SlowLineHost : public ScriptedHost {
   int depth_ = 0;
 };
 
+constexpr const char* LoudSound = "[Loud]\nFreq1=1\nVol1=31\nFreq2=2\nVol2=31\nVol5=31\n";
+
 class SlowSynthTest : public SynthTest {
  protected:
-  static constexpr int Positions = 10'000;
-
   SlowSynthTest() {
     settings.SaveIniValue("Serial", "BaudRate", "2400");
     window = std::make_unique<FrmSynthCtrl>(nullptr, slowContext);
     window->Open();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     LetRun();
   }
 
-  /// Drags the bar through ten thousand positions and lets it rest at `zEnd`.
-  void Drag(const QString& zBar, int zEnd) {
-    ScrollBar* bar = Bar(zBar);
-    bar->setSliderDown(true);
-    slowHost.movesLeft = Positions;
-    slowHost.move = [&, bar] {
-      const int step = slowHost.movesLeft;
-      bar->setSliderPosition(step == 0 ? zEnd : (step * 37) % (bar->maximum() + 1));
-    };
+  /// Lets the user make so many moves; at the end no mouse button is down and the line is free.
+  void Play(int zMoves) {
+    slowHost.movesLeft = zMoves;
     while (slowHost.movesLeft > 0) {
       slowHost.Pass();
     }
-    bar->setSliderDown(false);
+    for (ScrollBar* bar : window->findChildren<ScrollBar*>()) {
+      bar->setSliderDown(false);
+    }
+    LetRun();
     line.Drain();
-  }
-
-  VirtualChip ChipAfterIt() const {
-    VirtualChip chip;
-    chip.Receive(line.onTheLine);
-    EXPECT_FALSE(chip.Pending().has_value());
-    return chip;
   }
 
   SimulatedLine line;
@@ -87,79 +78,42 @@ class SlowSynthTest : public SynthTest {
                             slowSender, prompts,    shared};
 };
 
-TEST_F(SlowSynthTest, ALongDragEndsWithTheFinalValueOnTheChip) {
-  Drag("scFreq(2)", 1234);
-  EXPECT_LE(slowHost.deepest, 9);
-  EXPECT_TRUE(line.onTheLine.ends_with(Writes({{2, 1234}})));
-  ExpectShown(ChipAfterIt());
-}
-
-TEST_F(SlowSynthTest, ALongDragOfAnAdjustBarLeavesNoToneBehind) {
-  Bar("scVol(1)")->setValue(1);
-  Bar("scVol(2)")->setValue(13);
-  Bar("scVol(3)")->setValue(30);
-  Bar("scVolAdjTone")->setFocus(Qt::TabFocusReason);
-  Drag("scVolAdjTone", 150);
-  EXPECT_LE(slowHost.deepest, 9);
-  ExpectShown(ChipAfterIt());
-}
-
-TEST_F(SlowSynthTest, AWriteCutByAnotherControlIsWrittenAgain) {
-  Bar("scFreq(1)")->setValue(1000);
-  Bar("scFreq(2)")->setValue(2000);
-  line.Drain();
-  slowHost.movesLeft = 1;
-  slowHost.move = [&] { Bar("scVol(4)")->setValue(9); };
-  Bar("scFreq(3)")->setValue(3000);
-  line.Drain();
-  EXPECT_TRUE(line.onTheLine.ends_with("\\" + Writes({{14, 9}, {3, 3000}})));
-  ExpectShown(ChipAfterIt());
-}
-
 TEST_F(SlowSynthTest, WhateverIsMovedMeanwhileTheChipEndsWithWhatTheWindowShows) {
-  WriteBytes(folder / "OTSounds.txt", "[Loud]\nFreq1=1\nVol1=31\nFreq2=2\nVol2=31\nVol5=31\n");
-  Box("txtSound")->setText("Loud");
+  GivenSounds("Loud", LoudSound);
   const QList<ScrollBar*> bars = window->findChildren<ScrollBar*>();
-  const QList<QAbstractButton*> buttons{
-      The<QAbstractButton>("Command1"),   The<QAbstractButton>("Command2"),
-      The<QAbstractButton>("Command3"),   The<QAbstractButton>("btnLoad"),
-      The<QAbstractButton>("Option1(0)"), The<QAbstractButton>("Option1(2)"),
-      The<QAbstractButton>("Check2(0)"),  The<QAbstractButton>("Check2(1)")};
+  const QList<TextBox*> boxes = Get("Frame1")->findChildren<TextBox*>();
+  const char* buttons[] = {"btnShutUp",  "Command1",   "Command2",  "Command3", "btnLoad",
+                           "Option1(0)", "Option1(2)", "Check2(0)", "Check2(1)"};
   std::minstd_rand random(7);  // NOLINT: the same moves each time
-  const auto below = [&](qsizetype zEnd) {
+  const auto below = [&](auto zEnd) {
     return static_cast<int>(random() % static_cast<unsigned>(zEnd));
   };
   slowHost.move = [&] {
-    if (below(4) == 0) {
-      buttons[below(buttons.size())]->click();
-    } else {
-      ScrollBar* bar = bars[below(bars.size())];
-      bar->setValue(below(bar->maximum() + 1));
+    ScrollBar* bar = bars[below(bars.size())];
+    TextBox* box = boxes[below(boxes.size())];
+    switch (below(6)) {
+      case 0:
+        return bar->setFocus();
+      case 1:
+        box->setFocus();
+        return box->setText(QString::number(below(300)));
+      case 2:
+        return Press(buttons[below(std::size(buttons))]);
+      case 3:
+        return bar->setSliderDown(!bar->isSliderDown());
+      default:
+        return bar->setSliderPosition(below(bar->maximum() + 1));
     }
   };
   for (int round = 0; round < 200; ++round) {
-    slowHost.movesLeft = 1 + below(40);
-    while (slowHost.movesLeft > 0) {
-      slowHost.Pass();
-    }
-    line.Drain();
-    ExpectShown(ChipAfterIt());
+    Play(1 + below(40));
+    ExpectShown(line.onTheLine);
     ASSERT_FALSE(HasFailure()) << "round " << round;
   }
+  EXPECT_LE(slowHost.deepest, 9);
 }
 
-/// Runs a script of steps while the window waits for its line.
-class HeldBackSynthTest : public SynthTest {
- protected:
-  void After(int zMilliseconds, std::function<void()> zStep) {
-    QTimer::singleShot(zMilliseconds, &steps_, std::move(zStep));
-  }
-
- private:
-  QObject steps_;  // those that are still to come end with the test
-};
-
-TEST_F(HeldBackSynthTest, TheWindowOpensWorksAndClosesOnALineThatNeverTakesAByte) {
+TEST_F(SynthTest, TheWindowOpensWorksAndClosesOnALineThatNeverTakesAByte) {
   port.isHeldBack = true;
   window = std::make_unique<FrmSynthCtrl>(nullptr, context);
   for (int i = 1; i <= 20; ++i) {
@@ -169,8 +123,8 @@ TEST_F(HeldBackSynthTest, TheWindowOpensWorksAndClosesOnALineThatNeverTakesAByte
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(Box("txtFreq(1)")->text(), "20");
     Given("scVol", {21, 22, 21});
-    EXPECT_EQ(Box("txtVol(1)")->Background(), QColor(255, 0, 0));
-    The<QAbstractButton>("btnDone")->click();
+    EXPECT_EQ(Colour("txtVol(1)"), QColor(255, 0, 0));
+    Press("btnDone");
   });
   After(40, [this] { EXPECT_FALSE(window->isVisible()); });
   window->ShowModal();
@@ -179,20 +133,20 @@ TEST_F(HeldBackSynthTest, TheWindowOpensWorksAndClosesOnALineThatNeverTakesAByte
   EXPECT_EQ(Sent(), "");
 }
 
-TEST_F(HeldBackSynthTest, ClosingGoesOnWhenTheLineIsFreeAgain) {
+TEST_F(SynthTest, ClosingGoesOnWhenTheLineIsFreeAgain) {
   GivenOpenWindow();
   Given("scVol", {5});
   port.isHeldBack = true;
-  After(0, [this] { The<QAbstractButton>("btnDone")->click(); });
+  After(0, [this] { Press("btnDone"); });
   After(50, [this] {
     EXPECT_EQ(Sent(), "");
     port.isHeldBack = false;
   });
   window->ShowModal();
-  EXPECT_EQ(Sent(), "\\0RX" + Writes({{11, 0}, {8, 0}}));
+  EXPECT_EQ(Sent(), Reset + Writes({{11, 0}, {8, 0}}));
 }
 
-TEST_F(HeldBackSynthTest, AWriterThatGivesUpWaitsForNoByteInThePortsQueue) {
+TEST_F(SynthTest, AWriterThatGivesUpWaitsForNoByteInThePortsQueue) {
   RegisterWriter writer(sender, [](int) { return 0; });
   port.unsentBytes = 4;
   bool isStuck = false;
@@ -208,7 +162,7 @@ TEST_F(HeldBackSynthTest, AWriterThatGivesUpWaitsForNoByteInThePortsQueue) {
 }
 
 /// The sends of windows closed since may still wait, as deep in each other as sends go.
-TEST_F(HeldBackSynthTest, AWriterWhoseBytesAreLeftToAnotherSendWritesEachRegisterOnceMore) {
+TEST_F(SynthTest, AWriterWhoseBytesAreLeftToAnotherSendWritesEachRegisterOnceMore) {
   TurnHost turns;
   CodeSender deep(port, turns, settings);
   RegisterWriter writer(deep, [](int zNumber) { return zNumber; });
@@ -227,7 +181,7 @@ TEST_F(HeldBackSynthTest, AWriterWhoseBytesAreLeftToAnotherSendWritesEachRegiste
   EXPECT_LT(written.size(), 60U);
 }
 
-TEST_F(HeldBackSynthTest, AWriterThatGivesUpLeavesTheSendOfAnotherWindowAlone) {
+TEST_F(SynthTest, AWriterThatGivesUpLeavesTheSendOfAnotherWindowAlone) {
   RegisterWriter writer(sender, [](int) { return 0; });
   port.isHeldBack = true;
   After(10, [&] { sender.SendCodesToOrvatone("\x1f", true); });
@@ -237,26 +191,12 @@ TEST_F(HeldBackSynthTest, AWriterThatGivesUpLeavesTheSendOfAnotherWindowAlone) {
   EXPECT_EQ(Sent(), "\x1f");
 }
 
-TEST_F(HeldBackSynthTest, AValueThatComesWhileAPostponedOneGoesOutStaysTheLast) {
-  RegisterWriter writer(sender, [](int zNumber) { return zNumber == 1 ? 5 : 9; });
-  writer.Postpone(1, 5);
-  bool hasCome = false;
-  port.onByte = [&] {
-    if (!std::exchange(hasCome, true)) {
-      writer.Write(2, 9);
-    }
-  };
-  writer.Write(2, 7);
-  EXPECT_EQ(Sent(), "\\" + Writes({{2, 9}, {1, 5}, {2, 9}}));
-}
-
 TEST_F(SynthTest, ShutUpStopsALoadUnderWay) {
   GivenOpenWindow();
-  WriteBytes(folder / "OTSounds.txt", "[Loud]\nFreq1=1\nVol1=31\nFreq2=2\nVol2=31\nVol5=31\n");
-  Box("txtSound")->setText("Loud");
+  GivenSounds("Loud", LoudSound);
   port.onByte = [this] {
     if (port.written.size() == 12) {  // the first whole write and the beginning of the next
-      QTimer::singleShot(0, window.get(), [this] { The<QAbstractButton>("btnShutUp")->click(); });
+      QTimer::singleShot(0, window.get(), [this] { Press("btnShutUp"); });
     }
   };
   Press("btnLoad");
@@ -268,40 +208,28 @@ TEST_F(SynthTest, APortThatVanishesOrDoesNotOpenLeavesTheWindowWorking) {
   port.refusesToOpen = true;
   GivenOpenWindow();
   EXPECT_EQ(opening, "");
-  EXPECT_EQ(Box("txtLevel(1)")->text(), "96");
   port.refusesToOpen = false;
-  Bar("scFreq(1)")->setValue(5);
-  EXPECT_EQ(Sent(), Writes({{1, 5}}));
   port.bytesUntilFailure = 3;
   Bar("scFreq(1)")->setValue(6);
   EXPECT_EQ(Sent(), "\\01");
   EXPECT_EQ(host.portState, PortState::Failed);
   port.bytesUntilFailure = -1;
   Press("btnDone");
-  EXPECT_EQ(Sent(), "\\0RX" + Writes({{1, 0}, {8, 0}}));
+  EXPECT_EQ(Sent(), Reset + Writes({{1, 0}, {8, 0}}));
 }
 
 TEST_F(SynthTest, AClickAwayFromABoxArrivesThoughItsWriteLetsTheReleaseIn) {
   GivenOpenWindow();
-  Box("txtFreq(1)")->setFocus();
-  QTest::keyClicks(Box("txtFreq(1)"), "44");
-  auto* box = The<CheckBox>("Check2(1)");
+  Type("txtFreq(1)", "44");
+  auto* box = Get<CheckBox>("Check2(1)");
   const QPoint place = box->mapTo(window.get(), box->rect().center());
-  bool isReleased = false;
-  port.onByte = [&] {
-    if (!std::exchange(isReleased, true)) {
-      QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, place);
-    }
-  };
+  DuringNextByte([&] { QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, place); });
   QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, place);
   LetRun();
-  EXPECT_TRUE(isReleased);
   EXPECT_TRUE(box->isChecked());
   EXPECT_FALSE(box->isDown());
   EXPECT_EQ(Value("scFreq(1)"), 44);
-  VirtualChip chip;
-  chip.Receive(opening + Sent());
-  ExpectShown(chip);
+  ExpectShown(opening + Sent());
 }
 
 }  // namespace

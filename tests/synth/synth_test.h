@@ -2,9 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <QTimer>
+#include <functional>
 #include <initializer_list>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,6 +19,8 @@
 
 namespace loquitor::testing {
 
+inline const std::string Reset = "\\0RX";
+
 /// Register writes, number and value, as they stand on the line.
 inline std::string Writes(std::initializer_list<std::pair<int, int>> zWrites) {
   std::string bytes;
@@ -27,64 +30,14 @@ inline std::string Writes(std::initializer_list<std::pair<int, int>> zWrites) {
   return bytes;
 }
 
-/// What opening the window sends: the reset and fourteen writes.
-inline std::string OpeningBytes() {
-  return "\\0RX" + Writes({{11, 0},
-                           {12, 0},
-                           {13, 0},
-                           {14, 0},
-                           {15, 0},
-                           {0, 88},
-                           {1, 0},
-                           {2, 0},
-                           {3, 0},
-                           {4, 0},
-                           {5, 0},
-                           {6, 0},
-                           {7, 96},
-                           {8, 0}});
-}
-
 /// The synth control window on a scripted port.
-class SynthTest : public WindowTest {
+class SynthTest : public ToolWindowTest {
  protected:
   /// Opens the window and lets it send; `opening` is what it sent.
   void GivenOpenWindow() {
-    window = std::make_unique<FrmSynthCtrl>(nullptr, context);
-    window->Open();
+    Open<FrmSynthCtrl>();
     LetRun();
     opening = Sent();
-  }
-
-  static void LetRun() {
-    QCoreApplication::processEvents();
-    QCoreApplication::processEvents();
-  }
-
-  template <class T>
-  T* The(const QString& zName) const {
-    T* control = window->findChild<T*>(zName);
-    if (control == nullptr) {
-      throw std::runtime_error("no control " + zName.toStdString());
-    }
-    return control;
-  }
-  ScrollBar* Bar(const QString& zName) const { return The<ScrollBar>(zName); }
-  TextBox* Box(const QString& zName) const { return The<TextBox>(zName); }
-  int Value(const QString& zBar) const { return Bar(zBar)->value(); }
-
-  void Press(const char* zButton) {
-    The<QAbstractButton>(zButton)->click();
-    LetRun();
-  }
-
-  /// Types into a box and leaves it by Tab.
-  void Enter(const char* zBox, const QString& zText) {
-    Box(zBox)->setFocus(Qt::TabFocusReason);
-    Box(zBox)->selectAll();
-    QTest::keyClicks(Box(zBox), zText);
-    QTest::keyClick(Box(zBox), Qt::Key_Tab);
-    LetRun();
   }
 
   /// Sets the bars 1, 2 and so on of a kind and forgets what that sent.
@@ -96,7 +49,38 @@ class SynthTest : public WindowTest {
     static_cast<void>(Sent());
   }
 
-  std::vector<int> Values(const char* zStem) const {
+  /// Puts sounds into the library and the name of one into its box.
+  void GivenSounds(const char* zName, std::string_view zSounds) {
+    WriteBytes(Library(), zSounds);
+    Box("txtSound")->setText(zName);
+  }
+
+  /// Runs `zStep` while the next byte goes out.
+  void DuringNextByte(std::function<void()> zStep) {
+    port.onByte = [step = std::move(zStep), hasRun = false]() mutable {
+      if (!std::exchange(hasRun, true)) {
+        step();
+      }
+    };
+  }
+
+  void After(int zMilliseconds, std::function<void()> zStep) {
+    QTimer::singleShot(zMilliseconds, &steps_, std::move(zStep));
+  }
+
+  static void LetRun() {
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+  }
+
+  std::filesystem::path Library() const { return folder / "OTSounds.txt"; }
+  ScrollBar* Bar(const QString& zName) { return Get<ScrollBar>(zName); }
+  TextBox* Box(const QString& zName) { return Get<TextBox>(zName); }
+  int Value(const QString& zBar) { return Bar(zBar)->value(); }
+  QColor Colour(const QString& zBox) { return Box(zBox)->Background(); }
+  void Press(const QString& zButton) { Get<QAbstractButton>(zButton)->click(); }
+
+  std::vector<int> Values(const char* zStem) {
     std::vector<int> values;
     for (int i = 1; i <= synth::OscillatorCount; ++i) {
       values.push_back(Value(Indexed(zStem, i)));
@@ -104,25 +88,33 @@ class SynthTest : public WindowTest {
     return values;
   }
 
-  /// The chip holds what the window shows.
-  void ExpectShown(const VirtualChip& zChip) const {
+  /// A chip that has received `zBytes` holds what the window shows.
+  void ExpectShown(const std::string& zBytes) {
+    VirtualChip chip;
+    chip.Receive(zBytes);
+    EXPECT_FALSE(chip.Pending().has_value());
+    std::vector<int> frequencies, volumes;
     for (int i = 1; i <= synth::OscillatorCount; ++i) {
-      EXPECT_EQ(zChip.Register(i), Value(Indexed("scFreq", i))) << "frequency " << i;
-      EXPECT_EQ(zChip.Register(10 + i), Value(Indexed("scVol", i))) << "volume " << i;
+      frequencies.push_back(chip.Register(i));
+      volumes.push_back(chip.Register(10 + i));
     }
-    EXPECT_EQ(zChip.Register(0), Value("scEnvolopeFreq"));
-    EXPECT_EQ(zChip.Register(6), Value("scLevel(0)"));
-    EXPECT_EQ(zChip.Register(7), Value("scLevel(1)"));
-    int envelope =
-        64 * The<CheckBox>("Check2(1)")->Value() + 128 * The<CheckBox>("Check2(0)")->Value();
-    for (int type = 1; type <= 3; ++type) {
-      envelope += The<OptionButton>(Indexed("Option1", type))->isChecked() ? type : 0;
+    EXPECT_EQ(frequencies, Values("scFreq"));
+    EXPECT_EQ(volumes, Values("scVol"));
+    EXPECT_EQ(chip.Register(0), Value("scEnvolopeFreq"));
+    EXPECT_EQ(chip.Register(6), Value("scLevel(0)"));
+    EXPECT_EQ(chip.Register(7), Value("scLevel(1)"));
+    int type = 3;
+    while (!Get<OptionButton>(Indexed("Option1", type))->isChecked()) {
+      --type;
     }
-    EXPECT_EQ(zChip.Register(8), envelope);
+    EXPECT_EQ(chip.Register(8), type + 64 * Get<CheckBox>("Check2(1)")->Value() +
+                                    128 * Get<CheckBox>("Check2(0)")->Value());
   }
 
-  std::unique_ptr<FrmSynthCtrl> window;
   std::string opening;
+
+ private:
+  QObject steps_;  // those that are still to come end with the test
 };
 
 }  // namespace loquitor::testing

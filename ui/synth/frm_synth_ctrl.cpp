@@ -351,6 +351,9 @@ void FrmSynthCtrl::SynthShutUp() {
     const bool isOvertaken = turn != oscillatorTurn_ && IsOscillatorRegister(number);
     if (!isOvertaken) {
       valueControls_[static_cast<std::size_t>(number)].bar->setValue(value);
+    } else if (ShownValue(number) != value) {
+      // The load that came meanwhile did not write it if it stood there already: the reset took it.
+      WriteRegister(number, ShownValue(number));
     }
   }
   envelopeTypes_->SetChosen(static_cast<int>(synth::EnvelopeType::Saw), true);
