@@ -1,6 +1,5 @@
 // The synth control window on lines that are slow, held back or gone.
 
-#include <QTimer>
 #include <random>
 
 #include "link/scp.h"
