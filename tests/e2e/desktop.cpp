@@ -1,5 +1,6 @@
 #include "tests/e2e/desktop.h"
 
+#include <cstdlib>
 #include <stdexcept>
 
 namespace loquitor::testing {
@@ -7,6 +8,13 @@ namespace loquitor::testing {
 namespace {
 
 constexpr const char* HumanPause = "12";  // milliseconds between keys
+
+constexpr int WidestFrame = 40;  // pixels that the window manager puts around a window
+
+int NumberAfter(const std::string& zText, const std::string& zLabel) {
+  const std::size_t at = zText.find(zLabel);
+  return at == std::string::npos ? -1 : std::atoi(zText.c_str() + at + zLabel.size());
+}
 
 std::string Quoted(const std::string& zText) {
   std::string pattern = "^";
@@ -68,14 +76,15 @@ bool Desktop::AwaitGone(const std::string& zTitle) {
   return Await([&] { return FindWindow(zTitle).empty(); });
 }
 
+// Without --sync, which waits for ever for a mouse that is there already.
 void Desktop::Click(const std::string& zWindow, int zX, int zY) {
-  Do({"xdotool", "mousemove", "--sync", "--window", zWindow, std::to_string(zX), std::to_string(zY),
-      "click", "1"});
+  Do({"xdotool", "mousemove", "--window", zWindow, std::to_string(zX), std::to_string(zY), "click",
+      "1"});
 }
 
 void Desktop::DoubleClick(const std::string& zWindow, int zX, int zY) {
-  Do({"xdotool", "mousemove", "--sync", "--window", zWindow, std::to_string(zX), std::to_string(zY),
-      "click", "--repeat", "2", "--delay", "100", "1"});
+  Do({"xdotool", "mousemove", "--window", zWindow, std::to_string(zX), std::to_string(zY), "click",
+      "--repeat", "2", "--delay", "100", "1"});
 }
 
 void Desktop::Type(const std::string& zText) {
@@ -88,6 +97,13 @@ void Desktop::Key(const std::string& zKey) {
 
 void Desktop::MoveTo(const std::string& zWindow, int zX, int zY) {
   Do({"xdotool", "windowmove", zWindow, std::to_string(zX), std::to_string(zY)});
+  // xdotool's own --sync waits for ever. The client area lies within the window's frame.
+  Await([&] {
+    const std::string place = Do({"xwininfo", "-id", zWindow});
+    const int right = NumberAfter(place, "Absolute upper-left X:") - zX;
+    const int down = NumberAfter(place, "Absolute upper-left Y:") - zY;
+    return right >= 0 && right <= WidestFrame && down >= 0 && down <= WidestFrame;
+  });
 }
 
 void Desktop::CloseWindow(const std::string& zWindow) {

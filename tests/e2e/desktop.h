@@ -27,7 +27,8 @@ class Desktop {
   void Type(const std::string& zText);
   void Key(const std::string& zKey);
 
-  /// Moves a window's top left corner to a point of the screen, so that none covers another.
+  /// Moves a window's top left corner to a point of the screen, so that none covers another, and
+  /// waits until it is there.
   void MoveTo(const std::string& zWindow, int zX, int zY);
 
   /// The close box.

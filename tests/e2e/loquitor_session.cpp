@@ -19,6 +19,14 @@ int MiddleY(const Place& zPlace, const Place& zFrame) {
 
 }  // namespace
 
+std::string AsNumbers(const std::string& zCodes) {
+  std::string text;
+  for (const char code : zCodes) {
+    text += (text.empty() ? "" : ", ") + std::to_string(static_cast<unsigned char>(code));
+  }
+  return text;
+}
+
 void LoquitorSession::SetUp() {
   chip = std::make_unique<PtyChip>();
   std::filesystem::copy_file(LOQUITOR_PROGRAM, folder / "Loquitor");
@@ -51,11 +59,37 @@ void LoquitorSession::DoubleClickOn(const std::string& zWindow, const Place& zPl
   desktop.DoubleClick(zWindow, MiddleX(zPlace, zFrame), MiddleY(zPlace, zFrame));
 }
 
+std::string LoquitorSession::Open(const std::string& zOpener, const Place& zPlace,
+                                  const std::string& zTitle) {
+  ClickOn(zOpener, zPlace);
+  const std::string window = desktop.AwaitWindow(zTitle);
+  EXPECT_NE(window, "") << zTitle;
+  desktop.MoveTo(window, 10, 300);
+  return window;
+}
+
 void LoquitorSession::OpenPhraseEditor() {
-  ClickOn(mainWindow, place::PhraseEditorButton);
-  phraseWindow = desktop.AwaitWindow(PhraseTitle);
+  phraseWindow = Open(mainWindow, place::PhraseEditorButton, PhraseTitle);
   ASSERT_NE(phraseWindow, "");
-  desktop.MoveTo(phraseWindow, 10, 300);
+}
+
+std::string LoquitorSession::ViewedCodes() {
+  ClickOn(phraseWindow, place::ViewCodes, place::SayDataFrame);
+  const std::string codesWindow = desktop.AwaitWindow(CodesTitle);
+  const std::string before = desktop.Clipboard();
+  ClickOn(codesWindow, place::CodesCopy);
+  Await([&] { return desktop.Clipboard() != before; });
+  ClickOn(codesWindow, place::CodesDone);
+  EXPECT_TRUE(desktop.AwaitGone(CodesTitle));
+  return desktop.Clipboard();
+}
+
+void LoquitorSession::FillIn(const std::string& zWindow, const std::string& zText,
+                             const Place& zPlace, const Place& zFrame) {
+  ClickOn(zWindow, zPlace, zFrame);
+  desktop.Key("ctrl+a");
+  desktop.Type(zText);
+  desktop.Key("Tab");
 }
 
 bool LoquitorSession::AwaitCount(std::size_t zCount) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 #include "tests/support/pseudo_terminal.h"
@@ -16,6 +17,18 @@ class PtyChip : public PseudoTerminal {
 
   /// Forgets what has been received.
   void Forget() { received_.clear(); }
+
+  /// Lets bytes pass until at least so many have been received in all, and holds the line back
+  /// again as soon as this process gets its turn. False when they do not come.
+  bool LetPass(std::size_t zCount) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    Release();
+    // Without a pause: the program writes a hundred bytes in a millisecond.
+    while (Received().size() < zCount && std::chrono::steady_clock::now() < end) {
+    }
+    HoldBack();
+    return Received().size() >= zCount;
+  }
 
  private:
   std::string received_;

@@ -56,13 +56,6 @@ class PseudoTerminal {
     return settings;
   }
 
-  /// Passes bytes as they are, before a program has set the line so.
-  void MakeRaw() {
-    termios raw = Settings();
-    ::cfmakeraw(&raw);
-    ::tcsetattr(chip_, TCSANOW, &raw);
-  }
-
   /// The chip takes back its "clear to send": nothing passes, whatever the program writes. To be
   /// called for the first time while the program does not have the line open.
   void HoldBack() {
