@@ -122,6 +122,7 @@ TEST_F(DictionaryEditor, EachButtonSavesThenShowsWhatItMakesOfTheText) {
     std::filesystem::create_directories(Dictionary() / "in the way");
     Click(button);
     EXPECT_EQ(HasTold("could not be saved"), !end.empty()) << button;
+    EXPECT_EQ(Told().size(), end.empty() ? 0 : 1);
     EXPECT_EQ(Box().Text(), BoxTextFromFile(Unsorted)) << button;
     EXPECT_TRUE(Get(button)->isEnabled());
     std::filesystem::remove_all(Dictionary());
@@ -289,7 +290,7 @@ TEST_F(DictionaryEditor, WhatCannotBeReadOrDrawnIsNotReplacedUnasked) {
     const std::string before = Saved();
     prompts.asked.clear();
     Open();
-    EXPECT_TRUE(HasTold(told) && HasTold("Loquitor.Dic")) << told;
+    ASSERT_TRUE(HasTold(told) && HasTold("Loquitor.Dic")) << told;
     EXPECT_EQ(Box().Text(), "");
     Click("btnEraseBlank");
     EXPECT_EQ(prompts.asked.back().buttons, PromptButtons::YesNo);
@@ -301,7 +302,7 @@ TEST_F(DictionaryEditor, WhatCannotBeReadOrDrawnIsNotReplacedUnasked) {
   std::filesystem::remove(Dictionary());
   std::filesystem::create_directory(Dictionary());
   Open();
-  EXPECT_TRUE(HasTold("cannot be read"));
+  ASSERT_TRUE(HasTold("cannot be read"));
   Click("btnSort");
   EXPECT_EQ(prompts.asked.back().buttons, PromptButtons::YesNo);
   EXPECT_TRUE(std::filesystem::is_directory(Dictionary()));

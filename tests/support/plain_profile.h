@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "link/letter_case.h"
 #include "link/platform_files.h"
 
 namespace loquitor::testing {
@@ -91,17 +92,6 @@ class PlainProfile {
     return begin == std::string::npos ? "" : zText.substr(begin, last + 1 - begin);
   }
 
-  static std::string Capitals(std::string zText) {
-    for (char& c : zText) {
-      const auto code = static_cast<unsigned char>(c);
-      const bool isFarBelow =
-          (c >= 'a' && c <= 'z') || (code >= 0xE0 && code < 0xFF && code != 0xF7);
-      const bool isNearBelow = code == 0x9A || code == 0x9C || code == 0x9E;
-      c = static_cast<char>(code == 0xFF ? 0x9F : code - (isFarBelow ? 32 : isNearBelow ? 16 : 0));
-    }
-    return zText;
-  }
-
   static std::string JoinLines(const std::string& zValue) {
     std::string joined;
     for (std::size_t i = 0; i < zValue.size(); ++i) {
@@ -126,7 +116,7 @@ class PlainProfile {
     for (std::size_t i = 0; i < lines_.size(); ++i) {
       if (IsHeader(i)) {
         const std::string rest = Trim(lines_[i].text).substr(1);
-        if (Capitals(Trim(rest.substr(0, rest.find(']')))) == Capitals(Trim(zSection))) {
+        if (ToLower(Trim(rest.substr(0, rest.find(']')))) == ToLower(Trim(zSection))) {
           return i;
         }
       }
@@ -138,7 +128,7 @@ class PlainProfile {
     for (std::size_t i = FindSection(zSection) + 1; i < lines_.size() && !IsHeader(i); ++i) {
       const bool isComment = Trim(lines_[i].text).rfind(';', 0) == 0;
       const bool hasSign = lines_[i].text.find('=') != std::string::npos;
-      if (!isComment && hasSign && Capitals(KeyOf(i)) == Capitals(Trim(zKey))) {
+      if (!isComment && hasSign && ToLower(KeyOf(i)) == ToLower(Trim(zKey))) {
         return i;
       }
     }
