@@ -31,7 +31,7 @@ std::string Quoted(const std::string& zText) {
 
 Desktop::Desktop() {
   server_ = std::make_unique<ChildProcess>(std::vector<std::string>{
-      "Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24", "-nolisten", "tcp"});
+      "Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24", "-nolisten", "tcp", "-noreset"});
   if (!Await([this] { return server_->Output().find('\n') != std::string::npos; })) {
     throw std::runtime_error("Xvfb does not start; ./test installs what it needs");
   }
