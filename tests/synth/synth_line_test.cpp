@@ -77,6 +77,20 @@ class SlowSynthTest : public SynthTest {
                             slowSender, prompts,    shared};
 };
 
+TEST_F(SlowSynthTest, ADragThroughTenThousandPositionsEndsWithTheFinalValueOnTheChip) {
+  constexpr int positions = 10'000;
+  ScrollBar* bar = Bar("scFreq(2)");
+  bar->setSliderDown(true);
+  slowHost.move = [&] {
+    const int left = slowHost.movesLeft;
+    bar->setSliderPosition(left == 0 ? 1234 : (left * 37) % (bar->maximum() + 1));
+  };
+  Play(positions);
+  EXPECT_LE(slowHost.deepest, 9);
+  EXPECT_TRUE(line.onTheLine.ends_with(Writes({{2, 1234}})));
+  ExpectShown(line.onTheLine);
+}
+
 TEST_F(SlowSynthTest, WhateverIsMovedMeanwhileTheChipEndsWithWhatTheWindowShows) {
   GivenSounds("Loud", LoudSound);
   const QList<ScrollBar*> bars = window->findChildren<ScrollBar*>();

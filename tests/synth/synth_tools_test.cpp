@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QWheelEvent>
 #include <filesystem>
 
 #include "tests/synth/synth_test.h"
@@ -143,6 +144,64 @@ TEST_F(SynthTest, TheSoundBoxOffersTheNamesThatAreThereNow) {
                     Get("btnLoad")->geometry().center());
   EXPECT_EQ(Sent(), Writes({{1, 1}}));
   EXPECT_FALSE(list->isVisible());
+}
+
+TEST_F(SynthTest, APieceIsPlayedByteForByte) {
+  std::string received;
+  const auto expectSent = [&](const std::string& zBytes) {
+    const std::string sent = Sent();
+    EXPECT_EQ(sent, zBytes);
+    received += sent;
+    ExpectShown(received);
+  };
+  GivenOpenWindow();
+  received = opening;
+  int oscillator = 1;
+  for (const auto& [frequency, volume] : {std::pair{100, 10}, {170, 20}, {3999, 31}}) {
+    Bar(Indexed("scFreq", oscillator))->setValue(frequency);
+    Bar(Indexed("scVol", oscillator++))->setValue(volume);
+  }
+  expectSent(Writes({{1, 100}, {11, 10}, {2, 170}, {12, 20}, {3, 3999}, {13, 31}}));
+  Press("Command1");
+  expectSent(Writes({{1, 110}, {2, 220}, {3, 3960}}));
+  Bar("scFreqAdjTone")->setFocus(Qt::TabFocusReason);
+  Bar("scFreqAdjTone")->setValue(150);
+  expectSent(Writes({{1, 165}, {2, 330}, {3, 3999}}));
+  Bar("scVolAdjTone")->setFocus(Qt::TabFocusReason);
+  Bar("scVolAdjTone")->setValue(50);
+  expectSent(Writes({{11, 5}, {12, 10}, {13, 16}}));
+  Box("txtSound")->setText("Bell");
+  Press("btnSave");
+  expectSent("");
+  Bar("scFreq(2)")->setValue(7);
+  Bar("scVol(5)")->setValue(31);
+  Press("Option1(2)");
+  expectSent(Writes({{2, 7}, {15, 31}, {8, 2}}));
+  Press("btnLoad");
+  expectSent(Writes({{2, 330}, {15, 0}}));
+  Press("btnShutUp");
+  expectSent(Reset + Writes({{11, 0}, {12, 0}, {13, 0}, {1, 0}, {2, 0}, {3, 0}, {8, 0}}));
+  Press("btnDone");
+  expectSent(Reset + Writes({{8, 0}}));
+}
+
+TEST_F(SynthTest, TheWheelRebasesBeforeItTurns) {
+  GivenOpenWindow();
+  Given("scFreq", {1000, 2000, 3000});
+  Box("txtVol(4)")->setFocus();
+  QTest::keyClicks(Box("txtVol(4)"), "9");
+  ScrollBar* bar = Bar("scFreqAdjTone");
+  const auto turnWheel = [bar] {
+    const QPointF middle = bar->rect().center();
+    QWheelEvent event(middle, bar->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(bar, &event);
+  };
+  DuringNextByte(turnWheel);
+  turnWheel();
+  LetRun();
+  EXPECT_THAT(Values("scFreq"), ElementsAre(1020, 2040, 3060, 0, 0));
+  EXPECT_EQ(Value("scVol(4)"), 9);
 }
 
 }  // namespace
