@@ -32,8 +32,8 @@ class LineHost : public SenderHost {
   bool ConfirmLongPhrase() override { return true; }
   void StopClosingTimer() override {}
   void StartClosingTimer(int) override {}
-  void LetEventsRun() override { Turn(10e-6); }
-  void WaitForEvents() override { Turn(2e-3); }
+  void LetEventsRun(UserInput) override { Turn(10e-6); }
+  void WaitForEvents(UserInput) override { Turn(2e-3); }
   void SetTicking(bool) override {}
 
   std::function<void()> onTurn;

@@ -8,6 +8,9 @@ constexpr std::size_t LongestUnasked = 64;  // codes of a phrase that the chip's
 constexpr int ClosingDelay = 1000;          // milliseconds
 constexpr int DeepestSend = 8;  // sends within each other; a few kilobytes of stack each
 
+// A turn lasts two milliseconds at most: every register write passes at 2400 baud meanwhile.
+constexpr int TurnsBeforeUserActs = 100;
+
 }  // namespace
 
 CodeSender::CodeSender(SerialPort& zPort, SenderHost& zHost, const SettingsFile& zSettings)
@@ -27,8 +30,9 @@ void CodeSender::SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase) {
   ++sendCount_;
   OpenSerialPort(zIsPhrase);
   hasFailed_ = !port_.IsOpen();
-  if (!hasFailed_ && depth_ == DeepestSend) {
+  if (!hasFailed_ && depth_ >= DeepestSend) {
     LeaveToInnermost(zCodes, zIsPhrase);
+    WriteBeforeUserActs();
     return;  // the closing timer starts when the innermost send ends
   }
   if (!hasFailed_) {
@@ -117,18 +121,26 @@ void CodeSender::DropWhatMayBeReplaced() {
   lastBegin_ = pendingOutput_.size();
 }
 
+void CodeSender::WriteBeforeUserActs() {
+  if (depth_ > DeepestSend) {
+    return;  // a timer's send within one of these, which writes its bytes as well
+  }
+  ++depth_;
+  for (int turns = 0; turns < TurnsBeforeUserActs && !isLineSlow_ && !PendingOutput().empty();
+       ++turns) {
+    TakeTurn(UserInput::Later);
+  }
+  --depth_;
+  isLineSlow_ = !PendingOutput().empty();
+}
+
 void CodeSender::WritePendingOutput() {
   if (depth_++ == 0) {
     host_.SetTicking(true);
   }
   while (port_.IsOpen() && !IsDone()) {
     hasLeftBytes_ = false;
-    if (!PendingOutput().empty() && port_.IsReadyForByte()) {
-      WriteNextByte();
-      host_.LetEventsRun();
-    } else {
-      host_.WaitForEvents();
-    }
+    TakeTurn(UserInput::Now);
   }
   if (!port_.IsOpen()) {
     OnPortFailed();
@@ -139,6 +151,15 @@ void CodeSender::WritePendingOutput() {
   }
 }
 
+void CodeSender::TakeTurn(UserInput zInput) {
+  if (!PendingOutput().empty() && port_.IsReadyForByte()) {
+    WriteNextByte();
+    host_.LetEventsRun(zInput);
+  } else {
+    host_.WaitForEvents(zInput);
+  }
+}
+
 /// What the port has taken must have left as well before the closing timer starts: with the line
 /// held back for a second, closing would cost a phrase its last sounds.
 bool CodeSender::IsDone() const {
@@ -146,6 +167,7 @@ bool CodeSender::IsDone() const {
 }
 
 void CodeSender::WriteNextByte() {
+  isLineSlow_ = false;
   const auto byte = static_cast<std::uint8_t>(pendingOutput_[writtenCount_++]);
   if (!port_.WriteByte(byte)) {
     OnPortFailed();

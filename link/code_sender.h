@@ -12,6 +12,9 @@ namespace loquitor {
 /// What the port box shows.
 enum class PortState { Closed, Open, Failed };
 
+/// Whether the user's clicks, keys and wheel are handled now or stay in the queue for later.
+enum class UserInput { Now, Later };
+
 /// What the sender needs of the program around it: the main window, loquitor-say, or a test.
 /// link/qt/event_turns.h has the last three for programs with a Qt event loop.
 class SenderHost {
@@ -36,12 +39,12 @@ class SenderHost {
   virtual void StopClosingTimer() = 0;
   virtual void StartClosingTimer(int zMilliseconds) = 0;
 
-  /// Handles the events that are pending, the user's input included, and returns.
-  virtual void LetEventsRun() = 0;
+  /// Handles the events that are pending and returns.
+  virtual void LetEventsRun(UserInput zInput) = 0;
 
   /// Waits for events and handles them: returns after the first ones, and after a few milliseconds
   /// at the latest. Used while the port cannot take a byte.
-  virtual void WaitForEvents() = 0;
+  virtual void WaitForEvents(UserInput zInput) = 0;
 
   /// While ticking is on the host calls CodeSender::Tick every few milliseconds out of its event
   /// loop, also out of the loop of a modal window or message box.
@@ -54,11 +57,14 @@ class SenderHost {
 ///
 /// A send that starts within another replaces what is left of it: its own bytes go out, then the
 /// outer send finds nothing left and ends. Sends nest only to a fixed depth, so that a bar dragged
-/// on a slow line does not exhaust the stack: beyond it SendCodesToOrvatone leaves its bytes to the
-/// innermost send under way and returns at once. What is left so in one turn of the event loop
-/// stays together in order, and takes the place of what was left earlier and has not begun; a
-/// command string that has begun goes out whole first. So while the bar moves the chip gets as many
-/// whole commands as the line carries, each with the latest value.
+/// on a slow line does not exhaust the stack. A send beyond it lets no user input in while its
+/// bytes go out, after those of a command string that has begun. So while the bar moves the chip
+/// gets as many whole commands as the line carries, each with the latest value.
+///
+/// A line that stands still, or a phrase that takes long, must not lock the user out: after a tenth
+/// of a second the send beyond the depth leaves what remains to the innermost send that lets him
+/// in. What is left so in one turn of the event loop stays together in order, and takes the place
+/// of what was left earlier and has not begun; a command string that has begun is finished first.
 class CodeSender {
  public:
   /// All three outlive the sender.
@@ -104,7 +110,9 @@ class CodeSender {
   void TakeOver(std::string_view zCodes, bool zIsPhrase);
   void LeaveToInnermost(std::string_view zCodes, bool zIsPhrase);
   void DropWhatMayBeReplaced();
+  void WriteBeforeUserActs();
   void WritePendingOutput();
+  void TakeTurn(UserInput zInput);
   bool IsDone() const;
   void WriteNextByte();
   void OnPortFailed();
@@ -118,6 +126,7 @@ class CodeSender {
   bool isLastPhrase_ = false;
   bool wasEmptied_ = false;    // rather than written to its end
   bool hasLeftBytes_ = false;  // bytes were left to the innermost send in this turn
+  bool isLineSlow_ = false;    // the user has waited long enough, and no byte has left since
   std::size_t sendCount_ = 0;
   int depth_ = 0;  // how many sends are under way within each other
   bool isPortShownOpen_ = false;

@@ -34,7 +34,7 @@ bool Speaker::Finish() {
   complaint_.clear();
   SetTicking(true);
   const int unsent = AwaitDrained([this] { return port_.UnsentBytes(); },
-                                  [this] { WaitForEvents(); }, LongestStandstill);
+                                  [this] { WaitForEvents(UserInput::Now); }, LongestStandstill);
   SetTicking(false);
   if (unsent > 0) {
     complaint_ =

@@ -33,8 +33,8 @@ class Speaker : private SenderHost {
   bool ConfirmLongPhrase() override;
   void StopClosingTimer() override {}  // the port stays open until Finish
   void StartClosingTimer(int) override {}
-  void LetEventsRun() override { turns_.LetEventsRun(); }
-  void WaitForEvents() override { turns_.WaitForEvents(); }
+  void LetEventsRun(UserInput zInput) override { turns_.LetEventsRun(zInput); }
+  void WaitForEvents(UserInput zInput) override { turns_.WaitForEvents(zInput); }
   void SetTicking(bool zIsOn) override { turns_.SetTicking(zIsOn); }
 
   std::string PortNumberText() const;

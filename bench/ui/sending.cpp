@@ -25,8 +25,8 @@ class LoopHost : public SenderHost {
   bool ConfirmLongPhrase() override { return true; }
   void StopClosingTimer() override {}
   void StartClosingTimer(int) override {}
-  void LetEventsRun() override { turns_.LetEventsRun(); }
-  void WaitForEvents() override { turns_.WaitForEvents(); }
+  void LetEventsRun(UserInput zInput) override { turns_.LetEventsRun(zInput); }
+  void WaitForEvents(UserInput zInput) override { turns_.WaitForEvents(zInput); }
   void SetTicking(bool zIsOn) override { turns_.SetTicking(zIsOn); }
 
  private:
@@ -70,7 +70,7 @@ void WaitForAHeldBackLine(benchmark::State& zState) {
   }
   bench.host.SetTicking(true);
   for (auto _ : zState) {
-    bench.host.WaitForEvents();
+    bench.host.WaitForEvents(UserInput::Now);
     benchmark::DoNotOptimize(bench.port.IsReadyForByte());
   }
 }

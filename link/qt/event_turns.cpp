@@ -9,6 +9,10 @@ namespace {
 // A queue of sixteen bytes lasts 8 ms at 19200 bits a second; looking every 2 ms keeps it filled.
 constexpr int TickMilliseconds = 2;
 
+QEventLoop::ProcessEventsFlags FlagsFor(UserInput zInput) {
+  return zInput == UserInput::Now ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents;
+}
+
 }  // namespace
 
 EventTurns::EventTurns(std::function<void()> zOnTick) {
@@ -17,16 +21,16 @@ EventTurns::EventTurns(std::function<void()> zOnTick) {
   QObject::connect(&ticks_, &QTimer::timeout, &ticks_, std::move(zOnTick));
 }
 
-void EventTurns::LetEventsRun() {
-  QCoreApplication::processEvents();
+void EventTurns::LetEventsRun(UserInput zInput) {
+  QCoreApplication::processEvents(FlagsFor(zInput));
 }
 
-void EventTurns::WaitForEvents() {
+void EventTurns::WaitForEvents(UserInput zInput) {
   Q_ASSERT(ticks_.isActive());
   // Where this is called out of a posted event, the dispatcher does not know of those behind it and
   // would leave them until another one is posted.
   QCoreApplication::sendPostedEvents();
-  QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  QCoreApplication::processEvents(FlagsFor(zInput) | QEventLoop::WaitForMoreEvents);
 }
 
 void EventTurns::SetTicking(bool zIsOn) {

@@ -3,6 +3,8 @@
 #include <QTimer>
 #include <functional>
 
+#include "link/code_sender.h"
+
 namespace loquitor {
 
 /// The turns of the Qt event loop that a SenderHost gives to the sender; see there for each of the
@@ -12,10 +14,10 @@ class EventTurns {
   /// `zOnTick` calls CodeSender::Tick.
   explicit EventTurns(std::function<void()> zOnTick);
 
-  void LetEventsRun();
+  void LetEventsRun(UserInput zInput);
 
   /// Only while ticking: the tick ends a wait in which nothing else happens.
-  void WaitForEvents();
+  void WaitForEvents(UserInput zInput);
 
   void SetTicking(bool zIsOn);
 

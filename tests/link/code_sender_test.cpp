@@ -275,37 +275,48 @@ TEST_F(CodeSenderTest, AMillionBytesCostNoMoreEachThanAFew) {
   EXPECT_EQ(port.TakeWritten().size(), codes.size());
 }
 
-TEST_F(CodeSenderTest, BeyondTheDepthTheInnermostSendWritesWhatIsLeftToIt) {
+/// Beyond the depth bytes go out whole before the user may act again; where the line is too slow
+/// for that, the innermost send writes what is left to it.
+TEST_F(CodeSenderTest, BeyondTheDepthTheUserWaitsWhileTheBytesGoOutUnlessTheLineIsSlow) {
   const struct {
     std::vector<std::vector<const char*>> turns;  // '~' speaks, '!' empties PendingOutput
-    const char* written;
+    const char *written, *writtenSlowly;
   } cases[] = {
-      {{{"abc", "def"}}, "abcdef"},
-      {{{"lost", "!", "abc"}}, "abc"},
-      {{{"abc"}, {"lost", "lost"}, {"def"}}, "abcdef"},
-      {{{"abc"}, {}, {}, {"def"}, {"ghi"}}, "abcdefghi"},
-      {{{"~speech"}, {}, {"abc"}}, "spabc"},
-      {{{"abc"}, {"~lost"}, {"~de"}, {}, {"~fg"}}, "abcdfg"},
-      {{{"abc"}, {"!"}}, "a"},
+      {{{"abc", "def"}}, "abcdef", "abcdef"},
+      {{{"1", "!", "abc"}}, "1abc", "abc"},
+      {{{"abc"}, {"1", "2"}, {"def"}}, "abc1def2", "abcdef"},
+      {{{"abc"}, {}, {}, {"def"}, {"ghi"}}, "abcdghi", "abcdefghi"},
+      {{{"~speech"}, {}, {"abc"}}, "speechabc", "spabc"},
+      {{{"abc"}, {"~1"}, {"~de"}, {}, {"~fg"}}, "abc1defg", "abcdfg"},
+      {{{"abc"}, {"!"}}, "abc", "a"},
   };
-  for (const auto& one : cases) {
-    host.acts.clear();
-    for (int i = 0; i < 7; ++i) {
-      host.acts.push_back([this] { Send("-"); });
+  for (const bool isSlow : {false, true}) {
+    for (const auto& one : cases) {
+      for (int i = 0; i < 7; ++i) {
+        host.acts.push_back([this] { Send("-"); });
+      }
+      for (const auto& turn : one.turns) {
+        host.acts.push_back([this, &turn, isSlow] {
+          port.isHeldBack = isSlow;
+          for (const std::string_view codes : turn) {
+            codes == "!"
+                ? sender.ClearPendingOutput()
+                : sender.SendCodesToOrvatone(codes.substr(codes[0] == '~'), codes[0] == '~');
+            EXPECT_TRUE(!isSlow || !host.isClosingSoon);
+          }
+          port.isHeldBack = false;
+        });
+      }
+      Send("outermost");
+      while (!host.acts.empty()) {  // a quick line is done before he acts
+        host.LetEventsRun(UserInput::Now);
+      }
+      EXPECT_EQ(port.TakeWritten(),
+                std::string("o-------") + (isSlow ? one.writtenSlowly : one.written));
+      EXPECT_EQ(host.deepest, 9);
+      EXPECT_LE(std::exchange(host.waits, 0), isSlow ? 100 * std::ssize(one.turns) : 0);
+      EXPECT_TRUE(host.isClosingSoon);
     }
-    for (const auto& turn : one.turns) {
-      host.acts.push_back([this, &turn] {
-        for (const std::string_view codes : turn) {
-          codes == "!" ? sender.ClearPendingOutput()
-                       : sender.SendCodesToOrvatone(codes.substr(codes[0] == '~'), codes[0] == '~');
-          EXPECT_FALSE(host.isClosingSoon);
-        }
-      });
-    }
-    Send("outermost");
-    EXPECT_EQ(port.TakeWritten(), std::string("o-------") + one.written);
-    EXPECT_EQ(host.deepest, 8);
-    EXPECT_TRUE(host.isClosingSoon);
   }
 }
 
@@ -324,12 +335,12 @@ TEST_F(CodeSenderTest, WhateverHappensInMidSendEverySendEndsAndTheBoxTellsTheSta
     port.isHeldBack = false;
     Send(std::string(50, 'x'));
     while (!host.acts.empty()) {  // the send ended early
-      host.LetEventsRun();
+      host.LetEventsRun(UserInput::Now);
     }
     ASSERT_TRUE(port.TakeWritten().ends_with(StopSequence())) << story;
     ASSERT_TRUE(sender.PendingOutput().empty() && !sender.IsSending() && !host.isTicking) << story;
     ASSERT_TRUE(host.isClosingSoon && port.IsOpen() && TakeLog().ends_with("green ")) << story;
-    ASSERT_LE(host.deepest, 9) << story;  // eight sends and the loop around them
+    ASSERT_LE(host.deepest, 10) << story;  // eight sends, the loop around them and one more wait
   }
 }
 

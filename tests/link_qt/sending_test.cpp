@@ -24,8 +24,8 @@ class LoopHost : public testing::TurnHost {
 
   void StopClosingTimer() override { closingTimer.stop(); }
   void StartClosingTimer(int) override { closingTimer.start(20); }
-  void LetEventsRun() override { turns.LetEventsRun(); }
-  void WaitForEvents() override { turns.WaitForEvents(); }
+  void LetEventsRun(UserInput zInput) override { turns.LetEventsRun(zInput); }
+  void WaitForEvents(UserInput zInput) override { turns.WaitForEvents(zInput); }
   void SetTicking(bool zIsOn) override { turns.SetTicking(zIsOn); }
 
   EventTurns turns;

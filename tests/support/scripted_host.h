@@ -17,8 +17,12 @@ class ScriptedHost : public SenderHost {
     ++longPhraseQuestions;
     return sendsLongPhrases;
   }
-  void LetEventsRun() override { QCoreApplication::processEvents(); }
-  void WaitForEvents() override { QCoreApplication::processEvents(QEventLoop::AllEvents, 1); }
+  void LetEventsRun(UserInput zInput) override {
+    QCoreApplication::processEvents(FlagsFor(zInput));
+  }
+  void WaitForEvents(UserInput zInput) override {
+    QCoreApplication::processEvents(FlagsFor(zInput), 1);
+  }
   void SetTicking(bool zIsOn) override { isTicking = zIsOn; }
   void StopClosingTimer() override { isTimerRunning = false; }
   void StartClosingTimer(int) override { isTimerRunning = true; }
@@ -29,6 +33,11 @@ class ScriptedHost : public SenderHost {
   bool isTimerRunning = false;
   bool isTicking = false;
   PortState portState = PortState::Closed;
+
+ private:
+  static QEventLoop::ProcessEventsFlags FlagsFor(UserInput zInput) {
+    return zInput == UserInput::Now ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents;
+  }
 };
 
 }  // namespace loquitor::testing

@@ -26,10 +26,10 @@ class TurnHost : public SenderHost {
     isClosingSoon = true;
     closingDelay = zMilliseconds;
   }
-  void LetEventsRun() override { RunTurn(); }
-  void WaitForEvents() override {
+  void LetEventsRun(UserInput zInput) override { RunTurn(zInput); }
+  void WaitForEvents(UserInput zInput) override {
     ++waits;
-    RunTurn();
+    RunTurn(zInput);
   }
   void SetTicking(bool zIsOn) override { isTicking = zIsOn; }
 
@@ -46,9 +46,9 @@ class TurnHost : public SenderHost {
   std::deque<std::function<void()>> acts;
 
  private:
-  void RunTurn() {
+  void RunTurn(UserInput zInput) {
     deepest = std::max(deepest, ++turnsWithinEachOther);
-    if (!acts.empty()) {
+    if (!acts.empty() && zInput == UserInput::Now) {
       const auto act = acts.front();
       acts.pop_front();
       act();

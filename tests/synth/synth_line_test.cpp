@@ -15,13 +15,13 @@ class SlowLineHost : public ScriptedHost {
  public:
   explicit SlowLineHost(SimulatedLine& zLine) : line_(zLine) {}
 
-  void LetEventsRun() override { MoveIfDue(); }
-  void WaitForEvents() override { Pass(); }
+  void LetEventsRun(UserInput zInput) override { MoveIfDue(zInput); }
+  void WaitForEvents(UserInput zInput) override { Pass(zInput); }
 
   /// One millisecond on the line's clock.
-  void Pass() {
+  void Pass(UserInput zInput = UserInput::Now) {
     line_.Advance(0.001);
-    MoveIfDue();
+    MoveIfDue(zInput);
   }
 
   std::function<void()> move;  ///< the next move, when there is one
@@ -29,8 +29,8 @@ class SlowLineHost : public ScriptedHost {
   int deepest = 0;
 
  private:
-  void MoveIfDue() {
-    if (movesLeft == 0 || line_.Now() < nextMove_) {
+  void MoveIfDue(UserInput zInput) {
+    if (zInput == UserInput::Later || movesLeft == 0 || line_.Now() < nextMove_) {
       return;
     }
     nextMove_ = line_.Now() + 0.008;

@@ -58,8 +58,8 @@ class frmUtility : public QWidget, private SenderHost {
   bool ConfirmLongPhrase() override;
   void StopClosingTimer() override;
   void StartClosingTimer(int zMilliseconds) override;
-  void LetEventsRun() override { turns_.LetEventsRun(); }
-  void WaitForEvents() override { turns_.WaitForEvents(); }
+  void LetEventsRun(UserInput zInput) override { turns_.LetEventsRun(zInput); }
+  void WaitForEvents(UserInput zInput) override { turns_.WaitForEvents(zInput); }
   void SetTicking(bool zIsOn) override { turns_.SetTicking(zIsOn); }
 
   const SettingsFile& settings_;
