@@ -1,5 +1,5 @@
 // From the start of a program to its first window on the screen, and the memory that it then holds,
-// for Loquitor and for a bare Qt window. Needs Xvfb.
+// for Loquitor and for a bare Qt window, empty and with one line of text. Needs Xvfb.
 
 #include <X11/Xlib.h>
 #include <benchmark/benchmark.h>
@@ -8,6 +8,7 @@
 #include <fstream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "tests/e2e/child_process.h"
 #include "tests/support/temp_folder.h"
@@ -58,13 +59,13 @@ double ResidentMegabytes(pid_t zProcess) {
   return 0;
 }
 
-void StartToFirstWindow(benchmark::State& zState, const std::string& zProgram) {
+void StartToFirstWindow(benchmark::State& zState, const std::vector<std::string>& zProgram) {
   EmptyScreen screen;
   double megabytes = 0;
   for (auto _ : zState) {
     screen.ForgetEvents();
     const auto start = Clock::now();
-    ChildProcess program({zProgram}, {{"DISPLAY", screen.Name()}, {"QT_QPA_PLATFORM", "xcb"}});
+    ChildProcess program(zProgram, {{"DISPLAY", screen.Name()}, {"QT_QPA_PLATFORM", "xcb"}});
     screen.AwaitMappedWindow();
     zState.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
     megabytes = ResidentMegabytes(program.Pid());
@@ -73,7 +74,11 @@ void StartToFirstWindow(benchmark::State& zState, const std::string& zProgram) {
 }
 
 void BareWindow(benchmark::State& zState) {
-  StartToFirstWindow(zState, BARE_WINDOW);
+  StartToFirstWindow(zState, {BARE_WINDOW});
+}
+
+void WindowWithText(benchmark::State& zState) {
+  StartToFirstWindow(zState, {BARE_WINDOW, "Text"});
 }
 
 void Loquitor(benchmark::State& zState) {
@@ -85,10 +90,11 @@ void Loquitor(benchmark::State& zState) {
     dictionary << "word" << word << "=\\HE \\EH \\LO \\OWWW\r\n";
   }
   dictionary.close();
-  StartToFirstWindow(zState, folder / "Loquitor");
+  StartToFirstWindow(zState, {folder / "Loquitor"});
 }
 
 BENCHMARK(BareWindow)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(WindowWithText)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(Loquitor)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 
 }  // namespace

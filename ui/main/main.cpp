@@ -1,10 +1,12 @@
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 #include <csignal>
 
 #include "link/program_folder.h"
 #include "link/qt/qt_serial_port.h"
 #include "ui/main/frm_utility.h"
+#include "ui/toolkit/font_warm_up.h"
 #include "ui/toolkit/large_blocks.h"
 
 namespace {
@@ -12,7 +14,8 @@ namespace {
 QIcon ProgramIcon() {
   QIcon icon;
   for (const int size : {16, 32, 48, 128}) {
-    icon.addFile(QStringLiteral(":/icons/loquitor_%1.png").arg(size), {size, size});
+    // The format is named because otherwise Qt loads every library of image formats that it has.
+    icon.addPixmap(QPixmap(QStringLiteral(":/icons/loquitor_%1.png").arg(size), "PNG"));
   }
   return icon;
 }
@@ -30,11 +33,12 @@ void OutliveWritesBeyondTheLimit() {
 int main(int argc, char** argv) {
   loquitor::ReturnLargeBlocksAtOnce();
   OutliveWritesBeyondTheLimit();
+  loquitor::FontWarmUp fonts;
   QApplication application(argc, argv);
+  fonts.Finish();
   QApplication::setApplicationName(loquitor::ApplicationTitle);
   QApplication::setApplicationVersion(QStringLiteral("1.4"));
   QApplication::setDesktopFileName(QStringLiteral("org.loquitor.Loquitor"));
-  QApplication::setWindowIcon(ProgramIcon());
 
   const std::filesystem::path folder = loquitor::ProgramFolder();
   const loquitor::SettingsFile settings(folder);
@@ -43,5 +47,7 @@ int main(int argc, char** argv) {
   loquitor::DesktopPrompts prompts;
   loquitor::frmUtility window(port, settings, dictionary, prompts);
   window.Open();
+  // The first window does not wait for its icon.
+  QTimer::singleShot(0, &application, [] { QApplication::setWindowIcon(ProgramIcon()); });
   return QApplication::exec();
 }
