@@ -12,26 +12,6 @@
 
 namespace loquitor::testing {
 
-namespace {
-
-[[noreturn]] void Become(const std::vector<std::string>& zCommand,
-                         const std::map<std::string, std::string>& zEnvironment, int zOutput) {
-  prctl(PR_SET_PDEATHSIG, SIGKILL);
-  dup2(zOutput, STDOUT_FILENO);
-  for (const auto& [name, value] : zEnvironment) {
-    setenv(name.c_str(), value.c_str(), 1);
-  }
-  std::vector<char*> arguments;
-  for (const std::string& argument : zCommand) {
-    arguments.push_back(const_cast<char*>(argument.c_str()));
-  }
-  arguments.push_back(nullptr);
-  execvp(arguments[0], arguments.data());
-  _exit(127);
-}
-
-}  // namespace
-
 ChildProcess::ChildProcess(const std::vector<std::string>& zCommand,
                            const std::map<std::string, std::string>& zEnvironment) {
   std::array<int, 2> ends{};
@@ -40,7 +20,18 @@ ChildProcess::ChildProcess(const std::vector<std::string>& zCommand,
   }
   pid_ = fork();
   if (pid_ == 0) {
-    Become(zCommand, zEnvironment, ends[1]);
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    dup2(ends[1], STDOUT_FILENO);
+    for (const auto& [name, value] : zEnvironment) {
+      setenv(name.c_str(), value.c_str(), 1);
+    }
+    std::vector<char*> arguments;
+    for (const std::string& argument : zCommand) {
+      arguments.push_back(const_cast<char*>(argument.c_str()));
+    }
+    arguments.push_back(nullptr);
+    execvp(arguments[0], arguments.data());
+    _exit(127);
   }
   close(ends[1]);
   outputPipe_ = ends[0];
@@ -48,12 +39,9 @@ ChildProcess::ChildProcess(const std::vector<std::string>& zCommand,
 }
 
 ChildProcess::~ChildProcess() {
-  if (IsRunning()) {
-    Signal(SIGTERM);
-    if (WaitForEnd(3) == -1 && !hasEnded_) {
-      Signal(SIGKILL);
-      WaitForEnd(3);
-    }
+  for (const int signal : {SIGTERM, SIGKILL}) {
+    Signal(signal);
+    WaitForEnd(3);
   }
   close(outputPipe_);
 }
@@ -68,42 +56,30 @@ const std::string& ChildProcess::Output() {
 }
 
 bool ChildProcess::IsRunning() {
-  if (hasEnded_) {
-    return false;
-  }
   int status = 0;
-  if (waitpid(pid_, &status, WNOHANG) == pid_) {
+  if (!hasEnded_ && waitpid(pid_, &status, WNOHANG) == pid_) {
     hasEnded_ = true;
-    status_ = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    status_ = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
   }
   return !hasEnded_;
 }
 
 void ChildProcess::Signal(int zSignal) {
-  if (!hasEnded_) {
+  if (IsRunning()) {
     kill(pid_, zSignal);
   }
 }
 
 int ChildProcess::WaitForEnd(int zSeconds) {
-  Await(
-      [this] {
-        Output();
-        return !IsRunning();
-      },
-      zSeconds);
+  Await([this] { return Output(), !IsRunning(); }, zSeconds);
   return status_;
 }
 
-std::string RunCommand(const std::vector<std::string>& zCommand,
-                       const std::map<std::string, std::string>& zEnvironment) {
-  ChildProcess child(zCommand, zEnvironment);
+std::string RunCommand(const std::vector<std::string>& zCommand) {
+  ChildProcess child(zCommand);
   child.WaitForEnd();
-  std::string output = child.Output();
-  while (!output.empty() && output.back() == '\n') {
-    output.pop_back();
-  }
-  return output;
+  const std::string& output = child.Output();
+  return output.substr(0, output.find_last_not_of('\n') + 1);
 }
 
 }  // namespace loquitor::testing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sys/types.h>
+#include <time.h>
 
 #include <map>
 #include <string>
@@ -24,8 +25,8 @@ class ChildProcess {
   bool IsRunning();
   void Signal(int zSignal);
 
-  /// Waits for its end, at most `zSeconds`; the exit status, or -1 when it still runs or died of a
-  /// signal.
+  /// Waits for its end, at most `zSeconds`; the exit status, or the signal that ended it below 0,
+  /// or -1 when it still runs.
   int WaitForEnd(int zSeconds = 30);
 
   pid_t Pid() const { return pid_; }
@@ -39,26 +40,16 @@ class ChildProcess {
 };
 
 /// Runs a command to its end and returns what it printed, without the last line end.
-std::string RunCommand(const std::vector<std::string>& zCommand,
-                       const std::map<std::string, std::string>& zEnvironment = {});
+std::string RunCommand(const std::vector<std::string>& zCommand);
 
 /// Asks `zCondition` every few milliseconds until it holds; false after `zSeconds`.
 template <class Condition>
-bool Await(Condition zCondition, double zSeconds = 30);
-
-}  // namespace loquitor::testing
-
-#include <time.h>
-
-template <class Condition>
-bool loquitor::testing::Await(Condition zCondition, double zSeconds) {
-  constexpr double step = 0.01;
-  for (double waited = 0; waited < zSeconds; waited += step) {
-    if (zCondition()) {
-      return true;
-    }
-    const timespec pause{0, static_cast<long>(step * 1e9)};
-    nanosleep(&pause, nullptr);
+bool Await(Condition zCondition, double zSeconds = 30) {
+  constexpr timespec step{0, 10'000'000};
+  for (double waited = 0; waited < zSeconds && !zCondition(); waited += 0.01) {
+    nanosleep(&step, nullptr);
   }
   return zCondition();
 }
+
+}  // namespace loquitor::testing

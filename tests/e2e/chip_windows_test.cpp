@@ -1,7 +1,3 @@
-#include <gmock/gmock.h>
-
-#include <array>
-
 #include "sim/virtual_chip.h"
 #include "tests/e2e/loquitor_session.h"
 
@@ -13,115 +9,115 @@ class ChipWindows : public LoquitorSession {
  protected:
   /// Waits until `zEnd` has come in, then hands everything received to the chip; what it meant.
   std::vector<ChipEvent> Receive(std::string_view zEnd) {
-    EXPECT_TRUE(Await([&] { return chip->Received().ends_with(zEnd); }))
-        << chip->Received() << " does not end in " << zEnd;
+    ExpectEnd(std::string(zEnd));
     std::vector<ChipEvent> events = orvatone.Receive(chip->Received());
     chip->Forget();
     return events;
   }
 
-  std::vector<int> Eeprom(int zFirst, int zLast) {
-    std::vector<int> bytes;
-    for (int location = zFirst; location <= zLast; ++location) {
-      bytes.push_back(orvatone.Eeprom(location));
-    }
-    return bytes;
+  void ExpectSound(int zFrequency, int zVolume) {
+    EXPECT_EQ(orvatone.Register(1), zFrequency);
+    EXPECT_EQ(orvatone.Register(11), zVolume);
   }
-
-  /// The frequency and the volume of oscillator 1.
-  std::array<int, 2> Oscillator1() { return {orvatone.Register(1), orvatone.Register(11)}; }
 
   VirtualChip orvatone;
 };
 
+/// A slot's number in the EEPROM editor; its phrase lies 199 pixels to the right.
+Spot SlotNumber(int zSlot) {
+  return {EepromTitle, 25 + zSlot / 8 * 408, 21 + zSlot % 8 * 26};
+}
+
+/// A control of an event's row: column 0 Play, 1 the phrase's number, 2 Clear, 3 Call, 4 Restart.
+Spot EventControl(int zRow, int zColumn) {
+  return {EventTitle, 190 + zColumn * 72, 72 + zRow * 22};
+}
+
 TEST_F(ChipWindows, StoredPhrasesPlayWithTheCodesThatTheirEditorShowed) {
-  const std::vector<std::pair<int, std::string>> phrases = {
+  const std::map<int, std::string> phrases = {
       {0, "hello"}, {7, "hello,world"}, {15, "\\PITCH \\100  world"}};
-  StartLoquitor();
-  const std::string window = Open(mainWindow, place::EepromEditorButton, EepromTitle);
+  Start();
+  Open(At("EEPROM Editor"), EepromTitle);
   std::map<int, std::string> shown;
   for (const auto& [slot, sayData] : phrases) {
-    phraseWindow = Open(window, place::SlotPhrase(slot), PhraseTitle);
-    TypeSayData(sayData);
+    Spot phrase = SlotNumber(slot);
+    phrase.x += 199;
+    Open(phrase, PhraseTitle);
+    desktop.Type(sayData);
     shown[slot] = ViewedCodes();
-    ClickOn(phraseWindow, place::PhraseDone);
-    EXPECT_TRUE(desktop.AwaitGone(PhraseTitle));
+    Leave("Done of the phrase");
   }
-  ClickOn(window, place::EepromWrite);
+  Click("Write the phrases");
   EXPECT_THAT(Receive("\\0VX"), ::testing::SizeIs(16 + 5 + 10 + 8 + 1));
 
   for (const auto& [slot, sayData] : phrases) {
-    ClickOn(window, place::SlotNumber(slot));
+    Click(SlotNumber(slot));
     const std::vector<ChipEvent> played = Receive(std::string{29, static_cast<char>(slot)});
     ASSERT_THAT(played, ::testing::SizeIs(1));
     EXPECT_EQ(played[0].kind, ChipEventKind::Play);
     EXPECT_EQ(AsNumbers(Prefix + played[0].codes), shown[slot]) << sayData;
   }
-  ClickOn(window, place::EepromDone);
-  EXPECT_TRUE(desktop.AwaitGone(EepromTitle));
-  EXPECT_EQ(Finish(), 0);
+  Leave("Done of the phrases");
+  Finish();
   EXPECT_THAT(ReadBytes(folder / "Loquitor.ini"), ::testing::HasSubstr("Phrase7=hello,world\r\n"));
 }
 
 TEST_F(ChipWindows, TheEventConfigurationReachesLocations237To255) {
-  StartLoquitor();
-  const std::string window = Open(mainWindow, place::EventConfigButton, EventTitle);
-  const auto tick = [&](int zRow, int zColumn) {
-    ClickOn(window, place::EventControl(zRow, zColumn), place::EventsFrame);
-  };
-  tick(0, 0);   // input 0 going high plays
-  tick(15, 2);  // input 7 going low clears the buffer,
-  tick(15, 3);  // calls
-  tick(15, 4);  // and restarts
-  tick(16, 0);  // power-up plays
-  FillIn(window, "9", place::EventControl(0, 1), place::EventsFrame);
-  FillIn(window, "15", place::EventControl(15, 1), place::EventsFrame);
-  FillIn(window, "3", place::EventControl(16, 1), place::EventsFrame);
-  FillIn(window, "5", place::ScpNode, place::MiscellaneousFrame);
-  ClickOn(window, place::AutoSilence, place::MiscellaneousFrame);  // no longer
-  ClickOn(window, place::Option(0, 0), place::InputStyleFrame);    // input 7 by level
-  ClickOn(window, place::Option(1, 0), place::OutputControlFrame);
-  ClickOn(window, place::Option(2, 0), place::OutputStartupFrame);
-  ClickOn(window, place::EventWrite);
+  Start();
+  Open(At("Event Config"), EventTitle);
+  Click(EventControl(0, 0));   // input 0 going high plays
+  Click(EventControl(15, 2));  // input 7 going low clears the buffer,
+  Click(EventControl(15, 3));  // calls
+  Click(EventControl(15, 4));  // and restarts
+  Click(EventControl(16, 0));  // power-up plays
+  FillIn(EventControl(0, 1), "9");
+  FillIn(EventControl(15, 1), "15");
+  FillIn(EventControl(16, 1), "3");
+  FillIn("SCP Node", "5");
+  for (const char* name : {"Auto Silence", "Input 7 by level", "Output 1 by the chip",
+                           "Output 2 on at first", "Write the events"}) {
+    Click(name);
+  }
   EXPECT_EQ(Receive("\\0VX").front().kind, ChipEventKind::Reset);
 
-  std::vector<int> expected(19, 0xd0);  // 237 to 255: an input's event that does nothing
-  expected[0] = 0x73;                   // power-up
-  expected[1] = 0xd2;                   // input style, output control
-  expected[2] = 0xdc;                   // start-up states, node
-  expected[3] = 0x59;
-  expected[18] = 0xaf;
-  EXPECT_EQ(Eeprom(237, 255), expected);
-  EXPECT_EQ(orvatone.Eeprom(236), 0xff) << "not one more than that";
-  ClickOn(window, place::EventDone);
-  EXPECT_EQ(Finish(), 0);
+  std::vector<int> expected(20, 0xd0);  // an input's event that does nothing
+  expected[0] = 0xff;                   // location 236: not written
+  expected[1] = 0x73;                   // power-up
+  expected[2] = 0xd2;                   // input style, output control
+  expected[3] = 0xdc;                   // start-up states, node
+  expected[4] = 0x59;
+  expected[19] = 0xaf;
+  for (int location = 236; location <= 255; ++location) {
+    EXPECT_EQ(orvatone.Eeprom(location), expected.at(location - 236)) << location;
+  }
+  Leave("Done of the events");
+  Finish();
 }
 
 TEST_F(ChipWindows, ASynthSoundIsPlayedKeptShutUpAndPlayedAgain) {
-  StartLoquitor();
-  const std::string window = Open(mainWindow, place::SynthButton, SynthTitle);
-  FillIn(window, "100", place::MasterVolume, place::MainsFrame);
-  FillIn(window, "440", place::FrequencyBox, place::Oscillator1Frame);
-  FillIn(window, "20", place::VolumeBox, place::Oscillator1Frame);
-  ClickOn(window, place::EnvelopeSine, place::MainsFrame);
+  Start();
+  Open(At("Synth Control"), SynthTitle);
+  FillIn("Master Volume", "100");
+  FillIn("Frequency 1", "440");
+  FillIn("Volume 1", "20");
+  Click("Sine");
   Receive("\\08J 1NX");
   EXPECT_EQ(orvatone.Register(7), 100);
-  EXPECT_THAT(Oscillator1(), ::testing::ElementsAre(440, 20));
+  ExpectSound(440, 20);
 
-  FillIn(window, "Bell", place::SoundName, {});
-  ClickOn(window, place::SoundSave);
-  ClickOn(window, place::SynthShutUp);
+  FillIn("Sound", "Bell");
+  Click("Save");
+  Click("Shut Up of the synth");
   Receive("\\08J 0NX");
   EXPECT_EQ(orvatone.Register(7), 96);
-  EXPECT_THAT(Oscillator1(), ::testing::ElementsAre(0, 0));
+  ExpectSound(0, 0);
 
-  ClickOn(window, place::SoundLoad);
+  Click("Load");
   Receive("\\011J 20NX");
-  EXPECT_THAT(Oscillator1(), ::testing::ElementsAre(440, 20));
-  ClickOn(window, place::SynthDone);
-  EXPECT_TRUE(desktop.AwaitGone(SynthTitle));
+  ExpectSound(440, 20);
+  Leave("Done of the synth");
   Receive("\\08J 0NX");
-  EXPECT_EQ(Finish(), 0);
+  Finish();
 }
 
 }  // namespace

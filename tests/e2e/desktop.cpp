@@ -1,74 +1,58 @@
 #include "tests/e2e/desktop.h"
 
 #include <cstdlib>
+#include <regex>
 #include <stdexcept>
 
 namespace loquitor::testing {
 
 namespace {
 
-constexpr const char* HumanPause = "12";  // milliseconds between keys
-
 constexpr int WidestFrame = 40;  // pixels that the window manager puts around a window
 
-int NumberAfter(const std::string& zText, const std::string& zLabel) {
-  const std::size_t at = zText.find(zLabel);
-  return at == std::string::npos ? -1 : std::atoi(zText.c_str() + at + zLabel.size());
+using Command = std::vector<std::string>;
+
+void Require(bool zHolds, const std::string& zComplaint) {
+  if (!zHolds) {
+    throw std::runtime_error(zComplaint);
+  }
 }
 
-std::string Quoted(const std::string& zText) {
-  std::string pattern = "^";
-  for (const char character : zText) {
-    if (std::string(R"(\.^$*+?()[]{}|)").find(character) != std::string::npos) {
-      pattern += '\\';
-    }
-    pattern += character;
-  }
-  return pattern + "$";
+/// Whether the number behind `zLabel` is `zFrom` or just beyond.
+bool IsAt(const std::string& zText, const std::string& zLabel, int zFrom) {
+  const std::size_t at = zText.find(zLabel);
+  const int number = at == std::string::npos ? -1 : std::atoi(&zText[at + zLabel.size()]);
+  return number >= zFrom && number <= zFrom + WidestFrame;
 }
 
 }  // namespace
 
 Desktop::Desktop() {
-  server_ = std::make_unique<ChildProcess>(std::vector<std::string>{
-      "Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24", "-nolisten", "tcp", "-noreset"});
-  if (!Await([this] { return server_->Output().find('\n') != std::string::npos; })) {
-    throw std::runtime_error("Xvfb does not start; ./test installs what it needs");
-  }
-  display_ = ":" + server_->Output().substr(0, server_->Output().find('\n'));
-  windowManager_ =
-      std::make_unique<ChildProcess>(std::vector<std::string>{"openbox"},
-                                     std::map<std::string, std::string>{{"DISPLAY", display_}});
-  const bool hasManager = Await([this] {
-    return Do({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).find("window id") !=
-           std::string::npos;
-  });
-  if (!hasManager) {
-    throw std::runtime_error("openbox does not start; ./test installs what it needs");
-  }
-}
-
-std::map<std::string, std::string> Desktop::Environment() const {
-  return {{"DISPLAY", display_},
-          {"QT_QPA_PLATFORM", "xcb"},
-          {"XDG_RUNTIME_DIR", runtimeFolder_.Path()}};
-}
-
-std::string Desktop::Do(std::vector<std::string> zCommand) {
-  return RunCommand(zCommand, {{"DISPLAY", display_}});
+  server_ = std::make_unique<ChildProcess>(Command{"Xvfb", "-displayfd", "1", "-screen", "0",
+                                                   "1600x1200x24", "-nolisten", "tcp", "-noreset"});
+  Require(Await([this] { return server_->Output().find('\n') != std::string::npos; }),
+          "Xvfb does not start; ./test installs what it needs");
+  const std::string display = ":" + server_->Output().substr(0, server_->Output().find('\n'));
+  setenv("DISPLAY", display.c_str(), 1);
+  setenv("QT_QPA_PLATFORM", "xcb", 1);
+  setenv("XDG_RUNTIME_DIR", runtimeFolder_.Path().c_str(), 1);
+  windowManager_ = std::make_unique<ChildProcess>(Command{"openbox"});
+  const Command question{"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"};
+  Require(Await([&] { return RunCommand(question).find("window id") != std::string::npos; }),
+          "openbox does not start; ./test installs what it needs");
 }
 
 std::string Desktop::FindWindow(const std::string& zTitle) {
-  const std::string found = Do({"xdotool", "search", "--onlyvisible", "--name", Quoted(zTitle)});
+  const std::regex special(R"([.^$|()\[\]{}*+?\\])");
+  const std::string title = "^" + std::regex_replace(zTitle, special, R"(\$&)") + "$";
+  const std::string found = RunCommand({"xdotool", "search", "--onlyvisible", "--name", title});
   return found.substr(0, found.find('\n'));
 }
 
 std::string Desktop::AwaitWindow(const std::string& zTitle) {
   std::string window;
-  Await([&] { return !(window = FindWindow(zTitle)).empty(); });
-  if (!window.empty()) {
-    Do({"xdotool", "windowactivate", "--sync", window});
-  }
+  Require(Await([&] { return !(window = FindWindow(zTitle)).empty(); }), "no window " + zTitle);
+  RunCommand({"xdotool", "windowactivate", "--sync", window});
   return window;
 }
 
@@ -77,59 +61,33 @@ bool Desktop::AwaitGone(const std::string& zTitle) {
 }
 
 // Without --sync, which waits for ever for a mouse that is there already.
-void Desktop::Click(const std::string& zWindow, int zX, int zY) {
-  Do({"xdotool", "mousemove", "--window", zWindow, std::to_string(zX), std::to_string(zY), "click",
-      "1"});
-}
-
-void Desktop::DoubleClick(const std::string& zWindow, int zX, int zY) {
-  Do({"xdotool", "mousemove", "--window", zWindow, std::to_string(zX), std::to_string(zY), "click",
-      "--repeat", "2", "--delay", "100", "1"});
-}
-
-void Desktop::Type(const std::string& zText) {
-  Do({"xdotool", "type", "--delay", HumanPause, zText});
-}
-
-void Desktop::Key(const std::string& zKey) {
-  Do({"xdotool", "key", zKey});
+void Desktop::Click(const std::string& zWindow, int zX, int zY, int zTimes) {
+  RunCommand({"xdotool", "mousemove", "--window", zWindow, std::to_string(zX), std::to_string(zY),
+              "click", "--repeat", std::to_string(zTimes), "--delay", "100", "1"});
 }
 
 void Desktop::MoveTo(const std::string& zWindow, int zX, int zY) {
-  Do({"xdotool", "windowmove", zWindow, std::to_string(zX), std::to_string(zY)});
+  RunCommand({"xdotool", "windowmove", zWindow, std::to_string(zX), std::to_string(zY)});
   // xdotool's own --sync waits for ever. The client area lies within the window's frame.
   Await([&] {
-    const std::string place = Do({"xwininfo", "-id", zWindow});
-    const int right = NumberAfter(place, "Absolute upper-left X:") - zX;
-    const int down = NumberAfter(place, "Absolute upper-left Y:") - zY;
-    return right >= 0 && right <= WidestFrame && down >= 0 && down <= WidestFrame;
+    const std::string place = RunCommand({"xwininfo", "-id", zWindow});
+    return IsAt(place, "Absolute upper-left X:", zX) && IsAt(place, "Absolute upper-left Y:", zY);
   });
 }
 
 void Desktop::CloseWindow(const std::string& zWindow) {
-  Do({"xdotool", "windowactivate", "--sync", zWindow, "key", "alt+F4"});
+  RunCommand({"xdotool", "windowactivate", "--sync", zWindow, "key", "alt+F4"});
 }
 
 std::string Desktop::ColourAt(const std::string& zWindow, int zX, int zY) {
-  const std::string picture =
-      Do({"import", "-silent", "-window", zWindow, "-crop",
-          "1x1+" + std::to_string(zX) + "+" + std::to_string(zY), "-depth", "8", "rgb:-"});
-  std::string colour;
-  constexpr std::string_view digits = "0123456789ABCDEF";
-  for (const char byte : picture.substr(0, 3)) {
-    const auto value = static_cast<unsigned char>(byte);
-    colour += digits[value >> 4];
-    colour += digits[value & 15];
-  }
-  return colour;
-}
-
-std::string Desktop::Clipboard() {
-  return Do({"xclip", "-selection", "clipboard", "-out"});
+  const std::string point = "1x1+" + std::to_string(zX) + "+" + std::to_string(zY);
+  const std::string pixel =
+      RunCommand({"import", "-silent", "-window", zWindow, "-crop", point, "-depth", "8", "txt:-"});
+  return pixel.substr(pixel.rfind('#') + 1, 6);
 }
 
 std::string Desktop::Property(const std::string& zWindow, const std::string& zName) {
-  return Do({"xprop", "-id", zWindow, zName});
+  return RunCommand({"xprop", "-id", zWindow, zName});
 }
 
 }  // namespace loquitor::testing

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <memory>
 #include <string>
 
@@ -9,23 +8,21 @@
 
 namespace loquitor::testing {
 
-/// An X server of the test's own with a window manager, and a pair of hands at it.
+/// An X server of the test's own with a window manager, and a pair of hands at it. Programs that
+/// the test starts appear there.
 class Desktop {
  public:
   Desktop();
 
-  /// What a program needs in its environment to appear here.
-  std::map<std::string, std::string> Environment() const;
-
-  /// Waits for a visible window with exactly that title; its number, or "" when none comes.
+  /// Waits for a visible window with exactly that title and brings it to the front; its number.
+  /// Throws when none comes.
   std::string AwaitWindow(const std::string& zTitle);
   bool AwaitGone(const std::string& zTitle);
 
   /// Mouse and keyboard, on a point of a window's client area in pixels.
-  void Click(const std::string& zWindow, int zX, int zY);
-  void DoubleClick(const std::string& zWindow, int zX, int zY);
-  void Type(const std::string& zText);
-  void Key(const std::string& zKey);
+  void Click(const std::string& zWindow, int zX, int zY, int zTimes = 1);
+  void Type(const std::string& zText) { RunCommand({"xdotool", "type", "--delay", "12", zText}); }
+  void Key(const std::string& zKey) { RunCommand({"xdotool", "key", zKey}); }
 
   /// Moves a window's top left corner to a point of the screen, so that none covers another, and
   /// waits until it is there.
@@ -37,19 +34,17 @@ class Desktop {
   /// The colour of a point as RRGGBB.
   std::string ColourAt(const std::string& zWindow, int zX, int zY);
 
-  std::string Clipboard();
+  std::string Clipboard() { return RunCommand({"xclip", "-selection", "clipboard", "-out"}); }
 
   /// What a window tells the window manager under `zName`, in the words of xprop.
   std::string Property(const std::string& zWindow, const std::string& zName);
 
  private:
-  std::string FindWindow(const std::string& zTitle);
-  std::string Do(std::vector<std::string> zCommand);
+  static std::string FindWindow(const std::string& zTitle);
 
   TempFolder runtimeFolder_;
   std::unique_ptr<ChildProcess> server_;
   std::unique_ptr<ChildProcess> windowManager_;
-  std::string display_;
 };
 
 }  // namespace loquitor::testing

@@ -1,13 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <fstream>
-
 #include "tests/e2e/loquitor_session.h"
 
 namespace loquitor::testing {
 namespace {
 
-constexpr std::size_t LongCount = 500;  // codes
+constexpr std::size_t LongCount = 500;  // codes of the word "long"
+constexpr std::size_t EndlessCount = 100 * LongCount;
 
 /// Sixteen stored phrases, of which each but the last has thirteen codes: 2 KB of memory writes.
 std::string ManyStoredPhrases() {
@@ -24,92 +21,117 @@ std::string ManyStoredPhrases() {
 
 class LineFaults : public LoquitorSession {
  protected:
-  void GivenSettings(const std::string& zSettings) {
-    std::ofstream(folder / "Loquitor.ini", std::ios::app | std::ios::binary) << zSettings;
-  }
-
-  /// Starts to say `zSayData` while the line is held back; its word "long" has 500 codes, "endless"
-  /// 50,000.
-  void SayWhileHeldBack(const std::string& zSayData) {
+  void GivenLongWords() {
     WriteBytes(folder / "Loquitor.Dic", "[words]\r\nlong=" + Repeated("\\IY", LongCount) +
                                             "\r\nendless=" + Repeated("long ", 100) + "\r\n");
-    StartLoquitor();
+  }
+
+  /// Opens the phrase editor and starts to say `zSayData` while the line is held back.
+  void SayWhileHeldBack(const std::string& zSayData) {
     chip->HoldBack();
     OpenPhraseEditor();
-    TypeSayData(zSayData);
-    ClickOn(phraseWindow, place::SayIt, place::SayDataFrame);
+    Say(zSayData);
     EXPECT_TRUE(AwaitPortColour("00FF00"));
   }
-
-  static std::string Repeated(const std::string& zText, std::size_t zCount) {
-    std::string text;
-    for (std::size_t copies = 0; copies < zCount; ++copies) {
-      text += zText;
-    }
-    return text;
+  void BreakOffEndlessPhrase() {
+    SayWhileHeldBack("endless");
+    EXPECT_TRUE(chip->LetPass(50));
   }
 
-  void CloseWithKey(const std::string& zWindow, const std::string& zTitle) {
-    desktop.CloseWindow(zWindow);
-    EXPECT_TRUE(desktop.AwaitGone(zTitle)) << zTitle;
+  /// The chip gets a beginning of the endless phrase and then `zEnd`, nothing else.
+  void ExpectCutBy(const std::string& zEnd) {
+    chip->Release();
+    ExpectEnd(zEnd);
+    const std::string phrase = Prefix + std::string(EndlessCount, '\x80');
+    const std::size_t cutAt = chip->Received().size() - zEnd.size();
+    EXPECT_EQ(chip->Received(), phrase.substr(0, cutAt) + zEnd);
+    EXPECT_LT(cutAt, phrase.size()) << "nothing was cut";
+    chip->Forget();
   }
 };
 
 TEST_F(LineFaults, ALineThatIsHeldBackForEverLeavesEveryWindowUsableAndTheProgramCloses) {
   GivenSettings(ManyStoredPhrases());
+  GivenLongWords();
+  Start();
   SayWhileHeldBack("long");
   EXPECT_TRUE(ViewedCodes() == AsNumbers(Prefix + std::string(LongCount, '\x80')));
-  ClickOn(phraseWindow, place::PhraseShutUp);
-  CloseWithKey(phraseWindow, PhraseTitle);
-
-  const std::string eeprom = Open(mainWindow, place::EepromEditorButton, EepromTitle);
-  ClickOn(eeprom, place::EepromWrite);
-  ClickOn(eeprom, place::EepromDone);
-  EXPECT_TRUE(desktop.AwaitGone(EepromTitle));
-  const std::string event = Open(mainWindow, place::EventConfigButton, EventTitle);
-  ClickOn(event, place::EventWrite);
-  ClickOn(event, place::EventDone);
-  EXPECT_TRUE(desktop.AwaitGone(EventTitle));
-  const std::string synth = Open(mainWindow, place::SynthButton, SynthTitle);
-  FillIn(synth, "440", place::FrequencyBox, place::Oscillator1Frame);
-  ClickOn(synth, place::SynthDone);
-  EXPECT_TRUE(desktop.AwaitGone(SynthTitle));
-  CloseWithKey(Open(mainWindow, place::BaudRateButton, BaudRateTitle), BaudRateTitle);
-  CloseWithKey(Open(mainWindow, place::DictionaryEditorButton, DictionaryTitle), DictionaryTitle);
-
-  ClickOn(mainWindow, place::TestButton, place::CommunicationFrame);
-  EXPECT_EQ(Finish(), 0);
+  Click("Shut Up of the phrase");
+  CloseByKey(PhraseTitle);
+  Open(At("EEPROM Editor"), EepromTitle);
+  Click("Write the phrases");
+  Leave("Done of the phrases");
+  Open(At("Event Config"), EventTitle);
+  Click("Write the events");
+  Leave("Done of the events");
+  Open(At("Synth Control"), SynthTitle);
+  FillIn("Frequency 1", "440");
+  Leave("Done of the synth");
+  Open(At("Baud Rate and Detune"), BaudRateTitle);
+  CloseByKey(BaudRateTitle);
+  Open(At("Dictionary Editor"), DictionaryTitle);
+  CloseByKey(DictionaryTitle);
+  Click("Test Serial Connection");
+  Finish();
   EXPECT_EQ(chip->Received(), "");
 }
 
 TEST_F(LineFaults, ANewPortNumberLeavesWhatTheOldPortHeldBack) {
-  PtyChip second;
-  GivenSettings("2=" + second.Path() + "\r\n");
-  StartLoquitor();
+  auto second = std::make_unique<PtyChip>();
+  GivenSettings("2=" + second->Path() + "\r\n");
+  Start();
   chip->HoldBack();
-  ClickOn(mainWindow, place::TestButton, place::CommunicationFrame);
+  Click("Test Serial Connection");
   EXPECT_TRUE(AwaitPortColour("00FF00"));
-  FillIn(mainWindow, "2", place::PortBox, place::CommunicationFrame);
+  FillIn("Serial Port", "2");
   EXPECT_TRUE(AwaitPortColour("FFFFFF"));
-  ClickOn(mainWindow, place::TestButton, place::CommunicationFrame);
-  EXPECT_TRUE(Await([&] { return second.Received() == TestBytes; })) << second.Received();
-  EXPECT_EQ(Finish(), 0);
-  chip->Release();
-  EXPECT_EQ(chip->Received(), "");
+  Click("Test Serial Connection");
+  chip.swap(second);
+  ExpectBytes(TestBytes);
+  Finish();
+  second->Release();
+  EXPECT_EQ(second->Received(), "");
 }
 
-TEST_F(LineFaults, ClosingThePhraseEditorInMidSendEndsTheSend) {
-  SayWhileHeldBack("endless");
-  EXPECT_TRUE(chip->LetPass(50));
-  CloseWithKey(phraseWindow, PhraseTitle);
-  ClickOn(mainWindow, place::TestButton, place::CommunicationFrame);
-  chip->Release();
-  EXPECT_TRUE(Await([&] { return chip->Received().ends_with(TestBytes); }));
-  const std::string phrase = Prefix + std::string(100 * LongCount, '\x80');
-  const std::size_t cutAt = chip->Received().size() - TestBytes.size();
-  EXPECT_EQ(chip->Received(), phrase.substr(0, cutAt) + TestBytes);
-  EXPECT_LT(cutAt, phrase.size()) << "nothing was cut";
-  EXPECT_EQ(Finish(), 0);
+TEST_F(LineFaults, ShutUpAndClosingTheWindowCutAPhraseInMidSend) {
+  GivenLongWords();
+  Start();
+  BreakOffEndlessPhrase();
+  Click("Shut Up of the phrase");
+  ExpectCutBy(StopBytes);
+  Leave("Done of the phrase");
+  BreakOffEndlessPhrase();
+  CloseByKey(PhraseTitle);
+  Click("Test Serial Connection");
+  ExpectCutBy(TestBytes);
+  Finish();
+}
+
+TEST_F(LineFaults, ALineThatIsPulledAwayInMidSendShowsRedAndLeavesEverythingUsable) {
+  GivenLongWords();
+  Start();
+  BreakOffEndlessPhrase();
+  chip->HangUp();
+  EXPECT_TRUE(AwaitPortColour("FF0000"));
+  chip = std::make_unique<PtyChip>();
+  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Path() + "\r\n");
+  Click("Shut Up of the phrase");
+  ExpectBytes(StopBytes);
+  EXPECT_TRUE(AwaitPortColour("00FF00"));
+  Leave("Done of the phrase");
+  Finish();
+}
+
+TEST_F(LineFaults, APortThatCannotBeOpenedIsRedUntilTheNumberChanges) {
+  Start();
+  FillIn("Serial Port", "99999999999");
+  Click("Test Serial Connection");
+  EXPECT_TRUE(AwaitPortColour("FF0000"));
+  FillIn("Serial Port", "1");
+  EXPECT_TRUE(AwaitPortColour("FFFFFF"));
+  Click("Test Serial Connection");
+  ExpectBytes(TestBytes);
+  EXPECT_TRUE(AwaitPortColour("00FF00"));
 }
 
 }  // namespace

@@ -1,21 +1,52 @@
 #include "tests/e2e/loquitor_session.h"
 
+#include <fstream>
+
 namespace loquitor::testing {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
-
 constexpr std::string_view Dictionary =
     "[words]\r\nhello=\\HE \\EH \\LO \\OWWW\r\nworld=\\WW \\AXRR \\LO \\OD\r\n";
 
-int MiddleX(const Place& zPlace, const Place& zFrame) {
-  return (zFrame.left + zPlace.left + zPlace.width / 2) / TwipsPerPixel;
-}
-
-int MiddleY(const Place& zPlace, const Place& zFrame) {
-  return (zFrame.top + zPlace.top + zPlace.height / 2) / TwipsPerPixel;
-}
+const std::map<std::string, Spot> Spots = {
+    {"Phrase Editor", {MainTitle, 74, 24}},
+    {"EEPROM Editor", {MainTitle, 212, 24}},
+    {"Event Config", {MainTitle, 350, 24}},
+    {"Synth Control", {MainTitle, 74, 62}},
+    {"Dictionary Editor", {MainTitle, 212, 62}},
+    {"Baud Rate and Detune", {MainTitle, 350, 62}},
+    {"Serial Port", {MainTitle, 102, 118}},
+    {"Test Serial Connection", {MainTitle, 190, 116}},
+    {"Done of the program", {MainTitle, 380, 130}},
+    {"Say It", {PhraseTitle, 644, 420}},
+    {"View Codes", {PhraseTitle, 730, 420}},
+    {"Shut Up of the phrase", {PhraseTitle, 654, 508}},
+    {"Done of the phrase", {PhraseTitle, 724, 508}},
+    {"IY", {PhraseTitle, 172, 28}},
+    {"Wait", {PhraseTitle, 109, 36}},
+    {"Copy to Clipboard", {CodesTitle, 311, 332}},
+    {"Done of the codes", {CodesTitle, 446, 332}},
+    {"Save Changes", {DictionaryTitle, 645, 414}},
+    {"Write the phrases", {EepromTitle, 552, 238}},
+    {"Done of the phrases", {EepromTitle, 770, 238}},
+    {"SCP Node", {EventTitle, 112, 478}},
+    {"Auto Silence", {EventTitle, 222, 478}},
+    {"Input 7 by level", {EventTitle, 649, 37}},
+    {"Output 1 by the chip", {EventTitle, 649, 139}},
+    {"Output 2 on at first", {EventTitle, 649, 264}},
+    {"Write the events", {EventTitle, 655, 407}},
+    {"Done of the events", {EventTitle, 655, 481}},
+    {"Master Volume", {SynthTitle, 142, 33}},
+    {"Sine", {SynthTitle, 508, 62}},
+    {"Frequency 1", {SynthTitle, 226, 125}},
+    {"Volume 1", {SynthTitle, 226, 145}},
+    {"Sound", {SynthTitle, 150, 507}},
+    {"Load", {SynthTitle, 242, 508}},
+    {"Save", {SynthTitle, 322, 508}},
+    {"Shut Up of the synth", {SynthTitle, 498, 508}},
+    {"Done of the synth", {SynthTitle, 582, 508}},
+};
 
 }  // namespace
 
@@ -23,6 +54,14 @@ std::string AsNumbers(const std::string& zCodes) {
   std::string text;
   for (const char code : zCodes) {
     text += (text.empty() ? "" : ", ") + std::to_string(static_cast<unsigned char>(code));
+  }
+  return text;
+}
+
+std::string Repeated(const std::string& zText, std::size_t zCount) {
+  std::string text;
+  for (std::size_t copies = 0; copies < zCount; ++copies) {
+    text += zText;
   }
   return text;
 }
@@ -36,84 +75,86 @@ void LoquitorSession::SetUp() {
 
 void LoquitorSession::TearDown() {
   if (loquitor && loquitor->IsRunning() && HasFailure()) {
-    RunCommand({"import", "-silent", "-window", "root", "/tmp/loquitor-e2e-failure.png"},
-               desktop.Environment());
+    RunCommand({"import", "-silent", "-window", "root", "/tmp/loquitor-e2e-failure.png"});
   }
 }
 
-void LoquitorSession::StartLoquitor() {
-  loquitor = std::make_unique<ChildProcess>(std::vector<std::string>{folder / "Loquitor"},
-                                            desktop.Environment());
-  mainWindow = desktop.AwaitWindow(MainTitle);
-  ASSERT_NE(mainWindow, "");
-  desktop.MoveTo(mainWindow, 10, 30);
+void LoquitorSession::GivenSettings(const std::string& zSettings) {
+  std::ofstream(folder / "Loquitor.ini", std::ios::app | std::ios::binary) << zSettings;
 }
 
-void LoquitorSession::ClickOn(const std::string& zWindow, const Place& zPlace,
-                              const Place& zFrame) {
-  desktop.Click(zWindow, MiddleX(zPlace, zFrame), MiddleY(zPlace, zFrame));
+void LoquitorSession::Start() {
+  loquitor = std::make_unique<ChildProcess>(std::vector<std::string>{folder / "Loquitor"});
+  windows[MainTitle] = desktop.AwaitWindow(MainTitle);
+  desktop.MoveTo(windows[MainTitle], 10, 30);
 }
 
-void LoquitorSession::DoubleClickOn(const std::string& zWindow, const Place& zPlace,
-                                    const Place& zFrame) {
-  desktop.DoubleClick(zWindow, MiddleX(zPlace, zFrame), MiddleY(zPlace, zFrame));
+Spot LoquitorSession::At(const std::string& zName) {
+  return Spots.at(zName);
 }
 
-std::string LoquitorSession::Open(const std::string& zOpener, const Place& zPlace,
-                                  const std::string& zTitle) {
-  ClickOn(zOpener, zPlace);
-  const std::string window = desktop.AwaitWindow(zTitle);
-  EXPECT_NE(window, "") << zTitle;
-  desktop.MoveTo(window, 10, 300);
-  return window;
+void LoquitorSession::Click(const Spot& zSpot, int zTimes) {
+  desktop.Click(windows.at(zSpot.title), zSpot.x, zSpot.y, zTimes);
 }
 
-void LoquitorSession::OpenPhraseEditor() {
-  phraseWindow = Open(mainWindow, place::PhraseEditorButton, PhraseTitle);
-  ASSERT_NE(phraseWindow, "");
+void LoquitorSession::Open(const Spot& zOpener, const std::string& zTitle) {
+  Click(zOpener);
+  windows[zTitle] = desktop.AwaitWindow(zTitle);
+  desktop.MoveTo(windows[zTitle], 10, 300);
+}
+
+void LoquitorSession::Leave(const std::string& zDone) {
+  Click(zDone);
+  EXPECT_TRUE(desktop.AwaitGone(At(zDone).title)) << zDone;
+}
+
+void LoquitorSession::CloseByKey(const std::string& zTitle) {
+  desktop.CloseWindow(windows.at(zTitle));
+  EXPECT_TRUE(desktop.AwaitGone(zTitle)) << zTitle;
 }
 
 std::string LoquitorSession::ViewedCodes() {
-  ClickOn(phraseWindow, place::ViewCodes, place::SayDataFrame);
-  const std::string codesWindow = desktop.AwaitWindow(CodesTitle);
+  Click("View Codes");
+  windows[CodesTitle] = desktop.AwaitWindow(CodesTitle);
   const std::string before = desktop.Clipboard();
-  ClickOn(codesWindow, place::CodesCopy);
+  Click("Copy to Clipboard");
   Await([&] { return desktop.Clipboard() != before; });
-  ClickOn(codesWindow, place::CodesDone);
-  EXPECT_TRUE(desktop.AwaitGone(CodesTitle));
+  Leave("Done of the codes");
   return desktop.Clipboard();
 }
 
-void LoquitorSession::FillIn(const std::string& zWindow, const std::string& zText,
-                             const Place& zPlace, const Place& zFrame) {
-  ClickOn(zWindow, zPlace, zFrame);
+void LoquitorSession::FillIn(const Spot& zBox, const std::string& zText) {
+  Click(zBox);
   desktop.Key("ctrl+a");
   desktop.Type(zText);
   desktop.Key("Tab");
 }
 
-bool LoquitorSession::AwaitCount(std::size_t zCount) {
-  return Await([&] { return chip->Received().size() >= zCount; });
+void LoquitorSession::Say(const std::string& zSayData) {
+  desktop.Type(zSayData);
+  Click("Say It");
 }
 
-bool LoquitorSession::AwaitBytes(std::string_view zBytes) {
-  AwaitCount(zBytes.size());
+void LoquitorSession::ExpectBytes(const std::string& zBytes) {
+  Await([&] { return chip->Received().size() >= zBytes.size(); });
   EXPECT_EQ(chip->Received(), zBytes);
-  return chip->Received() == zBytes;
+}
+
+void LoquitorSession::ExpectEnd(const std::string& zBytes) {
+  EXPECT_TRUE(Await([&] { return chip->Received().ends_with(zBytes); }))
+      << chip->Received() << " does not end in " << zBytes;
 }
 
 bool LoquitorSession::AwaitPortColour(const std::string& zColour) {
-  const int right =
-      (place::CommunicationFrame.left + place::PortBox.left + place::PortBox.width) / TwipsPerPixel;
-  return Await([&] {
-    return desktop.ColourAt(mainWindow, right - 4,
-                            MiddleY(place::PortBox, place::CommunicationFrame)) == zColour;
-  });
+  constexpr int besideTheNumber = 112;
+  const int middle = At("Serial Port").y;
+  return Await(
+      [&] { return desktop.ColourAt(windows[MainTitle], besideTheNumber, middle) == zColour; });
 }
 
-int LoquitorSession::Finish() {
-  ClickOn(mainWindow, place::MainDone);
-  return loquitor->WaitForEnd();
+void LoquitorSession::Finish() {
+  Click("Done of the program");
+  EXPECT_EQ(loquitor->WaitForEnd(), 0);
 }
 
 }  // namespace loquitor::testing

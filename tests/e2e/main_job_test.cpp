@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <sys/resource.h>
 
 #include "tests/e2e/loquitor_session.h"
@@ -6,142 +5,104 @@
 namespace loquitor::testing {
 namespace {
 
-// hello, world  \PITCH \100 in the session's dictionary: the words, a comma with its pause, two
-// blanks.
-const std::string HelloWorldCodes =
-    "\xb7\x83\x92\xa4"
-    "\x02"
-    "\x93\x97\x92\xb1"
-    "\x06"
-    "\x16\x64";
+using ::testing::AllOf;
+using ::testing::HasSubstr;
 
 TEST_F(LoquitorSession, SaysAPhraseShowsItsCodesAndClosesThePort) {
-  StartLoquitor();
+  const std::string codes = Prefix +
+                            "\xb7\x83\x92\xa4"
+                            "\x02"
+                            "\x93\x97\x92\xb1"
+                            "\x06"
+                            "\x16\x64";  // the words, a comma with its pause, two blanks, the pitch
+  Start();
   EXPECT_TRUE(AwaitPortColour("FFFFFF"));
   OpenPhraseEditor();
-  TypeSayData("hello, world  \\PITCH \\100");
-  ClickOn(phraseWindow, place::SayIt, place::SayDataFrame);
-  AwaitBytes(Prefix + HelloWorldCodes);
+  Say("hello, world  \\PITCH \\100");
+  ExpectBytes(codes);
   EXPECT_TRUE(AwaitPortColour("00FF00"));
-
-  EXPECT_EQ(ViewedCodes(), AsNumbers(Prefix + HelloWorldCodes));
-
+  EXPECT_EQ(ViewedCodes(), AsNumbers(codes));
   EXPECT_TRUE(AwaitPortColour("FFFFFF")) << "the port closes a second after the last byte";
-  ClickOn(phraseWindow, place::PhraseDone);
-  EXPECT_TRUE(desktop.AwaitGone(PhraseTitle));
-  EXPECT_EQ(Finish(), 0);
+  Leave("Done of the phrase");
+  Finish();
   EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"),
             "[Ports]\r\n1=" + chip->Path() + "\r\n[Serial]\r\nPort=1\r\nFlowControl=1\r\n");
 }
 
-TEST_F(LoquitorSession, ShutUpCutsAPhraseThatTheChipHoldsBack) {
-  std::string entry;
-  for (int copies = 0; copies < 250; ++copies) {
-    entry += "\\IY\\EH";
-  }
-  std::string words;
-  for (int level = 0; level < 7; ++level) {  // 500 codes doubled seven times
-    words += "w" + std::to_string(level) + "=w" + std::to_string(level + 1) + " w" +
-             std::to_string(level + 1) + "\r\n";
-  }
-  WriteBytes(folder / "Loquitor.Dic", "[words]\r\n" + words + "w7=" + entry + "\r\n");
-  StartLoquitor();
-  OpenPhraseEditor();
-  TypeSayData("w0");
-  ClickOn(phraseWindow, place::SayIt, place::SayDataFrame);
-  EXPECT_TRUE(AwaitPortColour("00FF00"));
-  const timespec lineFills{1, 0};
-  nanosleep(&lineFills, nullptr);
-  ClickOn(phraseWindow, place::PhraseShutUp);
-
-  EXPECT_TRUE(Await([&] { return chip->Received().ends_with(StopBytes); }));
-  const std::string& received = chip->Received();
-  std::string phrase = Prefix;
-  while (phrase.size() < received.size()) {
-    phrase += "\x80\x83";
-  }
-  const std::size_t cutAt = received.size() - StopBytes.size();
-  EXPECT_EQ(received, phrase.substr(0, cutAt) + StopBytes);
-  EXPECT_LT(cutAt, 64008u) << "nothing was cut";
-}
-
-TEST_F(LoquitorSession, ALineThatIsPulledAwayInMidSendShowsRedAndLeavesEverythingUsable) {
-  std::string words;
-  for (int level = 0; level < 16; ++level) {
-    words += "w" + std::to_string(level) + "=w" + std::to_string(level + 1) + " w" +
-             std::to_string(level + 1) + "\r\n";
-  }
-  WriteBytes(folder / "Loquitor.Dic", "[words]\r\n" + words + "w16=\\IY\r\n");
-  StartLoquitor();
-  OpenPhraseEditor();
-  TypeSayData("w0");
-  ClickOn(phraseWindow, place::SayIt, place::SayDataFrame);
-  EXPECT_TRUE(AwaitPortColour("00FF00"));
-  chip->HangUp();
-  EXPECT_TRUE(AwaitPortColour("FF0000"));
-
-  chip = std::make_unique<PtyChip>();
-  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Path() + "\r\n");
-  ClickOn(phraseWindow, place::PhraseShutUp);
-  AwaitBytes(StopBytes);
-  EXPECT_TRUE(AwaitPortColour("00FF00"));
-  ClickOn(phraseWindow, place::PhraseDone);
-  EXPECT_TRUE(desktop.AwaitGone(PhraseTitle));
-  EXPECT_EQ(Finish(), 0);
-}
-
 TEST_F(LoquitorSession, ARealDoubleClickPlaysOnceAndInsertsOnce) {
-  StartLoquitor();
+  Start();
   OpenPhraseEditor();
-  DoubleClickOn(phraseWindow, place::VowelIy, place::VowelsFrame);
-  AwaitBytes(Prefix + "\x80");
-  chip->Forget();
-  ClickOn(phraseWindow, place::SayIt, place::SayDataFrame);
-  AwaitBytes(Prefix + "\x80");
-}
-
-TEST_F(LoquitorSession, ARealDoubleClickOnWaitAsksAndInserts) {
-  StartLoquitor();
-  OpenPhraseEditor();
-  DoubleClickOn(phraseWindow, place::Wait, place::PausesFrame);
-  ASSERT_NE(desktop.AwaitWindow("Notice"), "");
+  DoubleClick("IY");
+  ExpectBytes(Prefix + "\x80");
+  DoubleClick("Wait");
+  desktop.AwaitWindow("Notice");
   desktop.Key("Return");
-  AwaitBytes(Prefix + "\x10");
+  ExpectBytes(Prefix + "\x80" + Prefix + "\x10");
   EXPECT_TRUE(desktop.AwaitGone("Notice"));
   chip->Forget();
-  ClickOn(phraseWindow, place::SayIt, place::SayDataFrame);
-  AwaitBytes(Prefix + "\x10");
-}
-
-TEST_F(LoquitorSession, APortThatCannotBeOpenedIsRedUntilTheNumberChanges) {
-  StartLoquitor();
-  ClickOn(mainWindow, place::PortBox, place::CommunicationFrame);
-  desktop.Key("ctrl+a");
-  desktop.Type("99999999999");
-  ClickOn(mainWindow, place::TestButton, place::CommunicationFrame);
-  EXPECT_TRUE(AwaitPortColour("FF0000"));
-  ClickOn(mainWindow, place::PortBox, place::CommunicationFrame);
-  desktop.Key("ctrl+a");
-  desktop.Type("1");
-  desktop.Key("Tab");
-  EXPECT_TRUE(AwaitPortColour("FFFFFF"));
-  ClickOn(mainWindow, place::TestButton, place::CommunicationFrame);
-  AwaitBytes("\x1f\\0VX");
-  EXPECT_TRUE(AwaitPortColour("00FF00"));
+  Click("Say It");
+  ExpectBytes(Prefix + "\x80\x10");
 }
 
 TEST_F(LoquitorSession, ASaveBeyondTheSystemsFileSizeIsToldAndHarmsNothing) {
   const std::string before = ReadBytes(folder / "Loquitor.Dic");
-  StartLoquitor();
+  Start();
   const rlimit tooSmall{8, RLIM_INFINITY};
   ASSERT_EQ(prlimit(loquitor->Pid(), RLIMIT_FSIZE, &tooSmall, nullptr), 0);
-  ClickOn(mainWindow, place::DictionaryEditorButton);
-  const std::string editor = desktop.AwaitWindow(DictionaryTitle);
-  ASSERT_NE(editor, "");
-  ClickOn(editor, place::DictionarySave);
-  EXPECT_NE(desktop.AwaitWindow("Loquitor"), "");
+  Open(At("Dictionary Editor"), DictionaryTitle);
+  Click("Save Changes");
+  desktop.AwaitWindow("Loquitor");
   EXPECT_TRUE(loquitor->IsRunning());
   EXPECT_EQ(ReadBytes(folder / "Loquitor.Dic"), before);
+}
+
+class WindowManager : public LoquitorSession {
+ protected:
+  std::string Property(const std::string& zTitle, const std::string& zName) {
+    return desktop.Property(windows.at(zTitle), zName);
+  }
+
+  /// What the user may do to the window: the second number of the hints.
+  unsigned Functions(const std::string& zTitle) {
+    const std::string hints = Property(zTitle, "_MOTIF_WM_HINTS");
+    return static_cast<unsigned>(std::stoul(hints.substr(hints.find(',') + 1), nullptr, 16));
+  }
+
+  /// Editors: a close box alone, not in the task bar (a utility window that belongs to another).
+  void ExpectToolWindow(const std::string& zTitle) {
+    EXPECT_EQ(Functions(zTitle) & ~Resize, unsigned{Move | Close});
+    EXPECT_THAT(Property(zTitle, "_NET_WM_WINDOW_TYPE"), HasSubstr("TYPE_UTILITY"));
+    EXPECT_THAT(Property(zTitle, "_NET_WM_STATE"), HasSubstr("STATE_MODAL"));
+    EXPECT_THAT(Property(zTitle, "WM_TRANSIENT_FOR"), HasSubstr("window id"));
+  }
+
+  enum : unsigned { Resize = 2, Move = 4, Minimise = 8, Close = 32 };
+};
+
+TEST_F(WindowManager, LearnsWhatMayBeDoneToEachWindow) {
+  Start();
+  EXPECT_EQ(Functions(MainTitle), unsigned{Resize | Move | Minimise | Close});
+  OpenPhraseEditor();
+  ExpectToolWindow(PhraseTitle);
+  Open(At("View Codes"), CodesTitle);
+  ExpectToolWindow(CodesTitle);
+  EXPECT_THAT(Property(PhraseTitle, "WM_NORMAL_HINTS"),
+              AllOf(HasSubstr("minimum size: 780 by 529"), HasSubstr("maximum size: 780 by 529")));
+  for (const std::string& title : {MainTitle, CodesTitle}) {
+    EXPECT_THAT(Property(title, "WM_NORMAL_HINTS"), ::testing::Not(HasSubstr("maximum size: ")));
+  }
+}
+
+TEST_F(WindowManager, FindsTheDesktopEntryAndTheIcon) {
+  Start();
+  const std::string windowClass = Property(MainTitle, "WM_CLASS");
+  const std::string name = windowClass.substr(windowClass.rfind(", \"") + 3);
+  EXPECT_THAT(ReadBytes(DESKTOP_ENTRY),
+              HasSubstr("\nStartupWMClass=" + name.substr(0, name.size() - 1) + "\n"));
+  const std::string icon = Property(MainTitle, "_NET_WM_ICON");
+  for (const char* size : {"16 x 16", "32 x 32", "48 x 48", "128 x 128"}) {
+    EXPECT_THAT(icon, HasSubstr("Icon (" + std::string(size) + ")"));
+  }
 }
 
 }  // namespace
