@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "link/profile_file.h"
+#include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
 namespace loquitor::testing {
@@ -89,20 +90,15 @@ TEST_F(FreshProfileTest, IsNotDeceivedByTimesThatAreSetBack) {
 
 TEST_F(FreshProfileTest, TrustsNoStampThatIsTooYoung) {
   constexpr std::int64_t second = 1'000'000'000;
-  struct Row {
-    std::int64_t changed, now;
-    bool isSettled;
-  };
-  const Row rows[] = {
-      {100 * second + 1, 100 * second + 15'000'000, false},
-      {100 * second + 1, 100 * second + 25'000'000, true},
-      {100 * second + 1, 99 * second, false},  // the clock was set back
-      {100 * second, 101 * second, false},     // counts whole seconds
-      {100 * second, 102 * second, false},     // counts them two at a time
-      {100 * second, 103 * second, true},
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(IsSettled({1, 2, 3, 0, row.changed}, row.now), row.isSettled) << row.now;
+  for (const auto& [changed, now, isSettled] : Rows<std::int64_t, std::int64_t, bool>{
+           {100 * second + 1, 100 * second + 15'000'000, false},
+           {100 * second + 1, 100 * second + 25'000'000, true},
+           {100 * second + 1, 99 * second, false},  // the clock was set back
+           {100 * second, 101 * second, false},     // counts whole seconds
+           {100 * second, 102 * second, false},     // counts them two at a time
+           {100 * second, 103 * second, true},
+       }) {
+    EXPECT_EQ(IsSettled({1, 2, 3, 0, changed}, now), isSettled) << now;
   }
   WriteBytes(file, Text("1"));
   EXPECT_FALSE(LoadFile(file)->isSettled);

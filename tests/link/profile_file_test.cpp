@@ -3,10 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
-#include <tuple>
 #include <vector>
 
+#include "link/letter_case.h"
+#include "link/profile_edit.h"
+#include "link/profile_index.h"
+#include "tests/support/plain_profile.h"
+#include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
 namespace loquitor::testing {
@@ -14,16 +19,17 @@ namespace {
 
 using namespace std::string_literals;
 using namespace std::string_view_literals;
+using Text = std::string_view;
 
 /// A profile file of a test's own.
 class ProfileFileTest : public ::testing::Test {
  protected:
-  void Given(std::string_view zText) { WriteBytes(file, zText); }
-  std::string Read(std::string_view zSection, std::string_view zKey,
-                   std::string_view zDefault = "default", std::size_t zBufferLength = 2560) {
+  void Given(Text zText) { WriteBytes(file, zText); }
+  std::string Read(Text zSection, Text zKey, Text zDefault = "default",
+                   std::size_t zBufferLength = 2560) {
     return ReadProfileValue(zSection, zKey, zDefault, zBufferLength, file);
   }
-  bool Write(std::string_view zSection, std::string_view zKey, std::string_view zValue) {
+  bool Write(Text zSection, Text zKey, Text zValue) {
     return WriteProfileValue(zSection, zKey, zValue, file);
   }
   std::string Bytes() { return ReadBytes(file); }
@@ -35,38 +41,34 @@ class ProfileFileTest : public ::testing::Test {
 /// These rows and those of the writes tell the rules; a random comparison with a plain reference
 /// tries them in every combination.
 TEST_F(ProfileFileTest, ReadsTheFirstKeyOfTheFirstSectionThatMatches) {
-  struct Row {
-    std::string_view text, section, key, value;
-  };
-  const Row rows[] = {
-      {"[a]\r\nk=1\r\n", "a", "k", "1"},
-      {"[a]\rk=1\r[b]\rk=2\r", "b", "k", "2"},
-      {"[a]\r\r\n\n\rk=1\n\r", "a", "k", "1"},
-      {"[\xC4\x8A\x9F]\n\xD6\xC9=1\n", "\xE4\x9A\xFF", "\xF6\xE9", "1"},
-      {"[s]\n\xD7=1\n\xDF=2\n", "s", "\xF7", "default"},
-      {"[s]\nk=1\n[t]\nx=1\n[S]\nk=2\nj=3\n", "s", "k", "1"},
-      {" \t[ \ts \t] tail\n \tk\t = \t1 2\t \n", " s\t", "\tk ", "1 2"},
-      {"[s]x]\nk=1\n", "s", "k", "1"},
-      {"[open s \nk=1\n", "open s", "k", "1"},
-      {"[]\nk=1\n", "", "k", "1"},
-      {"k=0\n[s]\nj=1\n", "s", "k", "default"},
-      {"[s]\n;k=1\n ; k=2\nk\nk2\n", "s", "k", "default"},
-      {"[s]\nk = = \n", "s", "k", "="},
-      {"[s]\na  b = 1\n", "s", "a b", "default"},
-      {"[s]\nk= \t \n", "s", "k", ""},
-      {"[s]\nk=\" a \"\n", "s", "k", " a "},
-      {"[s]\nk= '\ta'\t\n", "s", "k", "\ta"},
-      {"[s]\nk=\"a\n", "s", "k", "\"a"},
-      {"[s]\nk=''a''\n", "s", "k", "'a'"},
-      {"\xEF\xBB\xBF  [s]\nk=1\n", "s", "k", "1"},
-      {"[s]\nk=a\0b\n"sv, "s", "k", "a\0b"sv},
-      {"[s]\n\0=1\nk\0=2\nk=3"sv, "s", "k\0"sv, "2"},
-      {"[s", "s", "k", "default"},
-      {"[s]\nk=1", "s\nk", "k", "default"},
-  };
-  for (const Row& row : rows) {
-    Given(row.text);
-    EXPECT_EQ(Read(row.section, row.key), row.value) << ::testing::PrintToString(row.text);
+  for (const auto& [text, section, key, value] : Rows<Text, Text, Text, Text>{
+           {"[a]\r\nk=1\r\n", "a", "k", "1"},
+           {"[a]\rk=1\r[b]\rk=2\r", "b", "k", "2"},
+           {"[a]\r\r\n\n\rk=1\n\r", "a", "k", "1"},
+           {"[\xC4\x8A\x9F]\n\xD6\xC9=1\n", "\xE4\x9A\xFF", "\xF6\xE9", "1"},
+           {"[s]\n\xD7=1\n\xDF=2\n", "s", "\xF7", "default"},
+           {"[s]\nk=1\n[t]\nx=1\n[S]\nk=2\nj=3\n", "s", "k", "1"},
+           {" \t[ \ts \t] tail\n \tk\t = \t1 2\t \n", " s\t", "\tk ", "1 2"},
+           {"[s]x]\nk=1\n", "s", "k", "1"},
+           {"[open s \nk=1\n", "open s", "k", "1"},
+           {"[]\nk=1\n", "", "k", "1"},
+           {"k=0\n[s]\nj=1\n", "s", "k", "default"},
+           {"[s]\n;k=1\n ; k=2\nk\nk2\n", "s", "k", "default"},
+           {"[s]\nk = = \n", "s", "k", "="},
+           {"[s]\na  b = 1\n", "s", "a b", "default"},
+           {"[s]\nk= \t \n", "s", "k", ""},
+           {"[s]\nk=\" a \"\n", "s", "k", " a "},
+           {"[s]\nk= '\ta'\t\n", "s", "k", "\ta"},
+           {"[s]\nk=\"a\n", "s", "k", "\"a"},
+           {"[s]\nk=''a''\n", "s", "k", "'a'"},
+           {"\xEF\xBB\xBF  [s]\nk=1\n", "s", "k", "1"},
+           {"[s]\nk=a\0b\n"sv, "s", "k", "a\0b"sv},
+           {"[s]\n\0=1\nk\0=2\nk=3"sv, "s", "k\0"sv, "2"},
+           {"[s", "s", "k", "default"},
+           {"[s]\nk=1", "s\nk", "k", "default"},
+       }) {
+    Given(text);
+    EXPECT_EQ(Read(section, key), value) << ::testing::PrintToString(text);
   }
 }
 
@@ -82,13 +84,12 @@ TEST_F(ProfileFileTest, ReadsLongValuesToTheirLineEnd) {
 
 TEST_F(ProfileFileTest, CutsTheValueAndTheDefaultToTheBuffer) {
   Given("[s]\nk=\"abcdef\"\n");
-  const std::tuple<std::size_t, std::string_view, std::string_view> rows[] = {
-      {0, "", ""},
-      {1, "", ""},
-      {4, "abc", "123"},
-      {7, "abcdef", "123456"},
-      {8, "abcdef", "1234567"}};
-  for (const auto& [length, value, rest] : rows) {
+  for (const auto& [length, value, rest] :
+       Rows<std::size_t, Text, Text>{{0, "", ""},
+                                     {1, "", ""},
+                                     {4, "abc", "123"},
+                                     {7, "abcdef", "123456"},
+                                     {8, "abcdef", "1234567"}}) {
     EXPECT_EQ(Read("s", "k", "x", length), value);
     EXPECT_EQ(Read("s", "none", "1234567", length), rest);
     EXPECT_EQ(Read("none", "k", "1234567", length), rest);
@@ -96,32 +97,29 @@ TEST_F(ProfileFileTest, CutsTheValueAndTheDefaultToTheBuffer) {
 }
 
 TEST_F(ProfileFileTest, WritesOneValueAndLeavesTheRestAsItWas) {
-  struct Row {
-    std::string_view before, section, key, value, after;
-  };
-  const Row rows[] = {
-      {"", "s", "k", "1", "[s]\r\nk=1\r\n"},
-      {"\xEF\xBB\xBF[s]\nk=0\n", "s", "k", "1", "\xEF\xBB\xBF[s]\nk=1\r\n"},
-      {"[s]\nWord=0\nx=1\n", "s", "wORD", "1", "[s]\nWord=1\r\nx=1\n"},
-      {"[s]\n  k \t= 0 \nx", "s", "k", "1", "[s]\nk=1\r\nx"},
-      {"[s]\nk=0\nk=9\n[s]\nk=8\n", "s", "k", "1", "[s]\nk=1\r\nk=9\n[s]\nk=8\n"},
-      {"[s]\nk=0\n[t]\n[s]\nj=8\n", "s", "j", "1", "[s]\nk=0\nj=1\r\n[t]\n[s]\nj=8\n"},
-      {"[s]\na=0\n\n \t\r\n\r[t]\nb=0\n", "s", "k", "1", "[s]\na=0\nk=1\r\n\n \t\r\n\r[t]\nb=0\n"},
-      {"[s]\nstray", "s", "k", "1", "[s]\nstray\r\nk=1\r\n"},
-      {"[t]\na=1\n\n\n", "s", "k", "1", "[t]\na=1\n\n\n[s]\r\nk=1\r\n"},
-      {"k=0\n", "", "k", "1", "k=0\n[]\r\nk=1\r\n"},
-      {"", " \tMy Words ", "\ta key ", "1", "[My Words]\r\na key=1\r\n"},
-      {"[s]\nk='0'\n", "s", "k", "0 1", "[s]\nk=0 1\r\n"},
-      {"[s]\nk=0\n", "s", "k", " a=b;[c] ", "[s]\nk= a=b;[c] \r\n"},
-      {"[s]\nj=0\n", "s", "k", "a\r\nb\n\n\rc\rd", "[s]\nj=0\nk=a b c d\r\n"},
-      {"[s]\n;k=0\n", "s", "k", "1", "[s]\n;k=0\nk=1\r\n"},
-      {"a\0b\n[s]\n\0\nk=0\n\0"sv, "s", "k", "1", "a\0b\n[s]\n\0\nk=1\r\n\0"sv},
-      {"[s]\nk = 1\n", "s", "k", " 1 ", "[s]\nk = 1\n"},  // it stands there already
-  };
-  for (const Row& row : rows) {
-    Given(row.before);
-    EXPECT_TRUE(Write(row.section, row.key, row.value));
-    EXPECT_EQ(Bytes(), row.after) << ::testing::PrintToString(row.before);
+  for (const auto& [before, section, key, value, after] : Rows<Text, Text, Text, Text, Text>{
+           {"", "s", "k", "1", "[s]\r\nk=1\r\n"},
+           {"\xEF\xBB\xBF[s]\nk=0\n", "s", "k", "1", "\xEF\xBB\xBF[s]\nk=1\r\n"},
+           {"[s]\nWord=0\nx=1\n", "s", "wORD", "1", "[s]\nWord=1\r\nx=1\n"},
+           {"[s]\n  k \t= 0 \nx", "s", "k", "1", "[s]\nk=1\r\nx"},
+           {"[s]\nk=0\nk=9\n[s]\nk=8\n", "s", "k", "1", "[s]\nk=1\r\nk=9\n[s]\nk=8\n"},
+           {"[s]\nk=0\n[t]\n[s]\nj=8\n", "s", "j", "1", "[s]\nk=0\nj=1\r\n[t]\n[s]\nj=8\n"},
+           {"[s]\na=0\n\n \t\r\n\r[t]\nb=0\n", "s", "k", "1",
+            "[s]\na=0\nk=1\r\n\n \t\r\n\r[t]\nb=0\n"},
+           {"[s]\nstray", "s", "k", "1", "[s]\nstray\r\nk=1\r\n"},
+           {"[t]\na=1\n\n\n", "s", "k", "1", "[t]\na=1\n\n\n[s]\r\nk=1\r\n"},
+           {"k=0\n", "", "k", "1", "k=0\n[]\r\nk=1\r\n"},
+           {"", " \tMy Words ", "\ta key ", "1", "[My Words]\r\na key=1\r\n"},
+           {"[s]\nk='0'\n", "s", "k", "0 1", "[s]\nk=0 1\r\n"},
+           {"[s]\nk=0\n", "s", "k", " a=b;[c] ", "[s]\nk= a=b;[c] \r\n"},
+           {"[s]\nj=0\n", "s", "k", "a\r\nb\n\n\rc\rd", "[s]\nj=0\nk=a b c d\r\n"},
+           {"[s]\n;k=0\n", "s", "k", "1", "[s]\n;k=0\nk=1\r\n"},
+           {"a\0b\n[s]\n\0\nk=0\n\0"sv, "s", "k", "1", "a\0b\n[s]\n\0\nk=1\r\n\0"sv},
+           {"[s]\nk = 1\n", "s", "k", " 1 ", "[s]\nk = 1\n"},  // it stands there already
+       }) {
+    Given(before);
+    EXPECT_TRUE(Write(section, key, value));
+    EXPECT_EQ(Bytes(), after) << ::testing::PrintToString(before);
   }
   EXPECT_THAT(folder.Names(), ::testing::ElementsAre("words.ini"));
 }
@@ -148,10 +146,15 @@ TEST_F(ProfileFileTest, WritesManyValuesAsOneAfterTheOtherWould) {
 }
 
 TEST_F(ProfileFileTest, RefusesNamesThatTheFormatCannotHold) {
-  const std::pair<std::string_view, std::string_view> rows[] = {
-      {"s", " \t"}, {"s", "a=b"}, {"s", "a\nb"}, {"s", "a\r"}, {"s", " [a]"},
-      {"s", "\t;"}, {"a]b", "k"}, {"a\nb", "k"}, {"\r", "k"}};
-  for (const auto& [section, key] : rows) {
+  for (const auto& [section, key] : Rows<Text, Text>{{"s", " \t"},
+                                                     {"s", "a=b"},
+                                                     {"s", "a\nb"},
+                                                     {"s", "a\r"},
+                                                     {"s", " [a]"},
+                                                     {"s", "\t;"},
+                                                     {"a]b", "k"},
+                                                     {"a\nb", "k"},
+                                                     {"\r", "k"}}) {
     std::filesystem::remove(file);
     EXPECT_FALSE(Write(section, key, "1")) << section << '/' << key;
     EXPECT_THAT(folder.Names(), ::testing::IsEmpty());
@@ -179,6 +182,100 @@ TEST_F(ProfileFileTest, KeepsEveryByteInNamesValuesAndTheRest) {
   EXPECT_EQ(Bytes().substr(0, text.size()), text);
   EXPECT_THAT(Bytes(), ::testing::HasSubstr("\r\n<\xDC>=252\r\n"));  // the small letter's write
   EXPECT_EQ(Read("<\x01>", "k"), "1");
+}
+
+TEST(LetterCase, CapitalsOfTheCodePageBecomeSmallAndAllElseStays) {
+  const std::string capitals = "AZ\xC0\xD6\xD8\xDE\x8A\x8C\x8E\x9F";
+  const std::string small = "az\xE0\xF6\xF8\xFE\x9A\x9C\x9E\xFF";
+  EXPECT_EQ(ToLower(capitals), small);
+  int changed = 0;
+  for (int code = 0; code < 256; ++code) {
+    const char character = static_cast<char>(code);
+    const char lower = LowerCase(character);
+    changed += lower == character ? 0 : 1;
+    EXPECT_EQ(LowerCase(lower), lower) << code;
+    EXPECT_EQ(LowerCaseTable[static_cast<std::size_t>(code)], lower) << code;
+  }
+  EXPECT_EQ(changed, 26 + 30 + 4);
+  EXPECT_EQ(ToLower("\xD7\xF7\xDF@[`{ 1="), "\xD7\xF7\xDF@[`{ 1=");
+}
+
+/// Makes texts of pieces that mean something in a profile.
+struct TextMaker {
+  std::string Name() {
+    return Pick({"a", "A", "key", "KEY", " k e y ", "\xE4\x9C", "\xC4\x8C", "", "\t",
+                 "nine\xDE char", "NINE\xFE char", "b]", ";c", "[d", "e=f", "\n"});
+  }
+  std::string Value() {
+    return Pick({"", "1", " x ", "\"q\"", "' q '", "\"", "'\"", "a=b", "\r\n", "a\nb", "[s]", ";"});
+  }
+  std::string Text() {
+    std::string text = Pick({"", "", "", "\xEF\xBB\xBF"});
+    for (auto lines = random() % 24; lines > 0; --lines) {
+      text += Pick({"", "", "\t", "; ", "[a]\n", "[KEY\r\n", " [ \xC4\x8C ] x=1\r", "["}) + Name() +
+              Pick({"=", "=", " = ", "]", ""}) + Value() + Pick({"\r\n", "\n", "\r", "\n\r"});
+    }
+    return text.substr(0, text.size() - random() % 2);
+  }
+  std::string Pick(std::initializer_list<const char*> zTexts) {
+    return zTexts.begin()[random() % zTexts.size()];
+  }
+
+  std::mt19937 random{20260722};
+};
+
+TEST(ProfileIndexTest, FindsAndEditsLikeAPlainReference) {
+  TextMaker make;
+  for (int round = 0; round < 10'000; ++round) {
+    const std::string text = make.Text(), section = make.Name(), key = make.Name(),
+                      value = make.Value();
+    SCOPED_TRACE(::testing::PrintToString(text) + " [" + section + "] " + key);
+    PlainProfile plain(text);
+    ASSERT_EQ(plain.Text(), text);
+    ASSERT_EQ(ProfileIndex(AsLoaded(text)).Find(section, key), plain.Read(section, key));
+    const auto edit = EditForValue(text, section, key, value);
+    ASSERT_EQ(edit.has_value(), plain.Write(section, key, value));
+    const std::string after = edit ? Edited(text, *edit) : text;
+    ASSERT_EQ(after, plain.Text());
+    ASSERT_EQ(ProfileIndex(AsLoaded(after)).Find(section, key), plain.Read(section, key));
+  }
+}
+
+TEST(ProfileIndexTest, FindsEveryKeyOfALargeFile) {
+  std::string text;
+  for (int section = 0; section < 40; ++section) {
+    text += "[S" + std::to_string(section % 30) + "]\n";  // ten of them for the second time
+    for (int key = 0; key < 700; ++key) {
+      text += "Word" + std::to_string(key % 650) + "=" + std::to_string(700 * section + key) + "\n";
+    }
+  }
+  const ProfileIndex index(AsLoaded(text));
+  for (int section = 0; section < 30; ++section) {
+    for (int key = 0; key < 650; ++key) {
+      ASSERT_EQ(index.Find("s" + std::to_string(section), "wORD" + std::to_string(key)),
+                std::to_string(700 * section + key));
+    }
+  }
+}
+
+TEST(ProfileIndexTest, NamesTheSectionsThatCanBeRead) {
+  const ProfileIndex index(AsLoaded("k=1\n[Bell]\n [ Drum ]\n[bell]\n[]\n[\xC4\n;[no]\n"));
+  EXPECT_THAT(index.SectionNames(), ::testing::ElementsAre("Bell", "Drum", "", "\xC4"));
+}
+
+/// Files that are no profiles: nothing is found, nothing hangs, whatever repeats a million times.
+TEST(ProfileIndexTest, GetsThroughHugeAndHostileTexts) {
+  std::mt19937 random(7);
+  std::string noise(1 << 16, '\0');
+  std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random()); });
+  for (const std::string& pattern : {noise, "=\n"s, "[\n"s, "k=1\r"s, "\r"s, " "s}) {
+    std::string text = "[s]\n";
+    while (text.size() < 1'000'000) {  // what is quadratic would take hours
+      text += pattern;
+    }
+    EXPECT_EQ(ProfileIndex(AsLoaded(text)).Find("s", "none"), std::nullopt);
+    EXPECT_EQ(EditForValue(text, "none", "k", "1")->end, text.size());
+  }
 }
 
 }  // namespace

@@ -45,15 +45,9 @@ bool InChild(const std::function<bool()>& zStory) {
 
 /// Where saves are quick, since a memory file system has nothing to flush; locks and names are the
 /// same. The temporary folder where there is none.
-class QuickFolder {
- public:
-  QuickFolder() {
-    if (access("/dev/shm", W_OK | X_OK) == 0) {
-      static_cast<void>(setenv("TMPDIR", "/dev/shm", 1));
-    }
-  }
-  ~QuickFolder() { static_cast<void>(unsetenv("TMPDIR")); }
-};
+fs::path QuickPlace() {
+  return access("/dev/shm", W_OK | X_OK) == 0 ? "/dev/shm" : fs::temp_directory_path();
+}
 
 class SafeSaveTest : public ::testing::Test {
  protected:
@@ -69,8 +63,7 @@ class SafeSaveTest : public ::testing::Test {
     return status;
   }
 
-  QuickFolder quick;
-  TempFolder folder;
+  TempFolder folder{QuickPlace()};
   fs::path file = folder / "Loquitor.Dic";
 };
 
@@ -95,42 +88,29 @@ TEST_F(SafeSaveTest, TwoProgramsSavingAtOnceLoseNothing) {
   EXPECT_THAT(folder.Names(), ::testing::ElementsAre("Loquitor.Dic"));
 }
 
-/// A process that saves one word after the other and tells through a pipe which save has returned.
-class Saver {
- public:
-  Saver(const std::function<bool(int)>& zSave, int zFirst) {
-    int ends[2];
-    if (pipe(ends) != 0) {
-      throw std::runtime_error("no pipe");
+/// Has a process save one word after the other and kills it after a while. Returns how many of its
+/// saves had come back.
+int CountSavesUntilKilled(const std::function<bool(int)>& zSave, std::chrono::microseconds zTime) {
+  int ends[2];
+  EXPECT_EQ(pipe(ends), 0);
+  const pid_t child = StartChild([&] {
+    for (int i = 0; zSave(i) && write(ends[1], "", 1) == 1; ++i) {
     }
-    child_ = StartChild([&] {
-      for (int i = zFirst; zSave(i) && write(ends[1], &i, sizeof i) == sizeof i; ++i) {
-      }
-      return false;
-    });
-    static_cast<void>(close(ends[1]));
-    pipe_ = ends[0];
+    return false;
+  });
+  static_cast<void>(close(ends[1]));
+  std::this_thread::sleep_for(zTime);
+  EXPECT_EQ(kill(child, SIGKILL), 0);
+  int status = 0;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFSIGNALED(status)) << "a save has failed";
+  int saved = 0;
+  for (char told; read(ends[0], &told, 1) == 1;) {
+    ++saved;
   }
-  ~Saver() { static_cast<void>(close(pipe_)); }
-
-  /// Kills it; the numbers of the words that it has saved.
-  std::vector<int> Kill() const {
-    EXPECT_EQ(kill(child_, SIGKILL), 0);
-    int status = 0;
-    EXPECT_EQ(waitpid(child_, &status, 0), child_);
-    EXPECT_TRUE(WIFSIGNALED(status)) << "a save has failed";
-    std::vector<int> saved;
-    int word = 0;
-    while (read(pipe_, &word, sizeof word) == sizeof word) {
-      saved.push_back(word);
-    }
-    return saved;
-  }
-
- private:
-  pid_t child_ = -1;
-  int pipe_ = -1;
-};
+  static_cast<void>(close(ends[0]));
+  return saved;
+}
 
 TEST_F(SafeSaveTest, AKilledProgramLeavesAWholeFileAndNoLitter) {
   std::mt19937 random(20260722);
@@ -139,12 +119,12 @@ TEST_F(SafeSaveTest, AKilledProgramLeavesAWholeFileAndNoLitter) {
   };
   int word = 0;
   for (int round = 0; round < 500; ++round) {
-    const Saver saver([&](int zWord) { return Save("w" + std::to_string(zWord), valueOf(zWord)); },
-                      word);
-    std::this_thread::sleep_for(std::chrono::microseconds(random() % 8000));
-    for (const int saved : saver.Kill()) {
-      word = saved + 1;
-      ASSERT_EQ(Load("w" + std::to_string(saved)), valueOf(saved));
+    const auto save = [&](int i) {
+      return Save("w" + std::to_string(word + i), valueOf(word + i));
+    };
+    const int end = word + CountSavesUntilKilled(save, std::chrono::microseconds(random() % 8000));
+    for (; word < end; ++word) {
+      ASSERT_EQ(Load("w" + std::to_string(word)), valueOf(word));
     }
     ++word;  // whether the save that was cut off came through is not known
     if (word > 2000 || round == 499) {

@@ -15,21 +15,13 @@ namespace loquitor::testing {
 /// tests hold the real code, which is quick, against this, which is obvious.
 class PlainProfile {
  public:
-  explicit PlainProfile(const std::string& zText) {
-    std::size_t at = zText.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
-    mark_ = zText.substr(0, at);
-    while (at < zText.size()) {
-      Line line;
-      while (at < zText.size() && zText[at] != '\r' && zText[at] != '\n') {
-        line.text += zText[at++];
-      }
-      if (at < zText.size()) {
-        line.end += zText[at++];
-        if (line.end == "\r" && at < zText.size() && zText[at] == '\n') {
-          line.end += zText[at++];
-        }
-      }
-      lines_.push_back(line);
+  explicit PlainProfile(const std::string& zText)
+      : mark_(zText.starts_with("\xEF\xBB\xBF") ? zText.substr(0, 3) : "") {
+    for (std::size_t at = mark_.size(); at < zText.size();) {
+      const std::size_t end = std::min(zText.find_first_of("\r\n", at), zText.size());
+      const std::size_t next = end + (zText.compare(end, 2, "\r\n") == 0 ? 2 : 1);
+      lines_.push_back({zText.substr(at, end - at), zText.substr(end, next - end)});
+      at = next;
     }
   }
 
@@ -42,39 +34,36 @@ class PlainProfile {
   }
 
   std::optional<std::string> Read(const std::string& zSection, const std::string& zKey) const {
-    const auto at = FindKey(zSection, zKey);
-    if (!at) {
+    const std::size_t at = FindKey(zSection, zKey);
+    if (at == lines_.size()) {
       return std::nullopt;
     }
-    const std::string value = Value(*at);
-    const bool isQuoted = value.size() > 1 && value[0] == value[value.size() - 1] &&
-                          (value[0] == '"' || value[0] == '\'');
+    const std::string value = ValueOf(at);
+    const bool isQuoted =
+        value.size() > 1 && value.front() == value.back() && (value[0] == '"' || value[0] == '\'');
     return isQuoted ? value.substr(1, value.size() - 2) : value;
   }
 
   bool Write(const std::string& zSection, const std::string& zKey, const std::string& zValue) {
     const std::string section = Trim(zSection);
     const std::string key = Trim(zKey);
-    if (section.find_first_of("]\r\n") != std::string::npos || key.empty() || key[0] == '[' ||
-        key[0] == ';' || key.find_first_of("=\r\n") != std::string::npos) {
+    if (section.find_first_of("]\r\n") != std::string::npos || key.empty() ||
+        key.find_first_of("[;") == 0 || key.find_first_of("=\r\n") != std::string::npos) {
       return false;
     }
     const std::string value = JoinLines(zValue);
-    if (const auto at = FindKey(section, key)) {
-      if (Value(*at) != Trim(value)) {
-        lines_[*at] = {KeyOf(*at) + "=" + value, "\r\n"};
+    if (const std::size_t at = FindKey(section, key); at < lines_.size()) {
+      if (ValueOf(at) != Trim(value)) {
+        lines_[at] = {KeyOf(at) + "=" + value, "\r\n"};
       }
       return true;
     }
     std::size_t place = FindSection(section);
     if (place == lines_.size()) {
       Insert(place, "[" + section + "]");
-    } else {
-      std::size_t last = place;
-      for (std::size_t i = place + 1; i < lines_.size() && !IsHeader(i); ++i) {
-        last = Trim(lines_[i].text).empty() ? last : i;
-      }
-      place = last;
+    }
+    for (std::size_t i = place + 1; i < lines_.size() && !IsHeader(i); ++i) {
+      place = Trim(lines_[i].text).empty() ? place : i;
     }
     Insert(place + 1, key + "=" + value);
     return true;
@@ -82,8 +71,7 @@ class PlainProfile {
 
  private:
   struct Line {
-    std::string text;
-    std::string end;
+    std::string text, end;
   };
 
   static std::string Trim(const std::string& zText) {
@@ -92,47 +80,42 @@ class PlainProfile {
     return begin == std::string::npos ? "" : zText.substr(begin, last + 1 - begin);
   }
 
-  static std::string JoinLines(const std::string& zValue) {
-    std::string joined;
-    for (std::size_t i = 0; i < zValue.size(); ++i) {
-      const bool isBreak = zValue[i] == '\r' || zValue[i] == '\n';
-      const bool wasBreak = i > 0 && (zValue[i - 1] == '\r' || zValue[i - 1] == '\n');
-      joined += isBreak ? (wasBreak ? "" : " ") : std::string(1, zValue[i]);
-    }
-    return joined;
+  static std::string JoinLines(std::string zValue) {
+    const auto isBreak = [](char zCharacter) { return zCharacter == '\r' || zCharacter == '\n'; };
+    std::replace_if(zValue.begin(), zValue.end(), isBreak, '\n');
+    const auto isSameBreak = [](char zOne, char zNext) { return zOne == '\n' && zNext == '\n'; };
+    zValue.erase(std::unique(zValue.begin(), zValue.end(), isSameBreak), zValue.end());
+    std::replace(zValue.begin(), zValue.end(), '\n', ' ');
+    return zValue;
   }
 
-  bool IsHeader(std::size_t zLine) const { return Trim(lines_[zLine].text).rfind('[', 0) == 0; }
-
+  bool IsHeader(std::size_t zLine) const { return Trim(lines_[zLine].text).starts_with('['); }
   std::string KeyOf(std::size_t zLine) const {
     return Trim(lines_[zLine].text.substr(0, lines_[zLine].text.find('=')));
   }
-
-  std::string Value(std::size_t zLine) const {
+  std::string ValueOf(std::size_t zLine) const {
     return Trim(lines_[zLine].text.substr(lines_[zLine].text.find('=') + 1));
   }
 
+  /// The line of the section's header or of the key; behind the last line when there is none.
   std::size_t FindSection(const std::string& zSection) const {
-    for (std::size_t i = 0; i < lines_.size(); ++i) {
-      if (IsHeader(i)) {
-        const std::string rest = Trim(lines_[i].text).substr(1);
-        if (ToLower(Trim(rest.substr(0, rest.find(']')))) == ToLower(Trim(zSection))) {
-          return i;
-        }
-      }
-    }
-    return lines_.size();
+    const auto isIt = [&](const Line& zLine) {
+      const std::string line = Trim(zLine.text);
+      return line.starts_with('[') &&
+             ToLower(Trim(line.substr(1, line.find(']') - 1))) == ToLower(Trim(zSection));
+    };
+    const auto found = std::find_if(lines_.begin(), lines_.end(), isIt);
+    return static_cast<std::size_t>(found - lines_.begin());
   }
-
-  std::optional<std::size_t> FindKey(const std::string& zSection, const std::string& zKey) const {
+  std::size_t FindKey(const std::string& zSection, const std::string& zKey) const {
     for (std::size_t i = FindSection(zSection) + 1; i < lines_.size() && !IsHeader(i); ++i) {
-      const bool isComment = Trim(lines_[i].text).rfind(';', 0) == 0;
+      const bool isComment = Trim(lines_[i].text).starts_with(';');
       const bool hasSign = lines_[i].text.find('=') != std::string::npos;
       if (!isComment && hasSign && ToLower(KeyOf(i)) == ToLower(Trim(zKey))) {
         return i;
       }
     }
-    return std::nullopt;
+    return lines_.size();
   }
 
   void Insert(std::size_t zPlace, const std::string& zText) {

@@ -14,8 +14,8 @@ namespace loquitor::testing {
 /// A folder of a test's own, removed with everything in it at its end.
 class TempFolder {
  public:
-  TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "loquitor-XXXXXX").string();
+  explicit TempFolder(const std::filesystem::path& zIn = std::filesystem::temp_directory_path()) {
+    std::string pattern = (zIn / "loquitor-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr) {
       throw std::runtime_error("no temporary folder");
     }
