@@ -4,16 +4,17 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <functional>
-#include <memory>
 
-namespace loquitor {
+#include "tests/support/rows.h"
+
+namespace loquitor::testing {
 namespace {
 
 /// Does something to the box that is up next.
@@ -26,36 +27,27 @@ void WhenUp(std::function<void(Box*)> zAct) {
   });
 }
 
-void Press(QMessageBox* zBox, QMessageBox::StandardButton zButton) {
-  QTest::mouseClick(zBox->button(zButton), Qt::LeftButton);
-}
-
 TEST(DesktopPrompts, EachButtonAndTheCloseBoxHaveTheirAnswer) {
-  struct Row {
-    PromptButtons buttons;
-    QMessageBox::StandardButton pressed;  // NoButton: Escape
-    PromptAnswer answer;
-  };
   DesktopPrompts prompts;
-  for (const Row& row :
-       {Row{PromptButtons::Ok, QMessageBox::Ok, PromptAnswer::Ok},
-        {PromptButtons::Ok, QMessageBox::NoButton, PromptAnswer::Ok},
-        {PromptButtons::OkCancel, QMessageBox::Ok, PromptAnswer::Ok},
-        {PromptButtons::OkCancel, QMessageBox::Cancel, PromptAnswer::Cancel},
-        {PromptButtons::OkCancel, QMessageBox::NoButton, PromptAnswer::Cancel},
-        {PromptButtons::YesNo, QMessageBox::Yes, PromptAnswer::Yes},
-        {PromptButtons::YesNo, QMessageBox::No, PromptAnswer::No},
-        {PromptButtons::YesNo, QMessageBox::NoButton, PromptAnswer::No},
-        {PromptButtons::YesNoCancel, QMessageBox::No, PromptAnswer::No},
-        {PromptButtons::YesNoCancel, QMessageBox::NoButton, PromptAnswer::Cancel}}) {
-    WhenUp<QMessageBox>([&](QMessageBox* zBox) {
-      if (row.pressed == QMessageBox::NoButton) {
-        QTest::keyClick(zBox, Qt::Key_Escape);
-      } else {
-        Press(zBox, row.pressed);
-      }
+  using Ask = PromptButtons;
+  using Is = PromptAnswer;
+  using Box = QMessageBox;  // NoButton: Escape
+  for (const auto& [buttons, pressed, answer] :
+       Rows<Ask, Box::StandardButton, Is>{{Ask::Ok, Box::Ok, Is::Ok},
+                                          {Ask::Ok, Box::NoButton, Is::Ok},
+                                          {Ask::OkCancel, Box::Ok, Is::Ok},
+                                          {Ask::OkCancel, Box::Cancel, Is::Cancel},
+                                          {Ask::OkCancel, Box::NoButton, Is::Cancel},
+                                          {Ask::YesNo, Box::Yes, Is::Yes},
+                                          {Ask::YesNo, Box::No, Is::No},
+                                          {Ask::YesNo, Box::NoButton, Is::No},
+                                          {Ask::YesNoCancel, Box::No, Is::No},
+                                          {Ask::YesNoCancel, Box::NoButton, Is::Cancel}}) {
+    WhenUp<Box>([button = pressed](Box* zBox) {
+      button == Box::NoButton ? QTest::keyClick(zBox, Qt::Key_Escape)
+                              : zBox->button(button)->click();
     });
-    EXPECT_EQ(prompts.Ask(nullptr, "Notice", "Text", row.buttons), row.answer) << row.pressed;
+    EXPECT_EQ(prompts.Ask(nullptr, "Notice", "Text", buttons), answer) << pressed;
   }
 }
 
@@ -66,7 +58,7 @@ TEST(DesktopPrompts, TextsAppearAsTheyAre) {
     EXPECT_EQ(zBox->text(), "<b>one</b>\n\n       seven blanks & more");
     EXPECT_EQ(zBox->textFormat(), Qt::PlainText);
     EXPECT_EQ(zBox->icon(), QMessageBox::NoIcon);
-    Press(zBox, QMessageBox::Ok);
+    zBox->accept();
   });
   prompts.Tell(nullptr, "<b>one</b>\r\n\r\n       seven blanks & more");
 }
@@ -78,7 +70,7 @@ TEST(DesktopPrompts, AnInputBoxGivesItsTextOrNothing) {
     EXPECT_EQ(zBox->windowTitle(), "Find");
     EXPECT_EQ(line->selectedText(), "before");
     QTest::keyClicks(line, "after");
-    line->insert(QString::fromUtf8("ř"));
+    line->insert("ř");
     QTest::keyClick(line, Qt::Key_Return);
   });
   EXPECT_EQ(prompts.AskText(nullptr, "Find", "Find:", "before"), QString("after"));
@@ -88,15 +80,18 @@ TEST(DesktopPrompts, AnInputBoxGivesItsTextOrNothing) {
 
 TEST(DesktopPrompts, ABoxWhoseOwnerGoesIsClosed) {
   DesktopPrompts prompts;
-  auto owner = std::make_unique<QWidget>();
-  owner->show();
-  WhenUp<QMessageBox>([&](QMessageBox*) { owner.reset(); });
-  EXPECT_EQ(prompts.Ask(owner.get(), "Notice", "Text", PromptButtons::YesNo), PromptAnswer::No);
-  owner = std::make_unique<QWidget>();
-  owner->show();
-  WhenUp<QDialog>([&](QDialog*) { owner.reset(); });
-  EXPECT_EQ(prompts.AskText(owner.get(), "Find", "Find:", ""), std::nullopt);
+  QPointer<QWidget> owner;
+  const auto show = [&] {
+    owner = new QWidget;
+    owner->show();
+  };
+  show();
+  WhenUp<QMessageBox>([&](QMessageBox*) { delete owner; });
+  EXPECT_EQ(prompts.Ask(owner, "Notice", "Text", PromptButtons::YesNo), PromptAnswer::No);
+  show();
+  WhenUp<QDialog>([&](QDialog*) { delete owner; });
+  EXPECT_EQ(prompts.AskText(owner, "Find", "Find:", ""), std::nullopt);
 }
 
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing

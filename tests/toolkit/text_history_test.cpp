@@ -7,13 +7,15 @@
 #include <QTest>
 #include <QTextCursor>
 #include <algorithm>
+#include <functional>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "tests/support/rows.h"
 #include "ui/toolkit/code_page.h"
 
-namespace loquitor {
+namespace loquitor::testing {
 namespace {
 
 constexpr std::size_t Bound = 700'000;
@@ -27,6 +29,11 @@ class TextHistoryTest : public ::testing::Test {
     }
   }
   void Press(QKeySequence::StandardKey zKey) { QTest::keySequence(&area, QKeySequence(zKey)); }
+
+  void ExpectText(const std::string& zText) {
+    EXPECT_EQ(area.Text(), zText);
+    EXPECT_EQ(history.Text(), zText);
+  }
 
   /// A text of that many bytes, in lines of 64, that hardly becomes smaller by compression.
   std::string Lines(std::size_t zBytes) {
@@ -80,42 +87,37 @@ class TextHistoryTest : public ::testing::Test {
 TEST_F(TextHistoryTest, RunsOfTypingAndErasingAreStepsOfTheirOwn) {
   history.Load("one\ntwo");
   std::vector<std::string> texts = {"one\ntwo"};
-  const auto done = [&](const char* zExpected) {
-    EXPECT_EQ(area.Text(), zExpected);
-    texts.push_back(area.Text());
-  };
-  Type("abc");
-  done("abcone\ntwo");
-  Press(Qt::Key_Return);
-  done("abc\none\ntwo");
-  Type("de");
-  done("abc\ndeone\ntwo");
-  Press(Qt::Key_Backspace, 4);
-  done("abone\ntwo");
-  Type("x");
-  Press(Qt::Key_Home);
-  done("abxone\ntwo");
-  Press(Qt::Key_Delete, 3);
-  done("one\ntwo");
-  history.Append("\nthree");
-  done("one\ntwo\nthree");
-  Type("!");
-  done("one\ntwo\nthree!");
-  area.Select(0, 4);
-  area.ReplaceSelection("1\n");
-  done("1\ntwo\nthree!");
-  history.ReplaceAll("other");
-  done("other");
+  for (const auto& [expected, act] : Rows<const char*, std::function<void()>>{
+           {"abcone\ntwo", [this] { Type("abc"); }},
+           {"abc\none\ntwo", [this] { Press(Qt::Key_Return); }},
+           {"abc\ndeone\ntwo", [this] { Type("de"); }},
+           {"abone\ntwo", [this] { Press(Qt::Key_Backspace, 4); }},
+           {"abxone\ntwo", [this] { Type("x"); }},
+           {"one\ntwo",
+            [this] {
+              Press(Qt::Key_Home);
+              Press(Qt::Key_Delete, 3);
+            }},
+           {"one\ntwo\nthree", [this] { history.Append("\nthree"); }},
+           {"one\ntwo\nthree!", [this] { Type("!"); }},
+           {"1\ntwo\nthree!",
+            [this] {
+              area.Select(0, 4);
+              area.ReplaceSelection("1\n");
+            }},
+           {"other", [this] { history.ReplaceAll("other"); }}}) {
+    act();
+    ExpectText(expected);
+    texts.push_back(expected);
+  }
   for (std::size_t i = texts.size() - 1; i-- > 0;) {
     Press(QKeySequence::Undo);
-    EXPECT_EQ(area.Text(), texts[i]);
-    EXPECT_EQ(history.Text(), texts[i]);
+    ExpectText(texts[i]);
   }
   EXPECT_FALSE(history.CanUndo());
   for (std::size_t i = 1; i < texts.size(); ++i) {
     Press(QKeySequence::Redo);
-    EXPECT_EQ(area.Text(), texts[i]);
-    EXPECT_EQ(history.Text(), texts[i]);
+    ExpectText(texts[i]);
   }
   EXPECT_FALSE(history.CanRedo());
 }
@@ -125,15 +127,10 @@ TEST_F(TextHistoryTest, FollowsRandomEditsAndTakesThemAllBack) {
     std::string start(random() % 40, 'x');
     history.Load(start);
     for (int edit = 0; edit < 30; ++edit) {
-      if (random() % 4 == 0) {
-        history.ReplaceAll(Varied(history.Text()));
-      } else {
-        EditAtRandom();
-      }
+      random() % 4 == 0 ? history.ReplaceAll(Varied(history.Text())) : EditAtRandom();
       ASSERT_EQ(history.Text(), area.Text()) << "round " << round << ", edit " << edit;
       if (random() % 4 == 0) {
         history.Undo();
-        ASSERT_EQ(history.Text(), area.Text());
       }
     }
     history.Append("end");
@@ -225,4 +222,4 @@ TEST_F(TextHistoryTest, TheContextMenuOffersItsSteps) {
 }
 
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing
