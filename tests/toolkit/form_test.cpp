@@ -9,6 +9,7 @@
 #include <QTest>
 #include <array>
 
+#include "tests/support/rows.h"
 #include "ui/toolkit/check_box.h"
 #include "ui/toolkit/click_label.h"
 #include "ui/toolkit/fitting.h"
@@ -17,37 +18,28 @@
 #include "ui/toolkit/text_area.h"
 #include "ui/toolkit/text_box.h"
 
-namespace loquitor {
+namespace loquitor::testing {
 namespace {
 
-constexpr ControlRow Rows[] = {
-    {ControlKind::TextBox, "txtVolume", "", "96", {60, 60, 435, 285}, "", "Volume value"},
-    {ControlKind::Frame, "Frame3", "", "Resonate && Nasal", {60, 600, 2175, 1125}},
-    {ControlKind::Button, "btnGo", "Frame3", "Go && Stop", {120, 240, 1275, 255}, "Goes."},
-    {ControlKind::ScrollBar,
-     "scFreq",
-     "Frame3",
-     "",
-     {120, 540, 1500, 255},
-     "",
-     "Frequency of #3",
-     3999,
-     22,
-     1,
-     3},
-    {ControlKind::RightLabel, "lbl1", "", "Master Volume:", {60, 1800, 1515, 255}},
-    {ControlKind::ClickLabel, "Command1", "", "P0", {60, 2100, 525, 255}, "", "", 0, 1, 0, 17},
-    {ControlKind::TextArea, "txtSayData", "", "\xC3\xA4", {60, 2400, 3000, 600}},
-    {ControlKind::CheckBox, "chkPlay", "", "Play", {60, 3100, 1500, 255}},
-    {ControlKind::OptionButton, "optOn", "", "On", {60, 3400, 1500, 255}},
-    {ControlKind::HorizontalLine, "Line1", "", "", {0, 3700, 1740, 0}},
+using Kind = ControlKind;
+constexpr ControlRow Controls[] = {
+    {Kind::TextBox, "txtVolume", "", "96", {60, 60, 435, 285}, "", "Volume value"},
+    {Kind::Frame, "Frame3", "", "Resonate && Nasal", {60, 600, 2175, 1125}},
+    {Kind::Button, "btnGo", "Frame3", "Go && Stop", {120, 240, 1275, 255}, "Goes."},
+    {Kind::ScrollBar, "scFreq", "Frame3", "", {120, 540, 1500, 255}, "", "#3", 3999, 22, 1, 3},
+    {Kind::RightLabel, "lbl1", "", "Master Volume:", {60, 1800, 1515, 255}},
+    {Kind::ClickLabel, "Command1", "", "P0", {60, 2100, 525, 255}, "", "", 0, 1, 0, 17},
+    {Kind::TextArea, "txtSayData", "", "\xC3\xA4", {60, 2400, 3000, 600}},
+    {Kind::CheckBox, "chkPlay", "", "Play", {60, 3100, 1500, 255}},
+    {Kind::OptionButton, "optOn", "", "On", {60, 3400, 1500, 255}},
+    {Kind::HorizontalLine, "Line1", "", "", {0, 3700, 1740, 0}},
 };
 
 class FormTest : public ::testing::Test {
  protected:
   FormTest() {
     window.setFont(FormFont());
-    form.Add(Rows);
+    form.Add(Controls);
   }
   void Show() {
     window.show();
@@ -68,22 +60,25 @@ class FormTest : public ::testing::Test {
 };
 
 TEST_F(FormTest, RowsBecomeNamedControlsInTheirPlaces) {
-  EXPECT_EQ(form.Get<TextBox>("txtVolume")->Text(), "96");
-  EXPECT_EQ(form.Get<TextBox>("txtVolume")->accessibleName(), "Volume value");
-  EXPECT_EQ(form.Get<TextBox>("txtVolume")->geometry(), QRect(4, 4, 29, 19));
-  auto* button = form.Get<QPushButton>("btnGo");
-  EXPECT_EQ(button->parentWidget(), form.Get<Frame>("Frame3"));
-  EXPECT_EQ(button->geometry(), QRect(8, 16, 85, 17));
-  EXPECT_EQ(button->toolTip(), "Goes.");
-  EXPECT_EQ(button->accessibleName(), "Go & Stop");
-  EXPECT_EQ(form.Get<Frame>("Frame3")->accessibleName(), "Resonate & Nasal");
-  auto* bar = form.Get<ScrollBar>("scFreq(3)");
-  EXPECT_EQ(bar->accessibleName(), "Frequency of #3");
+  for (const auto& [name, parent, place, spokenName, tooltip] :
+       Rows<const char*, QWidget*, QRect, const char*, const char*>{
+           {"txtVolume", &window, {4, 4, 29, 19}, "Volume value", ""},
+           {"btnGo", form.Get<Frame>("Frame3"), {8, 16, 85, 17}, "Go & Stop", "Goes."},
+           {"Frame3", &window, {4, 40, 145, 75}, "Resonate & Nasal", ""},
+           {"scFreq(3)", form.Get<Frame>("Frame3"), {8, 36, 100, 17}, "#3", ""},
+           {"Line1", &window, {0, 247, 116, 1}, "", ""}}) {
+    const auto* control = form.Get<QWidget>(name);
+    EXPECT_EQ(control->parentWidget(), parent) << name;
+    EXPECT_EQ(control->geometry(), place) << name;
+    EXPECT_EQ(control->accessibleName(), spokenName) << name;
+    EXPECT_EQ(control->toolTip(), tooltip) << name;
+  }
+  const auto* bar = form.Get<ScrollBar>("scFreq(3)");
   EXPECT_EQ((QVector<int>{bar->minimum(), bar->maximum(), bar->pageStep(), bar->value()}),
             (QVector<int>{0, 3999, 22, 1}));
-  EXPECT_EQ(form.Get<ClickLabel>(Indexed("Command1", 17))->text(), "P0");
+  EXPECT_EQ(form.Get<TextBox>("txtVolume")->Text(), "96");
   EXPECT_EQ(form.Get<TextArea>("txtSayData")->Text(), "\xE4");
-  EXPECT_EQ(form.Get<QWidget>("Line1")->size(), QSize(116, 1));
+  EXPECT_EQ(form.Get<ClickLabel>(Indexed("Command1", 17))->text(), "P0");
   EXPECT_TRUE(form.Get<QLabel>("lbl1")->alignment() & Qt::AlignRight);
 }
 
@@ -95,15 +90,13 @@ TEST_F(FormTest, AControlThatDoesNotExistEndsTheProgramWithAMessage) {
 TEST_F(FormTest, RowOrderIsTabOrderAndCanBeChanged) {
   Show();
   EXPECT_EQ(Tabs(6), "txtVolume btnGo scFreq(3) txtSayData chkPlay optOn");
-  const std::array<QString, 3> order = {"chkPlay", "txtSayData", "txtVolume"};
-  form.SetTabOrder(order);
+  form.SetTabOrder(std::array<QString, 3>{"chkPlay", "txtSayData", "txtVolume"});
   form.Get<CheckBox>("chkPlay")->setFocus();
   EXPECT_EQ(Tabs(7), "chkPlay txtSayData txtVolume btnGo scFreq(3) optOn chkPlay");
 }
 
 TEST_F(FormTest, TheFirstOfAChangedOrderHasTheFocusWhenTheWindowOpens) {
-  const std::array<QString, 2> order = {"txtSayData", "txtVolume"};
-  form.SetTabOrder(order);
+  form.SetTabOrder(std::array<QString, 2>{"txtSayData", "txtVolume"});
   Show();
   EXPECT_EQ(Tabs(1), "txtSayData");
 }
@@ -112,8 +105,8 @@ TEST_F(FormTest, EnterPressesNoButtonAndAmpersandsMakeNoShortcut) {
   Show();
   auto* button = form.Get<QPushButton>("btnGo");
   QSignalSpy pressed(button, &QPushButton::clicked);
-  for (QWidget* focus : {static_cast<QWidget*>(button), form.Get<QWidget>("txtVolume"),
-                         form.Get<QWidget>("chkPlay"), form.Get<QWidget>("optOn")}) {
+  for (const char* name : {"btnGo", "txtVolume", "chkPlay", "optOn"}) {
+    auto* focus = form.Get<QWidget>(name);
     focus->setFocus();
     QTest::keyClick(focus, Qt::Key_Return);
     QTest::keyClick(focus, Qt::Key_Enter);
@@ -139,22 +132,24 @@ TEST_F(FormTest, AFramesCaptionIsBoldAndItsChildrenAreNot) {
 
 TEST(Fitting, NarrowsThenShrinksUntilEveryLineFits) {
   const QFont font = FormFont();
-  const QString caption = "Test Serial Connection\nof this window";
-  const int full = QFontMetrics(font).horizontalAdvance("Test Serial Connection");
-  EXPECT_EQ(FittingFont(font, caption, full), font);
-  const QFont narrowed = FittingFont(font, caption, full * 9 / 10);
-  EXPECT_LT(narrowed.stretch(), 100);
-  EXPECT_EQ(narrowed.pixelSize(), font.pixelSize());
-  EXPECT_LE(QFontMetrics(narrowed).horizontalAdvance("Test Serial Connection"), full * 9 / 10);
-  const QFont shrunk = FittingFont(font, caption, full * 6 / 10);
-  EXPECT_LT(shrunk.pixelSize(), font.pixelSize());
-  EXPECT_LE(QFontMetrics(shrunk).horizontalAdvance("Test Serial Connection"), full * 6 / 10);
-  EXPECT_GE(FittingFont(font, caption, 1).pixelSize(), 8);  // ends, still readable
-  for (const QSize& room : {QSize(300, 15), QSize(90, 40)}) {
-    EXPECT_EQ(WrappingFont(font, "View Codes for Selection", room), font);
+  const auto widthIn = [](const QFont& zFont) {
+    return QFontMetrics(zFont).horizontalAdvance("Test Serial Connection");
+  };
+  const auto fitted = [&](int zTenths) {
+    const int room = widthIn(font) * zTenths / 10;
+    const QFont fitting = FittingFont(font, "Test Serial Connection\nof this window", room);
+    EXPECT_LE(widthIn(fitting), room);
+    return fitting;
+  };
+  EXPECT_EQ(fitted(10), font);
+  EXPECT_EQ(fitted(9).pixelSize(), font.pixelSize());
+  EXPECT_LT(fitted(6).pixelSize(), font.pixelSize());
+  EXPECT_GE(FittingFont(font, "Test", 1).pixelSize(), 8);  // ends, still readable
+  for (const auto& [room, isTight] :
+       Rows<QSize, bool>{{{300, 15}, false}, {{90, 40}, false}, {{50, 28}, true}}) {
+    EXPECT_EQ(WrappingFont(font, "View Codes for Selection", room) != font, isTight);
   }
-  EXPECT_LT(WrappingFont(font, "View Codes for Selection", {70, 28}).stretch(), 100);
 }
 
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing
