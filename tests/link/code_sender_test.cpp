@@ -10,35 +10,41 @@
 #include <vector>
 
 #include "link/scp.h"
+#include "tests/support/rows.h"
 #include "tests/support/scripted_port.h"
+#include "tests/support/simulated_line.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/turn_host.h"
 
-namespace loquitor {
+namespace loquitor::testing {
 namespace {
 
-using testing::ScriptedPort;
-using testing::TempFolder;
-using testing::TurnHost;
-using testing::WriteBytes;
+using namespace std::string_literals;
+using Text = std::string_view;
+
+/// Names of what can happen while a send runs.
+using Acts = std::vector<const char*>;
 
 class CodeSenderTest : public ::testing::Test {
  protected:
-  void Send(std::string_view zCodes) { sender.SendCodesToOrvatone(zCodes, false); }
-  void Speak(std::string_view zCodes) { sender.SendCodesToOrvatone(zCodes, true); }
+  void Send(Text zCodes) { sender.SendCodesToOrvatone(zCodes, false); }
+  void Speak(Text zCodes) { sender.SendCodesToOrvatone(zCodes, true); }
   void ShutUp() {
     sender.ClearPendingOutput();
     Send(StopSequence());
   }
-  /// In the turn after byte `zCount`.
-  void AfterTurns(std::size_t zCount, std::function<void()> zAct) {
-    host.acts.resize(zCount - 1, [] {});
-    host.acts.push_back(std::move(zAct));
-  }
-  void Do(const std::vector<const char*>& zActs) {
+  void Do(const Acts& zActs) {
     for (const char* act : zActs) {
       acts.at(act)();
     }
+  }
+  /// All these in the turn after byte `zCount`, in mid-send.
+  void AfterTurns(std::size_t zCount, const Acts& zActs) {
+    host.acts.assign(zCount - 1, [] {});
+    host.acts.push_back([this, zActs] {
+      EXPECT_TRUE(sender.IsSending() && !host.isClosingSoon);
+      Do(zActs);
+    });
   }
   std::string TakeLog() { return std::exchange(host.log, {}); }
 
@@ -48,7 +54,6 @@ class CodeSenderTest : public ::testing::Test {
   SettingsFile settings{folder.Path()};
   CodeSender sender{port, host, settings};
 
-  /// What can happen while a send runs.
   const std::map<std::string, std::function<void()>> acts{
       {"nothing", [] {}},
       {"release",
@@ -72,6 +77,23 @@ class CodeSenderTest : public ::testing::Test {
       {"flow control", [this] { host.isFlowControlTicked = !host.isFlowControlTicked; }}};
 };
 
+TEST(Scp, WritesGoOutInTheFormThatTheChipReads) {
+  for (const auto& [value, text] : Rows<std::uint8_t, Text>{
+           {0, "00"}, {9, "09"}, {10, "0A"}, {16, "10"}, {175, "AF"}, {255, "FF"}}) {
+    EXPECT_EQ(GetTwoDigitHex(value), text);
+  }
+  for (const auto& [sent, bytes] :
+       Rows<std::string, std::string>{{MemoryWriteGroup(0, 0), "\\00J32H00N"},
+                                      {MemoryWriteGroup(240, 10), "\\0240J32H0AN"},
+                                      {RegisterWrite(7, 96), "\\07J 96NX"},
+                                      {RegisterWrite(15, -63), "\\015J-63NX"},
+                                      {StopSequence(), "\\0RX\x1f\0"s},
+                                      {ConnectionTest(), "\x1f\\0VX"},
+                                      {std::string(scp::StoreConfiguration), "\\0W\0\0\0\0\0"s}}) {
+    EXPECT_EQ(sent, bytes);
+  }
+}
+
 TEST_F(CodeSenderTest, EveryByteGoesOutAsGivenAndTheClosingTimerStarts) {
   std::string all;
   for (int code = 0; code < 256; ++code) {
@@ -91,49 +113,40 @@ TEST_F(CodeSenderTest, EveryByteGoesOutAsGivenAndTheClosingTimerStarts) {
 }
 
 TEST_F(CodeSenderTest, OnlyLongPhrasesWithoutFlowControlAsk) {
-  const struct {
-    std::size_t length;
-    bool isPhrase, isTicked, answer;
-    const char* log;
-    std::size_t sent;
-  } cases[] = {
-      {0, true, false, false, "green ", 0},     {64, true, false, false, "green ", 64},
-      {65, true, false, false, "question ", 0}, {65, true, false, true, "question green ", 65},
-      {200, true, true, false, "green ", 200},  {5000, false, false, false, "green ", 5000},
-      {65, true, false, false, "question ", 0},
-  };
-  for (const auto& one : cases) {
-    host.isFlowControlTicked = one.isTicked;
-    host.answer = one.answer;
-    sender.SendCodesToOrvatone(std::string(one.length, 'x'), one.isPhrase);
-    EXPECT_EQ(port.TakeWritten().size(), one.sent) << one.length;
-    const std::string log = TakeLog();
-    EXPECT_EQ(log, one.log) << one.length;
+  for (const auto& [length, isPhrase, isTicked, answer, log, sent] :
+       Rows<std::size_t, bool, bool, bool, Text, std::size_t>{
+           {0, true, false, false, "green ", 0},
+           {64, true, false, false, "green ", 64},
+           {65, true, false, false, "question ", 0},
+           {65, true, false, true, "question green ", 65},
+           {200, true, true, false, "green ", 200},
+           {5000, false, false, false, "green ", 5000},
+           {65, true, false, false, "question ", 0},
+       }) {
+    host.isFlowControlTicked = isTicked;
+    host.answer = answer;
+    sender.SendCodesToOrvatone(std::string(length, 'x'), isPhrase);
+    EXPECT_EQ(port.TakeWritten().size(), sent) << length;
+    EXPECT_EQ(TakeLog(), log) << length;
     EXPECT_TRUE(port.IsOpen());  // after No as well, and then for good
-    EXPECT_EQ(host.isClosingSoon, log.ends_with("green ")) << one.length;
+    EXPECT_EQ(host.isClosingSoon, log.ends_with("green ")) << length;
   }
 }
 
 TEST_F(CodeSenderTest, TheSendThatOpensDecidesSpeedAndHandshaking) {
-  const struct {
-    const char* stored;
-    bool isPhrase, isTicked;
-    const char* baudRate;
-    bool handshaking;
-  } cases[] = {
-      {"", true, true, "9600", true},
-      {"[serial]\r\nbaudrate=2400\r\n", true, false, "2400", false},
-      {"[Serial]\r\nBaudRate= fast \r\n", false, true, "fast", false},
-  };
-  for (const auto& one : cases) {
-    WriteBytes(folder / "Loquitor.ini", one.stored);
-    host.isFlowControlTicked = one.isTicked;
-    sender.SendCodesToOrvatone("a", one.isPhrase);
-    host.isFlowControlTicked = !one.isTicked;
-    sender.SendCodesToOrvatone("b", !one.isPhrase);  // finds it open
+  for (const auto& [stored, isPhrase, isTicked, baudRate, handshaking] :
+       Rows<Text, bool, bool, Text, bool>{
+           {"", true, true, "9600", true},
+           {"[serial]\r\nbaudrate=2400\r\n", true, false, "2400", false},
+           {"[Serial]\r\nBaudRate= fast \r\n", false, true, "fast", false}}) {
+    WriteBytes(folder / "Loquitor.ini", stored);
+    host.isFlowControlTicked = isTicked;
+    sender.SendCodesToOrvatone("a", isPhrase);
+    host.isFlowControlTicked = !isTicked;
+    sender.SendCodesToOrvatone("b", !isPhrase);  // finds it open
     ASSERT_EQ(port.opened.size(), 1u);
-    EXPECT_EQ(port.opened[0].baudRate, one.baudRate);
-    EXPECT_EQ(port.opened[0].hardwareHandshaking, one.handshaking);
+    EXPECT_EQ(port.opened[0].baudRate, baudRate);
+    EXPECT_EQ(port.opened[0].hardwareHandshaking, handshaking);
     port.opened.clear();
     sender.CloseSerialPort();
   }
@@ -141,16 +154,10 @@ TEST_F(CodeSenderTest, TheSendThatOpensDecidesSpeedAndHandshaking) {
 }
 
 TEST_F(CodeSenderTest, ABaudRateIsAPlainPositiveNumber) {
-  const struct {
-    const char* text;
-    std::optional<std::int32_t> rate;
-  } cases[] = {{"9600", 9600},     {"2147483647", 2147483647},
-               {"2147483648", {}}, {"0", {}},
-               {"", {}},           {"-1", {}},
-               {"+9600", {}},      {"9600.0", {}},
-               {" 9600", {}},      {"9600 ", {}}};
-  for (const auto& one : cases) {
-    EXPECT_EQ(BaudRateOf(one.text), one.rate) << one.text;
+  EXPECT_EQ(BaudRateOf("9600"), 9600);
+  EXPECT_EQ(BaudRateOf("2147483647"), 2147483647);
+  for (const char* text : {"2147483648", "0", "", "-1", "+9600", "9600.0", " 9600", "9600 "}) {
+    EXPECT_EQ(BaudRateOf(text), std::nullopt) << text;
   }
 }
 
@@ -180,7 +187,7 @@ TEST_F(CodeSenderTest, APortThatFailsInMidSendOrIdleIsShownRedOnce) {
     port.bytesUntilFailure = bytes;
     Send("abc");
     port.Vanish();  // told late, or gone only now
-    EXPECT_EQ(port.TakeWritten(), std::string_view("abc").substr(0, static_cast<size_t>(bytes)));
+    EXPECT_EQ(port.TakeWritten(), "abc"s.substr(0, static_cast<std::size_t>(bytes)));
     sender.CloseSerialPort();  // the closing timer
     EXPECT_EQ(TakeLog(), "green red ");
     EXPECT_TRUE(sender.HasFailed() && sender.PendingOutput().empty() && host.isClosingSoon);
@@ -194,33 +201,25 @@ TEST_F(CodeSenderTest, APortThatFailsInMidSendOrIdleIsShownRedOnce) {
 
 /// What ends the wait for a line that takes no byte, or does not let the last ones go.
 TEST_F(CodeSenderTest, TheWaitForTheLineEnds) {
-  const struct {
-    std::vector<const char*> acts;
-    const char *heldBack, *unsent, *log;
-  } cases[] = {
-      {{"release"}, "abc", "abc", "green "},
-      {{"empty"}, "", "abc", "green "},
-      {{"release", "send x"}, "x", "abcx", "green green "},
-      {{"close"}, "", "abc", "green white "},
-      {{"vanish"}, "", "abc", "green red "},
-      {{"close", "release", "send x"}, "x", "abcx", "green white green "},
-      {{"close", "refuse", "send x"}, "", "abc", "green white red "},
-  };
-  for (const auto& one : cases) {
+  for (const auto& [happens, heldBack, unsent, log] : Rows<Acts, Text, Text, Text>{
+           {{"release"}, "abc", "abc", "green "},
+           {{"empty"}, "", "abc", "green "},
+           {{"release", "send x"}, "x", "abcx", "green green "},
+           {{"close"}, "", "abc", "green white "},
+           {{"vanish"}, "", "abc", "green red "},
+           {{"close", "release", "send x"}, "x", "abcx", "green white green "},
+           {{"close", "refuse", "send x"}, "", "abc", "green white red "}}) {
     for (const bool isHeldBack : {true, false}) {
-      SCOPED_TRACE(one.log);
+      SCOPED_TRACE(log);
       port.isHeldBack = isHeldBack;
       port.unsentBytes = 3;
       port.refusesToOpen = false;
-      AfterTurns(30, [&] {
-        EXPECT_TRUE(sender.IsSending() && !host.isClosingSoon);
-        Do(one.acts);
-      });
+      AfterTurns(30, happens);
       Send("abc");
       EXPECT_EQ(std::exchange(host.waits, 0), isHeldBack ? 30 : 27);
-      EXPECT_EQ(port.TakeWritten(), isHeldBack ? one.heldBack : one.unsent);
+      EXPECT_EQ(port.TakeWritten(), isHeldBack ? heldBack : unsent);
       EXPECT_TRUE(sender.PendingOutput().empty() && host.isClosingSoon && !sender.IsSending());
-      EXPECT_EQ(TakeLog(), one.log);
+      EXPECT_EQ(TakeLog(), log);
       sender.CloseSerialPort();
       TakeLog();
     }
@@ -228,25 +227,22 @@ TEST_F(CodeSenderTest, TheWaitForTheLineEnds) {
 }
 
 TEST_F(CodeSenderTest, ANestedSendReplacesTheRestUnlessItIsRefused) {
-  const struct {
-    std::vector<const char*> acts;
-    const char* written;
-  } cases[] = {{{"send x"}, "abx"},
-               {{"answer", "speak at length"}, "abcdef"},
-               {{"answer", "speak at length"}, "ab"}};
   host.isFlowControlTicked = false;
-  for (const auto& one : cases) {
-    AfterTurns(2, [&] { Do(one.acts); });
+  for (const auto& [happens, written] : Rows<Acts, Text>{{{"send x"}, "abx"},
+                                                         {{"answer", "speak at length"}, "abcdef"},
+                                                         {{"answer", "speak at length"}, "ab"}}) {
+    AfterTurns(2, happens);
     Send("abcdef");
-    std::string written = port.TakeWritten();
-    std::erase(written, 's');
-    EXPECT_EQ(written, one.written);
+    std::string withoutSpeech = port.TakeWritten();
+    std::erase(withoutSpeech, 's');
+    EXPECT_EQ(withoutSpeech, written);
     EXPECT_TRUE(host.isClosingSoon);
   }
 }
 
 TEST_F(CodeSenderTest, TicksCarryOnWhileAModalWindowHoldsUpTheLoop) {
-  AfterTurns(2, [this] {
+  host.acts.assign(1, [] {});
+  host.acts.push_back([this] {
     Do({"hold back", "tick"});
     EXPECT_EQ(port.written, "ab");
     Do({"release", "tick", "tick", "tick", "tick"});
@@ -262,8 +258,7 @@ TEST_F(CodeSenderTest, ShutUpCutsALongWriteAtEveryTenthByte) {
     write += MemoryWriteGroup(location, 0xFF);
   }
   for (std::size_t cut = 10; cut < write.size(); cut += 10) {
-    host.acts.clear();
-    AfterTurns(cut, [this] { ShutUp(); });
+    AfterTurns(cut, {"shut up"});
     Send(write);
     ASSERT_EQ(port.TakeWritten(), write.substr(0, cut) + StopSequence()) << cut;
   }
@@ -278,10 +273,8 @@ TEST_F(CodeSenderTest, AMillionBytesCostNoMoreEachThanAFew) {
 /// Beyond the depth bytes go out whole before the user may act again; where the line is too slow
 /// for that, the innermost send writes what is left to it.
 TEST_F(CodeSenderTest, BeyondTheDepthTheUserWaitsWhileTheBytesGoOutUnlessTheLineIsSlow) {
-  const struct {
-    std::vector<std::vector<const char*>> turns;  // '~' speaks, '!' empties PendingOutput
-    const char *written, *writtenSlowly;
-  } cases[] = {
+  const Rows<std::vector<Acts>, Text, Text> rows{
+      // '~' speaks, '!' empties PendingOutput
       {{{"abc", "def"}}, "abcdef", "abcdef"},
       {{{"1", "!", "abc"}}, "1abc", "abc"},
       {{{"abc"}, {"1", "2"}, {"def"}}, "abc1def2", "abcdef"},
@@ -291,14 +284,14 @@ TEST_F(CodeSenderTest, BeyondTheDepthTheUserWaitsWhileTheBytesGoOutUnlessTheLine
       {{{"abc"}, {"!"}}, "abc", "a"},
   };
   for (const bool isSlow : {false, true}) {
-    for (const auto& one : cases) {
+    for (const auto& [turns, written, writtenSlowly] : rows) {
       for (int i = 0; i < 7; ++i) {
         host.acts.push_back([this] { Send("-"); });
       }
-      for (const auto& turn : one.turns) {
+      for (const auto& turn : turns) {
         host.acts.push_back([this, &turn, isSlow] {
           port.isHeldBack = isSlow;
-          for (const std::string_view codes : turn) {
+          for (const Text codes : turn) {
             codes == "!"
                 ? sender.ClearPendingOutput()
                 : sender.SendCodesToOrvatone(codes.substr(codes[0] == '~'), codes[0] == '~');
@@ -311,10 +304,9 @@ TEST_F(CodeSenderTest, BeyondTheDepthTheUserWaitsWhileTheBytesGoOutUnlessTheLine
       while (!host.acts.empty()) {  // a quick line is done before he acts
         host.LetEventsRun(UserInput::Now);
       }
-      EXPECT_EQ(port.TakeWritten(),
-                std::string("o-------") + (isSlow ? one.writtenSlowly : one.written));
+      EXPECT_EQ(port.TakeWritten(), "o-------"s.append(isSlow ? writtenSlowly : written));
       EXPECT_EQ(host.deepest, 9);
-      EXPECT_LE(std::exchange(host.waits, 0), isSlow ? 100 * std::ssize(one.turns) : 0);
+      EXPECT_LE(std::exchange(host.waits, 0), isSlow ? 100 * std::ssize(turns) : 0);
       EXPECT_TRUE(host.isClosingSoon);
     }
   }
@@ -344,5 +336,56 @@ TEST_F(CodeSenderTest, WhateverHappensInMidSendEverySendEndsAndTheBoxTellsTheSta
   }
 }
 
+/// A slow line and a hand on a bar: the mouse moves by the line's clock, and where it has moved
+/// several times since the last turn the window system tells its last place.
+class DraggingHost : public TurnHost {
+ public:
+  DraggingHost(SimulatedLine& zLine, std::function<void(int)> zOnMove)
+      : line_(zLine), onMove_(std::move(zOnMove)) {}
+  void LetEventsRun(UserInput zInput) override { Turn(0.0001, zInput); }
+  void WaitForEvents(UserInput zInput) override { Turn(0.002, zInput); }
+
+  int position = 0;
+
+ private:
+  void Turn(double zSeconds, UserInput zInput) {
+    deepest = std::max(deepest, ++turnsWithinEachOther);
+    line_.Advance(zSeconds);
+    const int place = std::min(10000, static_cast<int>(line_.Now() / 0.008));
+    if (zInput == UserInput::Now && place > position) {
+      onMove_(position = place);
+    }
+    --turnsWithinEachOther;
+  }
+
+  SimulatedLine& line_;
+  std::function<void(int)> onMove_;
+};
+
+TEST(DragOnASlowLine, StaysShallowAndPromptAndEndsInTheFinalValue) {
+  TempFolder folder;
+  WriteBytes(folder / "Loquitor.ini", "[Serial]\r\nBaudRate=2400\r\n");
+  SettingsFile settings(folder.Path());
+  SimulatedLine line;
+  std::function<void(int)> onMove;
+  DraggingHost host(line, [&](int zPosition) { onMove(zPosition); });
+  CodeSender sender(line, host, settings);
+  double lastMove = 0;
+  onMove = [&](int zPosition) {
+    EXPECT_LT(line.Now() - lastMove, 0.07);  // the bar follows the mouse
+    lastMove = line.Now();
+    sender.SendCodesToOrvatone(RegisterWrite(7, zPosition), false);
+  };
+  while (host.position < 10000) {
+    host.WaitForEvents(UserInput::Now);
+  }
+  line.Drain();
+  EXPECT_LE(host.deepest, 10);  // the event loop, eight sends and one that keeps the user waiting
+  // A write that the next one cuts has no X; 80 seconds carry some 1,700 whole ones.
+  EXPECT_GT(std::count(line.onTheLine.begin(), line.onTheLine.end(), 'X'), 1000);
+  EXPECT_TRUE(line.onTheLine.ends_with(RegisterWrite(7, 10000)));
+  EXPECT_LT(line.Now() - 80, 0.2);  // nothing had piled up when the mouse rested
+}
+
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing
