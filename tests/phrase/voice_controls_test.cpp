@@ -42,6 +42,11 @@ TEST_F(VoiceControlsTest, TakeTypedValuesWhenTheFocusLeaves) {
     EXPECT_EQ(Bar("scBend")->value(), value) << typed;
     EXPECT_EQ(Box("txtBend")->Text(), text);
   }
+  GivenBoxesThatSwallowClicks();
+  Type("txtBend", "3");
+  prompts.whileOpen();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return SayDataBox()->hasFocus(); }));
+  EXPECT_EQ(Bar("scBend")->value(), 3) << "the window has come back with the focus elsewhere";
   EXPECT_TRUE(prompts.asked.empty());
 }
 

@@ -81,19 +81,22 @@ void frmPhrase::Load() {
 }
 
 void frmPhrase::Activate() {
+  if (QWidget* before = focusWidget()) {
+    before->setFocus(Qt::ActiveWindowFocusReason);  // for it to lose, so that a box takes its text
+  }
   txtSayData_->setFocus();
   palette_->FocusRefusedBox();
 }
 
 void frmPhrase::bntSayIt_Click() {
-  Say(txtSayData_->Text(), "bntSayIt");
+  Say(&TextArea::Text, "bntSayIt");
 }
 
 void frmPhrase::btnSaySelection_Click() {
-  Say(txtSayData_->SelectedText(), "btnSaySelection");
+  Say(&TextArea::SelectedText, "btnSaySelection");
 }
 
-void frmPhrase::Say(const std::string& zSayData, const char* zButton) {
+void frmPhrase::Say(SayDataPart zPart, const char* zButton) {
   // What is typed while the phrase goes out belongs into the Say Data.
   txtSayData_->setFocus();
   {
