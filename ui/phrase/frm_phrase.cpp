@@ -104,7 +104,7 @@ void frmPhrase::Say(SayDataPart zPart, const char* zButton) {
     if (IsUnloaded()) {
       return;  // closed by one of the events that were pending
     }
-    SayThisAllophoneList(context_.translator.ExpandSayData(zSayData));
+    SayThisAllophoneList(context_.translator.ExpandSayData((txtSayData_->*zPart)()));
   }
   txtSayData_->setFocus();
 }
@@ -118,18 +118,18 @@ std::string frmPhrase::CodesOf(std::string_view zAllophoneList) const {
 }
 
 void frmPhrase::btnCodes_Click() {
-  ViewCodes(txtSayData_->Text(), "btnCodes");
+  ViewCodes(&TextArea::Text, "btnCodes");
 }
 
 void frmPhrase::Command2_Click() {
-  ViewCodes(txtSayData_->SelectedText(), "Command2");
+  ViewCodes(&TextArea::SelectedText, "Command2");
 }
 
-void frmPhrase::ViewCodes(const std::string& zSayData, const char* zButton) {
+void frmPhrase::ViewCodes(SayDataPart zPart, const char* zButton) {
   std::string codes;
   {
     const Busy busy(this, form_.Get<QPushButton>(zButton));
-    codes = CodesOf(context_.translator.ExpandSayData(zSayData));
+    codes = CodesOf(context_.translator.ExpandSayData((txtSayData_->*zPart)()));
   }
   if (!IsUnloaded()) {
     txtSayData_->setFocus();

@@ -50,8 +50,10 @@ class frmPhrase : public ToolWindow {
   void btnShutUp_Click();
   void btnDone_Click();
 
-  void Say(const std::string& zSayData, const char* zButton);
-  void ViewCodes(const std::string& zSayData, const char* zButton);
+  /// The whole Say Data or the selection, read when the events that were pending have run.
+  using SayDataPart = std::string (TextArea::*)() const;
+  void Say(SayDataPart zPart, const char* zButton);
+  void ViewCodes(SayDataPart zPart, const char* zButton);
   std::string CodesOf(std::string_view zAllophoneList) const;
 
   const EditorContext context_;
