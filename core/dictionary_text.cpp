@@ -90,11 +90,15 @@ std::string FileBytesFromBox(std::string_view zBoxText) {
     }
     bytes.push_back(character);
   }
-  return bytes += "\r\n";
+  bytes += "\r\n";
+  return bytes;
 }
 
 std::vector<std::string_view> ReadLines(std::string_view zFileBytes) {
   std::vector<std::string_view> lines;
+  // Of lines ended by a lone CR, which no saved file has, there may be more.
+  lines.reserve(static_cast<std::size_t>(std::count(zFileBytes.begin(), zFileBytes.end(), '\n')) +
+                1);
   std::size_t start = 0;
   while (start < zFileBytes.size()) {
     const std::size_t end = std::min(zFileBytes.find_first_of(LineEnds, start), zFileBytes.size());

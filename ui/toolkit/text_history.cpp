@@ -135,7 +135,8 @@ void TextHistory::Redo() {
 }
 
 /// Exchanges what the step holds with what the box holds, and returns the step that exchanges them
-/// again.
+/// again. The whole text is shown afresh where most of it changes: that is quicker, and lets go of
+/// the memory of what was there.
 TextHistory::Step TextHistory::Apply(Step zStep) {
   Step inverse{zStep.start, zStep.other.size(), {}};
   int caret = static_cast<int>(zStep.start + zStep.other.size());
@@ -143,26 +144,29 @@ TextHistory::Step TextHistory::Apply(Step zStep) {
     inverse.caret = area_->textCursor().position();
     caret = zStep.caret;
   }
+  const std::size_t size = text_.size() - zStep.length + zStep.other.size();
+  const bool isShownAfresh = std::max(zStep.length, zStep.other.size()) > size / 2;
+  if (isShownAfresh) {
+    ClearArea();  // first, for its memory
+  }
   if (zStep.start == 0 && zStep.length == text_.size()) {
     inverse.other = std::exchange(text_, std::move(zStep.other));
   } else {
     inverse.other = text_.substr(zStep.start, zStep.length);
     text_.replace(zStep.start, zStep.length, std::exchange(zStep.other, {}));
   }
-  ShowChange(inverse.start, zStep.length, inverse.length);
+  if (isShownAfresh) {
+    Show();
+  } else {
+    ShowChange(inverse.start, zStep.length, inverse.length);
+  }
   area_->Select(caret, 0);
   area_->ensureCursorVisible();
   return inverse;
 }
 
-/// Shows what now stands from `zStart` on, `zAdded` bytes, in place of `zRemoved` bytes. The whole
-/// text afresh is quicker where most of it has changed, and lets go of the memory of what was
-/// there.
+/// Shows what now stands from `zStart` on, `zAdded` bytes, in place of `zRemoved` bytes.
 void TextHistory::ShowChange(std::size_t zStart, std::size_t zRemoved, std::size_t zAdded) {
-  if (std::max(zRemoved, zAdded) > text_.size() / 2) {
-    Show();
-    return;
-  }
   const FlagRaised ownChange(isOwnChange_);
   QTextCursor cursor(area_->document());
   cursor.setPosition(static_cast<int>(zStart));
@@ -173,9 +177,14 @@ void TextHistory::ShowChange(std::size_t zStart, std::size_t zRemoved, std::size
   cursor.endEditBlock();
 }
 
-void TextHistory::Show() {
+void TextHistory::ClearArea() {
   const FlagRaised ownChange(isOwnChange_);
   area_->SetText("");
+}
+
+void TextHistory::Show() {
+  ClearArea();
+  const FlagRaised ownChange(isOwnChange_);
   QTextCursor cursor(area_->document());
   cursor.beginEditBlock();
   InsertPieces(cursor, text_);

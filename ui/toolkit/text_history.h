@@ -71,6 +71,7 @@ class TextHistory : public QObject {
   bool JoinsLastStep(const Step& zStep);
   void KeepWithinBound();
   Step Apply(Step zStep);
+  void ClearArea();
   void Show();
   void ShowChange(std::size_t zStart, std::size_t zRemoved, std::size_t zAdded);
   std::string AreaText(int zFrom, int zEnd) const;
