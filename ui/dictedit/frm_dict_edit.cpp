@@ -52,7 +52,7 @@ frmDictEdit::frmDictEdit(QWidget* zOwner, const EditorContext& zContext)
       form_(this) {
   form_.Add(Rows);
   txtDictionary_ = form_.Get<TextArea>(QStringLiteral("txtDictionary"));
-  txtDictionary_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  txtDictionary_->StopWrapping();
   history_ = new TextHistory(txtDictionary_);
   ConnectControls();
 }

@@ -11,6 +11,7 @@
 #include "ui/toolkit/code_page.h"
 #include "ui/toolkit/focus_reason.h"
 #include "ui/toolkit/refusal.h"
+#include "ui/toolkit/unwrapped_layout.h"
 
 namespace loquitor {
 namespace {
@@ -28,6 +29,11 @@ TextArea::TextArea(QWidget* zParent) : QPlainTextEdit(zParent) {
   setTabChangesFocus(true);
   verticalScrollBar()->setAccessibleName("Lines of the text");
   horizontalScrollBar()->setAccessibleName("Columns of the text");
+}
+
+void TextArea::StopWrapping() {
+  setLineWrapMode(NoWrap);
+  UnwrappedLayout::Install(document());
 }
 
 std::string TextArea::Text() const {
@@ -101,7 +107,13 @@ void TextArea::focusOutEvent(QFocusEvent* zEvent) {
   }
 }
 
+void TextArea::paintEvent(QPaintEvent* zEvent) {
+  QPlainTextEdit::paintEvent(zEvent);
+  UnwrappedLayout::ForgetLines(document());
+}
+
 void TextArea::keyPressEvent(QKeyEvent* zEvent) {
+  UnwrappedLayout::ForgetLines(document());
   if (zEvent->matches(QKeySequence::InsertLineSeparator)) {
     textCursor().insertBlock();
     ensureCursorVisible();

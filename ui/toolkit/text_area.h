@@ -15,6 +15,9 @@ class TextArea : public QPlainTextEdit {
  public:
   explicit TextArea(QWidget* zParent);
 
+  /// From now on no line is wrapped. For texts of any size: see UnwrappedLayout.
+  void StopWrapping();
+
   std::string Text() const;
 
   /// Replaces the whole text: SetText forgets the undo history, ReplaceText is an undoable step of
@@ -41,6 +44,7 @@ class TextArea : public QPlainTextEdit {
 
  protected:
   void focusOutEvent(QFocusEvent* zEvent) override;
+  void paintEvent(QPaintEvent* zEvent) override;
   void keyPressEvent(QKeyEvent* zEvent) override;
   void insertFromMimeData(const QMimeData* zSource) override;
   QMimeData* createMimeDataFromSelection() const override;
