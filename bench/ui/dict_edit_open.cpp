@@ -5,11 +5,15 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
+#include <algorithm>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "bench/support/sample_dictionary.h"
 #include "bench/support/window_main.h"
@@ -39,11 +43,14 @@ class Editor {
   }
   void Close() { window_.reset(); }
   void Click(const char* zName) { window_->findChild<QPushButton*>(zName)->click(); }
-  void Press(QKeySequence::StandardKey zKey) {
-    QTest::keySequence(window_->findChild<TextArea*>("txtDictionary"), QKeySequence(zKey));
-  }
+  void Press(QKeySequence::StandardKey zKey) { QTest::keySequence(Box(), QKeySequence(zKey)); }
 
-  void Type() { QTest::keyClick(window_->findChild<TextArea*>("txtDictionary"), Qt::Key_X); }
+  void Type(Qt::Key zKey = Qt::Key_X) { QTest::keyClick(Box(), zKey); }
+  TextArea* Box() { return window_->findChild<TextArea*>("txtDictionary"); }
+  void Draw() {
+    QCoreApplication::processEvents();
+    Box()->viewport()->repaint();
+  }
   std::uintmax_t FileSize() const { return std::filesystem::file_size(sample_.File()); }
 
   void WriteWordList(int zWords) {
@@ -81,11 +88,6 @@ double StatusMegabytes(const std::string& zName) {
     }
   }
   return 0;
-}
-
-void ForgetPeak() {
-  malloc_trim(0);
-  std::ofstream("/proc/self/clear_refs") << 5;
 }
 
 void Sizes(benchmark::internal::Benchmark* zBenchmark) {
@@ -195,35 +197,135 @@ void OpenAnEmptyEditor() {
   empty.Open();
 }
 
-/// What opening the window, and then one action after the other, adds to the program's memory at
-/// most, in MB and in times the file. What a first window of any kind takes is not counted.
+/// What the window of `zEditor` adds to the program's memory, from its opening on: at most, in MB
+/// and in times the file, and of the whole program. What a first window of any kind takes is not
+/// counted.
+class Memory {
+ public:
+  Memory(benchmark::State& zState, const Editor& zEditor)
+      : state_(zState), file_(static_cast<double>(zEditor.FileSize()) / 1048576) {
+    OpenAnEmptyEditor();
+    malloc_trim(0);
+    std::ofstream("/proc/self/clear_refs") << 5;  // forgets the peak
+    before_ = StatusMegabytes("VmRSS");
+    state_.counters["0_before_MB"] = before_;
+    state_.counters["file_MB"] = file_;
+  }
+  void PeakUntil(const std::string& zStep) {
+    const double peak = StatusMegabytes("VmHWM");
+    state_.counters[zStep + "_MB"] = peak - before_;
+    state_.counters[zStep + "_times"] = (peak - before_) / file_;
+    state_.counters["whole_program_times"] = peak / file_;
+  }
+
+ private:
+  benchmark::State& state_;
+  double file_;
+  double before_ = 0;
+};
+
 void BM_PeakMemory(benchmark::State& zState) {
   Editor editor(zState.range(0));
   editor.WriteWordList(100'000);
-  OpenAnEmptyEditor();
   for (auto _ : zState) {
-    ForgetPeak();
-    const double before = StatusMegabytes("VmRSS");
-    const auto count = [&](const char* zStep) {
-      zState.counters[zStep] = StatusMegabytes("VmHWM") - before;
-    };
+    Memory memory(zState, editor);
     editor.Open();
-    count("1_opened_MB");
+    memory.PeakUntil("1_opened");
     editor.Click("btnSort");
-    count("2_sorted_MB");
+    memory.PeakUntil("2_sorted");
     editor.Click("btnEraseBlank");
-    count("3_cleaned_MB");
+    memory.PeakUntil("3_cleaned");
     editor.Click("btnReadTerms");
-    count("4_imported_MB");
+    memory.PeakUntil("4_imported");
     for (int i = 0; i < 3; ++i) {
       editor.Press(QKeySequence::Undo);
     }
-    count("5_undone_MB");
-    zState.counters["file_MB"] = static_cast<double>(editor.FileSize()) / 1048576;
+    memory.PeakUntil("5_undone");
     editor.Close();
   }
 }
 BENCHMARK(BM_PeakMemory)->Arg(130'000)->Arg(1'000'000)->Iterations(1);
+
+/// Shows one part of the text after the other by `zStep` until that leads no further; the slowest
+/// step in milliseconds of the processor.
+template <typename Step>
+double ShowAll(Editor& zEditor, Step zStep) {
+  double slowest = 0;
+  const auto place = [&] {
+    return std::pair(zEditor.Box()->verticalScrollBar()->value(), zEditor.Box()->SelectionStart());
+  };
+  for (auto before = place();;) {
+    const std::clock_t start = std::clock();
+    zStep();
+    zEditor.Draw();
+    slowest = std::max(slowest, 1e3 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+    if (place() == before) {
+      return slowest;
+    }
+    before = place();
+  }
+}
+
+/// Every line is shown in every way, and then the widest made narrower, which concerns them all.
+/// Last a sort, whose peak comes on top of what is kept.
+void BM_PeakMemoryOfScrolling(benchmark::State& zState) {
+  Editor editor(zState.range(0));
+  for (auto _ : zState) {
+    Memory memory(zState, editor);
+    editor.Open();
+    memory.PeakUntil("1_opened");
+    zState.counters["slowest_page_ms"] = ShowAll(editor, [&] { editor.Type(Qt::Key_PageDown); });
+    memory.PeakUntil("2_paged");
+    QScrollBar* bar = editor.Box()->verticalScrollBar();
+    bar->setValue(0);
+    ShowAll(editor, [&] { bar->setValue(bar->value() + bar->pageStep()); });
+    memory.PeakUntil("3_dragged");
+    editor.Press(QKeySequence::MoveToStartOfDocument);
+    editor.Type(Qt::Key_End);
+    for (int i = 0; i < 1000; ++i) {
+      editor.Type();
+    }
+    editor.Draw();
+    editor.Type(Qt::Key_Backspace);
+    editor.Draw();
+    memory.PeakUntil("4_erased");
+    editor.Press(QKeySequence::SelectAll);
+    editor.Draw();
+    memory.PeakUntil("5_selected");
+    editor.Click("btnSort");
+    memory.PeakUntil("6_sorted");
+    editor.Close();
+  }
+}
+BENCHMARK(BM_PeakMemoryOfScrolling)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Arg(130'000)
+    ->Arg(1'000'000)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+
+/// Sixty characters erased in the widest line that has been in view.
+void BM_EraseInTheWidestLine(benchmark::State& zState) {
+  Editor editor(zState.range(0));
+  editor.Open();
+  for (auto _ : zState) {
+    zState.PauseTiming();
+    for (int i = 0; i < 100; ++i) {
+      editor.Type();
+    }
+    zState.ResumeTiming();
+    for (int i = 0; i < 60; ++i) {
+      editor.Type(Qt::Key_Backspace);
+    }
+  }
+}
+BENCHMARK(BM_EraseInTheWidestLine)
+    ->Arg(1'000)
+    ->Arg(130'000)
+    ->Arg(1'000'000)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace loquitor
