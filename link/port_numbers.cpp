@@ -66,7 +66,7 @@ std::string DeviceOfEntry(const std::string& zEntry, const SettingsFile& zSettin
   if (IsDeviceName(zEntry)) {
     return zEntry;
   }
-  return (zSettings.Folder() / zEntry).string();  // an absolute entry replaces the folder
+  return (zSettings.Folder() / zEntry).string();
 }
 
 /// What the tooltip says about `zDevice`; empty when it is not there.
@@ -107,20 +107,23 @@ bool IsNaturallyLess(std::string_view zLeft, std::string_view zRight) {
 }
 
 std::string DeviceForPort(int zNumber, const SettingsFile& zSettings,
-                          const std::vector<SerialDevice>& zPresent) {
+                          const DeviceSearch& zPresent) {
   if (zNumber < 1) {
     return {};
   }
   const std::string entry = zSettings.GetIniValue("Ports", std::to_string(zNumber), "");
-  return entry.empty() ? DeviceWithoutEntry(zNumber, zPresent)
-                       : DeviceOfEntry(entry, zSettings, zPresent);
+  if (std::filesystem::path(entry).is_absolute()) {
+    return entry;
+  }
+  return entry.empty() ? DeviceWithoutEntry(zNumber, zPresent())
+                       : DeviceOfEntry(entry, zSettings, zPresent());
 }
 
 std::string DescribePorts(const SettingsFile& zSettings,
                           const std::vector<SerialDevice>& zPresent) {
   std::string lines;
   for (int number = 1; number <= HighestListed; ++number) {
-    const std::string device = DeviceForPort(number, zSettings, zPresent);
+    const std::string device = DeviceForPort(number, zSettings, [&] { return zPresent; });
     const std::string description =
         device.empty() ? std::string() : DescribeDevice(device, zPresent);
     if (!description.empty()) {

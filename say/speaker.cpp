@@ -51,7 +51,7 @@ std::string Speaker::PortNumberText() const {
 
 std::string Speaker::PortDevice() const {
   const std::optional<int> number = WholeNumberAtStart(PortNumberText());
-  return number ? DeviceForPort(*number, settings_, PresentSerialDevices()) : std::string();
+  return number ? DeviceForPort(*number, settings_, PresentSerialDevices) : std::string();
 }
 
 bool Speaker::IsFlowControlTicked() const {

@@ -107,7 +107,9 @@ class PortNumbersTest : public ::testing::Test {
   void GivenPorts(const std::string& zEntries) {
     WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n" + zEntries);
   }
-  std::string Device(int zNumber) { return DeviceForPort(zNumber, settings, present); }
+  std::string Device(int zNumber) {
+    return DeviceForPort(zNumber, settings, [this] { return present; });
+  }
 
   TempFolder folder;
   SettingsFile settings{folder.Path()};

@@ -209,7 +209,7 @@ std::string frmUtility::PortDevice() const {
   if (!number || isUnloaded_) {
     return {};
   }
-  return DeviceForPort(*number, settings_, PresentSerialDevices());
+  return DeviceForPort(*number, settings_, PresentSerialDevices);
 }
 
 bool frmUtility::IsFlowControlTicked() const {
