@@ -57,6 +57,10 @@ TEST_F(FreshProfileTest, SeesEveryChangeAtOnce) {
   std::filesystem::create_directory(file);
   EXPECT_EQ(Value(), "(no file)");
   std::filesystem::remove(file);
+  WriteBytes(file, Text("huge"));
+  std::filesystem::resize_file(file, LargestLoadedFile + 1);
+  EXPECT_EQ(Value(), "(no file)");
+  std::filesystem::remove(file);
   std::filesystem::create_symlink("elsewhere", file);
   for (const char* value : {"4", "5"}) {
     WriteBytes(folder / "elsewhere", Text(value));

@@ -53,11 +53,14 @@ TEST(VirtualChipTest, SaysWhatTheBytesMean) {
        "SCP memory write: location 234 = 2 (phrases)\n"
        "SCP memory write: location 0 = 255 (start of phrase 0)\n"
        "SCP store configuration\n"},
-      {RegisterWrite(7, 96) + RegisterWrite(12, 20) + RegisterWrite(1, 3999) + RegisterWrite(8, -5),
+      {RegisterWrite(7, 96) + RegisterWrite(12, 20) + RegisterWrite(1, 3999) +
+           RegisterWrite(8, -5) + RegisterWrite(0, 88) + RegisterWrite(9, 1),
        "SCP register write: register 7 = 96 (master volume)\n"
        "SCP register write: register 12 = 20 (volume of oscillator 2)\n"
        "SCP register write: register 1 = 3999 (frequency of oscillator 1)\n"
-       "SCP register write: register 8 = -5 (envelope control)\n"},
+       "SCP register write: register 8 = -5 (envelope control)\n"
+       "SCP register write: register 0 = 88 (envelope frequency)\n"
+       "SCP register write: register 9 = 1 (not used)\n"},
       // The detune write has no X; what follows is understood all the same.
       {MemoryWriteGroup(235, 16) + "\x80" + MemoryWriteGroup(235, 255) + RegisterWrite(6, 1),
        "SCP memory write: location 235 = 16 (clock detune)\ncode 128 \\IY\n"

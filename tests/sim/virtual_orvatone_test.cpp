@@ -117,6 +117,7 @@ TEST_F(VirtualOrvatoneTest, RefusesWhatItCannotDo) {
       {{"--link", (folder / "link").string()}, 1, "exists already"},
       {{"--link", (folder / "none" / "x").string()}, 1, "cannot make the link"},
       {{"--link"}, 2, "--link needs a path"},
+      {{"--link="}, 2, "--link needs a path"},
       {{"--port", "3"}, 2, "unknown argument: --port"},
       {{"--help"}, 0, "Usage: virtual-orvatone [--link PATH]"},
   };

@@ -58,17 +58,17 @@ void DictionaryBrowser::ReplaceSayData(std::string_view zText) {
 }
 
 void DictionaryBrowser::btnNextWord_Click() {
-  const NextWordMode mode = NextWordModeOf(chkWith_->Value() == 1, chkWithout_->Value() == 1);
-  if (mode == NextWordMode::None) {
+  const auto mode = NextWordModeOf(chkWith_->Value() == 1, chkWithout_->Value() == 1);
+  if (!mode) {
     context_.prompts.Tell(window_, "Must select either With Data or Without Data or Both");
     return;
   }
-  const bool isFound = GetNextWord(mode);
+  const bool isFound = GetNextWord(*mode);
   if (!window_->isVisible()) {
     return;  // closed by one of the events that were pending
   }
   if (!isFound) {
-    context_.prompts.Tell(window_, NoWordNotice(mode));
+    context_.prompts.Tell(window_, NoWordNotice(*mode));
   } else if (mode != NextWordMode::WithoutData) {
     emit SayWanted(context_.translator.ExpandSayData(txtSayData_->Text()));
   }

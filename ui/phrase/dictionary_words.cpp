@@ -30,11 +30,11 @@ std::string ToUpper(std::string_view zText) {
 
 }  // namespace
 
-NextWordMode NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTicked) {
+std::optional<NextWordMode> NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTicked) {
   if (zIsWithTicked) {
     return zIsWithoutTicked ? NextWordMode::Any : NextWordMode::WithData;
   }
-  return zIsWithoutTicked ? NextWordMode::WithoutData : NextWordMode::None;
+  return zIsWithoutTicked ? std::optional(NextWordMode::WithoutData) : std::nullopt;
 }
 
 std::string LoadedText(const DictionaryStore& zDictionary, std::string_view zText) {
@@ -48,8 +48,6 @@ std::string LoadedText(const DictionaryStore& zDictionary, std::string_view zTex
 bool IsWanted(NextWordMode zMode, std::string_view zSayData, std::string_view zFindWith) {
   const bool hasData = !TrimSpaces(zSayData).empty();
   switch (zMode) {
-    case NextWordMode::None:
-      return false;
     case NextWordMode::WithData:
       return hasData && zSayData.find(ToUpper(zFindWith)) != std::string_view::npos;
     case NextWordMode::WithoutData:

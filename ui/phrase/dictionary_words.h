@@ -11,13 +11,13 @@ namespace loquitor {
 
 /// What a step to the next dictionary word looks for.
 enum class NextWordMode {
-  None,         ///< neither check box is ticked
   WithData,     ///< the next word that has an entry
   WithoutData,  ///< the next word that has none
   Any,
 };
 
-NextWordMode NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTicked);
+/// Nothing when neither check box is ticked.
+std::optional<NextWordMode> NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTicked);
 
 /// What loading the words of `zText` puts into an empty Say Data box: for each word its entry and
 /// one blank.
