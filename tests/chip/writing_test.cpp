@@ -87,11 +87,12 @@ TEST_P(AWrite, SendsNothingWhenItsWindowIsClosedAsItBegins) {
   EXPECT_EQ(Written(), "");
 }
 
-TEST_P(AWrite, EndsOnALineHeldBackForEverWhenItsWindowIsClosed) {
+TEST_P(AWrite, LeavesItsShutUpToALineHeldBackWhenItsWindowIsClosed) {
   port.isHeldBack = true;
   QTimer::singleShot(20, window.get(), [this] { Click("btnShutUp"); });
   QTimer::singleShot(40, window.get(), [this] { Click("btnDone"); });
-  EXPECT_EQ(Written(), "");
+  QTimer::singleShot(60, window.get(), [this] { port.isHeldBack = false; });
+  EXPECT_EQ(Written(), StopSequence());
   EXPECT_EQ(closings, 1);
 }
 

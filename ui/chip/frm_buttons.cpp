@@ -333,7 +333,9 @@ void frmButtons::Load() {
 }
 
 void frmButtons::Unload() {
-  context_.sender.ClearPendingOutput();
+  if (context_.sender.SendCount() == lastWrite_) {
+    context_.sender.ClearPendingOutput();  // but never a Shut Up that still waits for the line
+  }
   std::vector<ProfileValue> entries;
   for (int row = 0; row < EventCount; ++row) {
     for (const EventCheck& check : ChecksOf(row)) {
@@ -416,6 +418,7 @@ void frmButtons::btnWrite_Click() {
     Report(unusable);
     return;
   }
+  lastWrite_ = context_.sender.SendCount() + 1;
   context_.sender.SendCodesToOrvatone(EventConfigurationString(ReadControls()), false);
 }
 

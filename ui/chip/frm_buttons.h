@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <vector>
 
 #include "ui/chip/event_configuration.h"
@@ -54,6 +55,7 @@ class frmButtons : public ToolWindow {
   EditorContext context_;
   Form form_;
   std::array<OptionGroup*, OptionCount / 2> pairs_{};
+  std::size_t lastWrite_ = 0;  ///< which one of the sender's sends was the last write
 };
 
 }  // namespace loquitor

@@ -173,7 +173,9 @@ void frmEEPROM::Load() {
 }
 
 void frmEEPROM::Unload() {
-  context_.sender.ClearPendingOutput();
+  if (context_.sender.SendCount() == lastWrite_) {
+    context_.sender.ClearPendingOutput();  // but never a Shut Up that still waits for the line
+  }
   std::vector<ProfileValue> entries;
   for (int index = 0; index < PhraseSlotCount; ++index) {
     entries.push_back({PhraseKey(index), phrases_[static_cast<std::size_t>(index)]->Phrase()});
@@ -195,6 +197,7 @@ void frmEEPROM::btnWrite_Click() {
   }
   // Anything else that is sent would cut the write and leave the chip half written.
   SetSlotsEnabled(false);
+  lastWrite_ = context_.sender.SendCount() + 1;
   context_.sender.SendCodesToOrvatone(EepromWriteString(image), false);
   SetSlotsEnabled(true);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -46,6 +47,7 @@ class frmEEPROM : public ToolWindow {
   Form form_;
   std::array<SlotLabel*, PhraseSlotCount> lbs_{};
   std::array<PhraseLabel*, PhraseSlotCount> phrases_{};
+  std::size_t lastWrite_ = 0;  ///< which one of the sender's sends was the last write
 };
 
 }  // namespace loquitor
