@@ -165,6 +165,8 @@ TEST_F(DictionaryEditor, FindStartsBehindTheSelectionAndWrapsAround) {
         QStringList({"Find:", QString::fromUtf8(nowhere).prepend("“").append("” was not found.")}));
     EXPECT_EQ(Selection(), std::make_pair(14, std::string("dog=")));
   }
+  Find(QString(1000, 'x'));
+  EXPECT_LT(Told().back().size(), 100);
 }
 
 TEST_F(DictionaryEditor, AMatchIsScrolledIntoView) {

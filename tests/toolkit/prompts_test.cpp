@@ -61,6 +61,11 @@ TEST(DesktopPrompts, TextsAppearAsTheyAre) {
     zBox->accept();
   });
   prompts.Tell(nullptr, "<b>one</b>\r\n\r\n       seven blanks & more");
+  WhenUp<QMessageBox>([](QMessageBox* zBox) {
+    EXPECT_GT(zBox->width(), zBox->fontMetrics().horizontalAdvance(zBox->windowTitle()) + 100);
+    zBox->accept();
+  });
+  prompts.Ask(nullptr, "A title wider than the text", "x", PromptButtons::Ok);
 }
 
 TEST(DesktopPrompts, AnInputBoxGivesItsTextOrNothing) {

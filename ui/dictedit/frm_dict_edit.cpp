@@ -39,6 +39,7 @@ constexpr std::array<ControlRow, 7> Rows{{
 
 constexpr const char* WordListFile = "ImportWords.txt";
 constexpr std::string_view NoEntry = "NoEntry";
+constexpr int ShownLength = 60;  ///< of a sought text, in a message
 
 QString Shown(const std::filesystem::path& zPath) {
   return QString::fromStdString(zPath.string());
@@ -221,7 +222,8 @@ void frmDictEdit::FindNext() {
                                                         static_cast<std::size_t>(from))
                                              : std::string::npos;
   if (found == std::string::npos) {
-    context_.prompts.Tell(this, QStringLiteral("“%1” was not found.").arg(sought_));
+    const QString shown = sought_.size() > ShownLength ? sought_.left(ShownLength) + u'…' : sought_;
+    context_.prompts.Tell(this, QStringLiteral("“%1” was not found.").arg(shown));
     return;
   }
   txtDictionary_->Select(static_cast<int>(found), static_cast<int>(sought_.size()));

@@ -54,12 +54,18 @@ QString WithPlainBreaks(const QString& zText) {
   return QString(zText).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
 
-/// Keeps the lines of a message whole, which Qt breaks at half the screen, as far as it has room.
+/// Keeps the lines of a message whole, which Qt breaks at half the screen, as far as it has room,
+/// and its title, which window managers cut.
 void KeepLinesWhole(QMessageBox& zBox) {
-  constexpr int RoomForTheRest = 200;  // pixels: borders of the box, and some of the screen
+  constexpr int RoomForTheRest = 200;      // pixels: borders of the box, and some of the screen
+  constexpr int RoomBesideTheTitle = 110;  // an icon and three buttons, less the borders of the box
   if (auto* label = zBox.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-    const int wanted = label->fontMetrics().size(Qt::TextExpandTabs, zBox.text()).width() + 2;
-    label->setMinimumWidth(std::min(wanted, zBox.screen()->size().width() - RoomForTheRest));
+    QFont bold = zBox.font();
+    bold.setBold(true);
+    const int lines = label->fontMetrics().size(Qt::TextExpandTabs, zBox.text()).width() + 2;
+    const int title = QFontMetrics(bold).horizontalAdvance(zBox.windowTitle()) + RoomBesideTheTitle;
+    label->setMinimumWidth(
+        std::min(std::max(lines, title), zBox.screen()->size().width() - RoomForTheRest));
   }
 }
 
