@@ -42,7 +42,7 @@ class CodeSenderTest : public ::testing::Test {
   void AfterTurns(std::size_t zCount, const Acts& zActs) {
     host.acts.assign(zCount - 1, [] {});
     host.acts.push_back([this, zActs] {
-      EXPECT_TRUE(sender.IsSending() && !host.isClosingSoon);
+      EXPECT_TRUE(sender.IsSending() && !host.isTimerRunning);
       Do(zActs);
     });
   }
@@ -73,7 +73,7 @@ class CodeSenderTest : public ::testing::Test {
       {"fail soon", [this] { port.bytesUntilFailure = 5; }},
       {"refuse", [this] { port.refusesToOpen = true; }},
       {"accept", [this] { port.refusesToOpen = false; }},
-      {"answer", [this] { host.answer = !host.answer; }},
+      {"answer", [this] { host.sendsLongPhrases = !host.sendsLongPhrases; }},
       {"flow control", [this] { host.isFlowControlTicked = !host.isFlowControlTicked; }}};
 };
 
@@ -95,19 +95,15 @@ TEST(Scp, WritesGoOutInTheFormThatTheChipReads) {
 }
 
 TEST_F(CodeSenderTest, EveryByteGoesOutAsGivenAndTheClosingTimerStarts) {
-  std::string all;
-  for (int code = 0; code < 256; ++code) {
-    all.push_back(static_cast<char>(code));
-  }
   port.onByte = [this] {
-    EXPECT_TRUE(sender.IsSending() && host.isTicking && !host.isClosingSoon);
+    EXPECT_TRUE(sender.IsSending() && host.isTicking && !host.isTimerRunning);
   };
-  host.isClosingSoon = true;
-  Send(all);
-  EXPECT_EQ(port.TakeWritten(), all);
+  host.isTimerRunning = true;
+  Send(EveryByte());
+  EXPECT_EQ(port.TakeWritten(), EveryByte());
   EXPECT_EQ(TakeLog(), "green ");
   EXPECT_EQ(port.discardCount, 1);
-  EXPECT_TRUE(host.isClosingSoon);
+  EXPECT_TRUE(host.isTimerRunning);
   EXPECT_EQ(host.closingDelay, 1000);
   EXPECT_FALSE(sender.IsSending() || host.isTicking || sender.HasFailed());
 }
@@ -124,12 +120,12 @@ TEST_F(CodeSenderTest, OnlyLongPhrasesWithoutFlowControlAsk) {
            {65, true, false, false, "question ", 0},
        }) {
     host.isFlowControlTicked = isTicked;
-    host.answer = answer;
+    host.sendsLongPhrases = answer;
     sender.SendCodesToOrvatone(std::string(length, 'x'), isPhrase);
     EXPECT_EQ(port.TakeWritten().size(), sent) << length;
     EXPECT_EQ(TakeLog(), log) << length;
     EXPECT_TRUE(port.IsOpen());  // after No as well, and then for good
-    EXPECT_EQ(host.isClosingSoon, log.ends_with("green ")) << length;
+    EXPECT_EQ(host.isTimerRunning, log.ends_with("green ")) << length;
   }
 }
 
@@ -168,7 +164,7 @@ TEST_F(CodeSenderTest, APortThatDoesNotOpenShowsRedAndTheNextSendTriesAgain) {
     Send("abc");
     sender.CloseSerialPort();  // the red stays
     EXPECT_EQ(TakeLog(), "red ");
-    EXPECT_TRUE(host.isClosingSoon && sender.HasFailed());
+    EXPECT_TRUE(host.isTimerRunning && sender.HasFailed());
     EXPECT_EQ(port.opened.size(), 1u);
   }
   host.device = "another";
@@ -190,7 +186,7 @@ TEST_F(CodeSenderTest, APortThatFailsInMidSendOrIdleIsShownRedOnce) {
     EXPECT_EQ(port.TakeWritten(), "abc"s.substr(0, static_cast<std::size_t>(bytes)));
     sender.CloseSerialPort();  // the closing timer
     EXPECT_EQ(TakeLog(), "green red ");
-    EXPECT_TRUE(sender.HasFailed() && sender.PendingOutput().empty() && host.isClosingSoon);
+    EXPECT_TRUE(sender.HasFailed() && sender.PendingOutput().empty() && host.isTimerRunning);
     port.bytesUntilFailure = -1;
     Send("again");
     EXPECT_EQ(port.TakeWritten(), "again");
@@ -218,7 +214,7 @@ TEST_F(CodeSenderTest, TheWaitForTheLineEnds) {
       Send("abc");
       EXPECT_EQ(std::exchange(host.waits, 0), isHeldBack ? 30 : 27);
       EXPECT_EQ(port.TakeWritten(), isHeldBack ? heldBack : unsent);
-      EXPECT_TRUE(sender.PendingOutput().empty() && host.isClosingSoon && !sender.IsSending());
+      EXPECT_TRUE(sender.PendingOutput().empty() && host.isTimerRunning && !sender.IsSending());
       EXPECT_EQ(TakeLog(), log);
       sender.CloseSerialPort();
       TakeLog();
@@ -236,7 +232,7 @@ TEST_F(CodeSenderTest, ANestedSendReplacesTheRestUnlessItIsRefused) {
     std::string withoutSpeech = port.TakeWritten();
     std::erase(withoutSpeech, 's');
     EXPECT_EQ(withoutSpeech, written);
-    EXPECT_TRUE(host.isClosingSoon);
+    EXPECT_TRUE(host.isTimerRunning);
   }
 }
 
@@ -295,7 +291,7 @@ TEST_F(CodeSenderTest, BeyondTheDepthTheUserWaitsWhileTheBytesGoOutUnlessTheLine
             codes == "!"
                 ? sender.ClearPendingOutput()
                 : sender.SendCodesToOrvatone(codes.substr(codes[0] == '~'), codes[0] == '~');
-            EXPECT_TRUE(!isSlow || !host.isClosingSoon);
+            EXPECT_TRUE(!isSlow || !host.isTimerRunning);
           }
           port.isHeldBack = false;
         });
@@ -307,7 +303,7 @@ TEST_F(CodeSenderTest, BeyondTheDepthTheUserWaitsWhileTheBytesGoOutUnlessTheLine
       EXPECT_EQ(port.TakeWritten(), "o-------"s.append(isSlow ? writtenSlowly : written));
       EXPECT_EQ(host.deepest, 9);
       EXPECT_LE(std::exchange(host.waits, 0), isSlow ? 100 * std::ssize(turns) : 0);
-      EXPECT_TRUE(host.isClosingSoon);
+      EXPECT_TRUE(host.isTimerRunning);
     }
   }
 }
@@ -331,7 +327,7 @@ TEST_F(CodeSenderTest, WhateverHappensInMidSendEverySendEndsAndTheBoxTellsTheSta
     }
     ASSERT_TRUE(port.TakeWritten().ends_with(StopSequence())) << story;
     ASSERT_TRUE(sender.PendingOutput().empty() && !sender.IsSending() && !host.isTicking) << story;
-    ASSERT_TRUE(host.isClosingSoon && port.IsOpen() && TakeLog().ends_with("green ")) << story;
+    ASSERT_TRUE(host.isTimerRunning && port.IsOpen() && TakeLog().ends_with("green ")) << story;
     ASSERT_LE(host.deepest, 10) << story;  // eight sends, the loop around them and one more wait
   }
 }

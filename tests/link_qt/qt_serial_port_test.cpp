@@ -1,7 +1,6 @@
 #include "link/qt/qt_serial_port.h"
 
 #include <gtest/gtest.h>
-#include <sys/file.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 
@@ -13,14 +12,13 @@
 #include <memory>
 
 #include "tests/support/pseudo_terminal.h"
+#include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
-namespace loquitor {
+namespace loquitor::testing {
 namespace {
 
-using testing::PseudoTerminal;
-using testing::TempFolder;
-using testing::WriteBytes;
+using namespace std::string_literals;
 
 /// A user without rights, for whom alone permissions and the exclusive mode of devices hold.
 class AsNobody {
@@ -72,32 +70,22 @@ TEST_F(QtSerialPortTest, WrittenBytesAreOnTheLineAtOnce) {
   terminal.Answer("thrown away, and not echoed");
   QTest::qWait(20);
   port.DiscardReceived();
-  std::string all;
-  for (int code = 0; code < 256; ++code) {
-    all.push_back(static_cast<char>(code));
-    ASSERT_TRUE(port.IsReadyForByte());
-    ASSERT_TRUE(port.WriteByte(static_cast<std::uint8_t>(code)));
+  for (const char code : EveryByte()) {
+    ASSERT_TRUE(port.IsReadyForByte() && port.WriteByte(static_cast<std::uint8_t>(code)));
   }
-  EXPECT_EQ(terminal.Received(), all);
+  EXPECT_EQ(terminal.Received(), EveryByte());
 }
 
 TEST_F(QtSerialPortTest, WhatIsNoUsableDeviceIsRefused) {
   WriteBytes(folder / "regular", "text");
   std::filesystem::create_symlink(folder / "nowhere", folder / "dangling");
   std::filesystem::create_symlink("loop", folder / "loop");
-  const std::string devices[] = {"",
-                                 folder.Path(),
-                                 folder / "regular",
-                                 folder / "dangling",
-                                 folder / "loop",
-                                 "/dev/null",
-                                 std::string("/dev/nul\0l", 10),
-                                 std::string(5000, 'x')};
-  for (const std::string& device : devices) {
+  for (const char* name : {"", "regular", "dangling", "loop"}) {
+    EXPECT_FALSE(Open(folder / name)) << name;
+  }
+  for (const std::string& device : {""s, "/dev/null"s, "/dev/nul\0l"s, std::string(5000, 'x')}) {
     EXPECT_FALSE(Open(device)) << device;
-    EXPECT_FALSE(port.IsOpen()) << device;
-    EXPECT_FALSE(port.IsReadyForByte()) << device;
-    EXPECT_FALSE(port.WriteByte(1)) << device;
+    EXPECT_FALSE(port.IsOpen() || port.IsReadyForByte() || port.WriteByte(1)) << device;
   }
   EXPECT_TRUE(Open());
   QCoreApplication::processEvents();
@@ -105,24 +93,15 @@ TEST_F(QtSerialPortTest, WhatIsNoUsableDeviceIsRefused) {
 }
 
 TEST_F(QtSerialPortTest, SpeedAndHandshakingReachTheLine) {
-  const struct {
-    const char* baudRate;
-    bool handshaking;
-    bool opens;
-    speed_t speed;
-  } cases[] = {{"2400", false, true, B2400},
-               {"9600", true, true, B9600},
-               {"19200", false, true, B19200},
-               {"9600 baud", false, false, B0}};
-  for (const auto& one : cases) {
-    ASSERT_EQ(Open(terminal.Path(), one.baudRate, one.handshaking), one.opens) << one.baudRate;
-    if (one.opens) {
-      const termios settings = terminal.Settings();
-      EXPECT_EQ(::cfgetospeed(&settings), one.speed) << one.baudRate;
-      EXPECT_EQ((settings.c_cflag & CRTSCTS) != 0, one.handshaking) << one.baudRate;
-      EXPECT_EQ(settings.c_cflag & (CSIZE | PARENB | CSTOPB), unsigned{CS8}) << one.baudRate;
-    }
+  for (const auto& [baudRate, handshaking, speed] : Rows<const char*, bool, speed_t>{
+           {"2400", false, B2400}, {"9600", true, B9600}, {"19200", false, B19200}}) {
+    ASSERT_TRUE(Open(terminal.Path(), baudRate, handshaking)) << baudRate;
+    const termios settings = terminal.Settings();
+    EXPECT_EQ(::cfgetospeed(&settings), speed) << baudRate;
+    EXPECT_EQ((settings.c_cflag & CRTSCTS) != 0, handshaking) << baudRate;
+    EXPECT_EQ(settings.c_cflag & (CSIZE | PARENB | CSTOPB), unsigned{CS8}) << baudRate;
   }
+  EXPECT_FALSE(Open(terminal.Path(), "9600 baud"));
 }
 
 TEST_F(QtSerialPortTest, APortInUseIsRefusedAndKeepsItsSettings) {
@@ -141,15 +120,14 @@ TEST_F(QtSerialPortTest, APortInUseIsRefusedAndKeepsItsSettings) {
   EXPECT_TRUE(second.Open({terminal.Path(), "2400", false}));
 }
 
-TEST_F(QtSerialPortTest, ADeviceWithoutPermissionIsRefused) {
-  ASSERT_EQ(::chmod(terminal.Path().c_str(), 0), 0);
-  AsNobody nobody;
-  EXPECT_FALSE(Open());
-}
-
-TEST_F(QtSerialPortTest, ADeviceInUseByAnyOtherProgramIsRefused) {
-  ASSERT_EQ(::chmod(terminal.Path().c_str(), 0666), 0);
-  AsNobody nobody;
+TEST_F(QtSerialPortTest, ADeviceWithoutPermissionOrInUseByAnyOtherProgramIsRefused) {
+  for (const mode_t mode : {0, 0666}) {
+    ASSERT_EQ(::chmod(terminal.Path().c_str(), mode), 0);
+    const AsNobody nobody;
+    EXPECT_EQ(Open(), mode != 0);
+  }
+  port.Close();
+  const AsNobody nobody;
   const int other = ::open(terminal.Path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
   ASSERT_GE(other, 0);
   ASSERT_EQ(::ioctl(other, TIOCEXCL), 0);
@@ -159,18 +137,6 @@ TEST_F(QtSerialPortTest, ADeviceInUseByAnyOtherProgramIsRefused) {
   ::close(other);
   EXPECT_LT(::open(terminal.Path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC), 0);  // now it is ours
   EXPECT_TRUE(Open());  // and opens again for us
-}
-
-TEST_F(QtSerialPortTest, ADeviceThatAnotherProgramHasLockedIsRefusedEvenToTheSuperuser) {
-  const int other = ::open(terminal.Path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
-  ASSERT_EQ(::flock(other, LOCK_EX | LOCK_NB), 0);
-  EXPECT_FALSE(Open());
-  ASSERT_EQ(::flock(other, LOCK_UN), 0);
-  EXPECT_TRUE(Open());
-  EXPECT_NE(::flock(other, LOCK_EX | LOCK_NB), 0);  // now it is ours
-  port.Close();
-  EXPECT_EQ(::flock(other, LOCK_EX | LOCK_NB), 0);
-  ::close(other);
 }
 
 TEST_F(QtSerialPortTest, AHeldBackLineNeitherBlocksNorFails) {
@@ -241,4 +207,4 @@ TEST_F(QtSerialPortTest, AfterAHangUpTheEventLoopRests) {
 }
 
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing

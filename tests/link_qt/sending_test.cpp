@@ -8,17 +8,15 @@
 #include "link/qt/qt_serial_port.h"
 #include "link/scp.h"
 #include "tests/support/pseudo_terminal.h"
+#include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/turn_host.h"
 
-namespace loquitor {
+namespace loquitor::testing {
 namespace {
 
-using testing::PseudoTerminal;
-using testing::TempFolder;
-
 /// A host with a real event loop and a real closing timer.
-class LoopHost : public testing::TurnHost {
+class LoopHost : public TurnHost {
  public:
   explicit LoopHost(std::function<void()> zOnTick) : turns(std::move(zOnTick)) {}
 
@@ -69,8 +67,8 @@ class SendingTest : public ::testing::Test {
 
 TEST_F(SendingTest, AllBytesArriveAndThePortClosesLater) {
   std::string codes;
-  for (int code = 0; code < 3000; ++code) {
-    codes.push_back(static_cast<char>(code));
+  for (int times = 0; times < 12; ++times) {
+    codes += EveryByte();
   }
   Send(codes);
   EXPECT_EQ(chip.Received(), codes);
@@ -148,4 +146,4 @@ TEST_F(SendingTest, AHangUpInMidSendAndWhileIdleShowsRedOnceAndTheNextSendTriesA
 }
 
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing

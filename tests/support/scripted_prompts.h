@@ -21,45 +21,37 @@ class ScriptedPrompts : public Prompts {
   PromptAnswer Ask(QWidget*, const QString& zTitle, const QString& zText,
                    PromptButtons zButtons) override {
     asked.push_back({zTitle, zText, zButtons});
-    if (whileOpen) {
-      whileOpen();
-    }
-    if (answers.empty()) {
-      return Closed(zButtons);
-    }
-    const PromptAnswer answer = answers.front();
-    answers.pop_front();
-    return answer;
+    whileOpen();
+    return TakeFirst(answers).value_or(Closed(zButtons));
   }
 
   std::optional<QString> AskText(QWidget*, const QString& zTitle, const QString& zPrompt,
                                  const QString& zInitial) override {
     asked.push_back({zTitle, zPrompt, PromptButtons::OkCancel});
     offered.push_back(zInitial);
-    if (texts.empty()) {
-      return std::nullopt;
-    }
-    const QString text = texts.front();
-    texts.pop_front();
-    return text;
+    return TakeFirst(texts);
   }
 
   std::vector<Asked> asked;
   std::vector<QString> offered;  ///< the texts that input boxes started with
   std::deque<PromptAnswer> answers;
   std::deque<QString> texts;
-  std::function<void()> whileOpen;
+  std::function<void()> whileOpen = [] {};
 
  private:
-  static PromptAnswer Closed(PromptButtons zButtons) {
-    switch (zButtons) {
-      case PromptButtons::Ok:
-        return PromptAnswer::Ok;
-      case PromptButtons::YesNo:
-        return PromptAnswer::No;
-      default:
-        return PromptAnswer::Cancel;
+  template <class Answer>
+  static std::optional<Answer> TakeFirst(std::deque<Answer>& zAnswers) {
+    if (zAnswers.empty()) {
+      return std::nullopt;
     }
+    const Answer first = zAnswers.front();
+    zAnswers.pop_front();
+    return first;
+  }
+  static PromptAnswer Closed(PromptButtons zButtons) {
+    return zButtons == PromptButtons::Ok      ? PromptAnswer::Ok
+           : zButtons == PromptButtons::YesNo ? PromptAnswer::No
+                                              : PromptAnswer::Cancel;
   }
 };
 

@@ -15,15 +15,17 @@ class TurnHost : public SenderHost {
   std::string PortDevice() const override { return device; }
   bool IsFlowControlTicked() const override { return isFlowControlTicked; }
   void ShowPortState(PortState zState) override {
+    portState = zState;
     log += zState == PortState::Open ? "green " : zState == PortState::Closed ? "white " : "red ";
   }
   bool ConfirmLongPhrase() override {
     log += "question ";
-    return answer;
+    ++longPhraseQuestions;
+    return sendsLongPhrases;
   }
-  void StopClosingTimer() override { isClosingSoon = false; }
+  void StopClosingTimer() override { isTimerRunning = false; }
   void StartClosingTimer(int zMilliseconds) override {
-    isClosingSoon = true;
+    isTimerRunning = true;
     closingDelay = zMilliseconds;
   }
   void LetEventsRun(UserInput zInput) override { RunTurn(zInput); }
@@ -35,13 +37,15 @@ class TurnHost : public SenderHost {
 
   std::string device = "scripted";
   bool isFlowControlTicked = true;
-  bool answer = true;
-  bool isClosingSoon = false;
+  bool sendsLongPhrases = true;
+  int longPhraseQuestions = 0;
+  bool isTimerRunning = false;
   bool isTicking = false;
   int closingDelay = 0;
   int waits = 0;
   int turnsWithinEachOther = 0;
   int deepest = 0;
+  PortState portState = PortState::Closed;
   std::string log;
   std::deque<std::function<void()>> acts;
 
