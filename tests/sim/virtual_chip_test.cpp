@@ -5,12 +5,12 @@
 #include <random>
 
 #include "link/scp.h"
+#include "tests/support/rows.h"
 
-namespace loquitor {
+namespace loquitor::testing {
 namespace {
 
 using namespace std::string_literals;
-using Kind = ChipEventKind;
 
 std::string Lines(VirtualChip& zChip, std::string_view zBytes) {
   std::string lines;
@@ -29,81 +29,76 @@ void Store(VirtualChip& zChip, int zSlot, int zStart, std::string_view zCodes) {
   zChip.Receive(write + std::string(scp::Test));
 }
 
-struct LineRow {
-  std::string bytes;
-  std::string lines;
-};
-
 TEST(VirtualChipTest, SaysWhatTheBytesMean) {
-  const LineRow rows[] = {
-      {"", ""},
-      {"\x00\x10\xb7\xfe"s, "code 0 \\P0\ncode 16 \\WAIT\ncode 183 \\HE\ncode 254 \\M2\n"},
-      {"\x14\x00\x1e\xff"s, "control 20 \\VOLUME 0\ncontrol 30 \\DELAY 255\n"},
-      {"\x16\\\x80"s, "control 22 \\PITCH 92\ncode 128 \\IY\n"},  // any byte can be a value
-      {"U\xff\x09 A"s,
-       "sync character U\nunknown: FF  .\nunknown: 09  .\nunknown: 20   \nunknown: 41  A\n"},
-      {"\x1d\x05\x1c\x14"s, "control 29 \\PLAY 5: empty\ncontrol 28 \\CALL 20: empty\n"},
-      {StopSequence() + ConnectionTest(),
-       "SCP reset\ncode 31 \\RESET\ncode 0 \\P0\ncode 31 \\RESET\nSCP test\n"},
-      {MemoryWriteGroup(240, 0xD0) + MemoryWriteGroup(255, 7) + MemoryWriteGroup(237, 1),
-       "SCP memory write: location 240 = 208 (input 0 goes high)\n"
-       "SCP memory write: location 255 = 7 (input 7 goes low)\n"
-       "SCP memory write: location 237 = 1 (power up and reset)\n"},
-      {MemoryWriteGroup(234, 2) + MemoryWriteGroup(0, 255) + std::string(scp::StoreConfiguration),
-       "SCP memory write: location 234 = 2 (phrases)\n"
-       "SCP memory write: location 0 = 255 (start of phrase 0)\n"
-       "SCP store configuration\n"},
-      {RegisterWrite(7, 96) + RegisterWrite(12, 20) + RegisterWrite(1, 3999) +
-           RegisterWrite(8, -5) + RegisterWrite(0, 88) + RegisterWrite(9, 1),
-       "SCP register write: register 7 = 96 (master volume)\n"
-       "SCP register write: register 12 = 20 (volume of oscillator 2)\n"
-       "SCP register write: register 1 = 3999 (frequency of oscillator 1)\n"
-       "SCP register write: register 8 = -5 (envelope control)\n"
-       "SCP register write: register 0 = 88 (envelope frequency)\n"
-       "SCP register write: register 9 = 1 (not used)\n"},
-      // The detune write has no X; what follows is understood all the same.
-      {MemoryWriteGroup(235, 16) + "\x80" + MemoryWriteGroup(235, 255) + RegisterWrite(6, 1),
-       "SCP memory write: location 235 = 16 (clock detune)\ncode 128 \\IY\n"
-       "SCP memory write: location 235 = 255 (clock detune)\n"
-       "SCP register write: register 6 = 1 (distortion)\n"},
-      // What fits no grammar.
-      {"\\5RX", "unknown: 5C  \\\nunknown: 35  5\nunknown: 52  R\nunknown: 58  X\n"},
-      {"\\0QX\x80", "unknown: 5C 30 51  \\0Q\ncode 128 \\IY\n"},
-      {"\\003J", "unknown: 5C 30 30 33 4A  \\003J\n"},            // a leading zero
-      {"\\0256J", "unknown: 5C 30 32 35 36 4A  \\0256J\n"},       // no such location
-      {"\\03J31H", "unknown: 5C 30 33 4A 33 31 48  \\03J31H\n"},  // another address
-      {"\\03J32Hf", "unknown: 5C 30 33 4A 33 32 48 66  \\03J32Hf\n"},
-      {"\\03J32H1FFN", "unknown: 5C 30 33 4A 33 32 48 31 46 46 4E  \\03J32H1FFN\n"},
-      {"\\07J96NX", "unknown: 5C 30 37 4A 39 36 4E  \\07J96N\n"},       // no sign place
-      {"\\016J 1NX", "unknown: 5C 30 31 36 4A 20 31 4E  \\016J 1N\n"},  // no such register
-      {"\\01JRX", "unknown: 5C 30 31 4A 52  \\01JR\n"},
-      {"\\0123456789", "unknown: 5C 30 31 32 33 34 35 36 37 38 39  \\0123456789\n"},
-      {"\\024\\0RX", "incomplete: 5C 30 32 34  \\024\nSCP reset\n"},  // a write cut by Shut Up
-      {"\\0W\0\0\\0RX"s, "incomplete: 5C 30 57 00 00  \\0W..\nSCP reset\n"},
-      {"\\0W\x05"s, "incomplete: 5C 30 57  \\0W\ncode 5 \\P5\n"},
-  };
-  for (const LineRow& row : rows) {
+  for (const auto& [bytes, lines] : Rows<std::string, std::string>{
+           {"", ""},
+           {"\x00\x10\xb7\xfe"s, "code 0 \\P0\ncode 16 \\WAIT\ncode 183 \\HE\ncode 254 \\M2\n"},
+           {"\x14\x00\x1e\xff"s, "control 20 \\VOLUME 0\ncontrol 30 \\DELAY 255\n"},
+           {"\x16\\\x80"s, "control 22 \\PITCH 92\ncode 128 \\IY\n"},  // any byte can be a value
+           {"U\xff\x09 A"s,
+            "sync character U\nunknown: FF  .\nunknown: 09  .\nunknown: 20   \nunknown: 41  A\n"},
+           {"\x1d\x05\x1c\x14"s, "control 29 \\PLAY 5: empty\ncontrol 28 \\CALL 20: empty\n"},
+           {StopSequence() + ConnectionTest(),
+            "SCP reset\ncode 31 \\RESET\ncode 0 \\P0\ncode 31 \\RESET\nSCP test\n"},
+           {MemoryWriteGroup(240, 0xD0) + MemoryWriteGroup(255, 7) + MemoryWriteGroup(237, 1),
+            "SCP memory write: location 240 = 208 (input 0 goes high)\n"
+            "SCP memory write: location 255 = 7 (input 7 goes low)\n"
+            "SCP memory write: location 237 = 1 (power up and reset)\n"},
+           {MemoryWriteGroup(234, 2) + MemoryWriteGroup(0, 255) +
+                std::string(scp::StoreConfiguration),
+            "SCP memory write: location 234 = 2 (phrases)\n"
+            "SCP memory write: location 0 = 255 (start of phrase 0)\n"
+            "SCP store configuration\n"},
+           {RegisterWrite(7, 96) + RegisterWrite(12, 20) + RegisterWrite(1, 3999) +
+                RegisterWrite(8, -5) + RegisterWrite(0, 88) + RegisterWrite(9, 1),
+            "SCP register write: register 7 = 96 (master volume)\n"
+            "SCP register write: register 12 = 20 (volume of oscillator 2)\n"
+            "SCP register write: register 1 = 3999 (frequency of oscillator 1)\n"
+            "SCP register write: register 8 = -5 (envelope control)\n"
+            "SCP register write: register 0 = 88 (envelope frequency)\n"
+            "SCP register write: register 9 = 1 (not used)\n"},
+           // The detune write has no X; what follows is understood all the same.
+           {MemoryWriteGroup(235, 16) + "\x80" + MemoryWriteGroup(235, 255) + RegisterWrite(6, 1),
+            "SCP memory write: location 235 = 16 (clock detune)\ncode 128 \\IY\n"
+            "SCP memory write: location 235 = 255 (clock detune)\n"
+            "SCP register write: register 6 = 1 (distortion)\n"},
+           // What fits no grammar.
+           {"\\5RX", "unknown: 5C  \\\nunknown: 35  5\nunknown: 52  R\nunknown: 58  X\n"},
+           {"\\0QX\x80", "unknown: 5C 30 51  \\0Q\ncode 128 \\IY\n"},
+           {"\\003J", "unknown: 5C 30 30 33 4A  \\003J\n"},            // a leading zero
+           {"\\0256J", "unknown: 5C 30 32 35 36 4A  \\0256J\n"},       // no such location
+           {"\\03J31H", "unknown: 5C 30 33 4A 33 31 48  \\03J31H\n"},  // another address
+           {"\\03J32Hf", "unknown: 5C 30 33 4A 33 32 48 66  \\03J32Hf\n"},
+           {"\\03J32H1FFN", "unknown: 5C 30 33 4A 33 32 48 31 46 46 4E  \\03J32H1FFN\n"},
+           {"\\07J96NX", "unknown: 5C 30 37 4A 39 36 4E  \\07J96N\n"},       // no sign place
+           {"\\016J 1NX", "unknown: 5C 30 31 36 4A 20 31 4E  \\016J 1N\n"},  // no such register
+           {"\\01JRX", "unknown: 5C 30 31 4A 52  \\01JR\n"},
+           {"\\0123456789", "unknown: 5C 30 31 32 33 34 35 36 37 38 39  \\0123456789\n"},
+           {"\\024\\0RX", "incomplete: 5C 30 32 34  \\024\nSCP reset\n"},  // a write cut by Shut Up
+           {"\\0W\0\0\\0RX"s, "incomplete: 5C 30 57 00 00  \\0W..\nSCP reset\n"},
+           {"\\0W\x05"s, "incomplete: 5C 30 57  \\0W\ncode 5 \\P5\n"},
+       }) {
     VirtualChip chip;
-    EXPECT_EQ(Lines(chip, row.bytes), row.lines) << ::testing::PrintToString(row.bytes);
-    EXPECT_EQ(chip.Pending(), std::nullopt) << ::testing::PrintToString(row.bytes);
+    EXPECT_EQ(Lines(chip, bytes), lines) << ::testing::PrintToString(bytes);
+    EXPECT_EQ(chip.Pending(), std::nullopt) << ::testing::PrintToString(bytes);
   }
 }
 
 TEST(VirtualChipTest, KeepsWhatIsWrittenAndNothingElse) {
   VirtualChip chip;
-  EXPECT_EQ(chip.Register(0), 88);
-  EXPECT_EQ(chip.Register(7), 96);
   chip.Receive(MemoryWriteGroup(0, 16) + MemoryWriteGroup(255, 1) + RegisterWrite(15, 31) +
                RegisterWrite(7, 127) + "\\01J32H00\\02J 5");
-  EXPECT_EQ(chip.Eeprom(255), 1);
-  EXPECT_EQ(chip.Eeprom(1), 255);
-  EXPECT_EQ(chip.Register(15), 31);
-  EXPECT_EQ(chip.Register(2), 0);
-  EXPECT_EQ(chip.Register(7), 127);
-  chip.Receive(scp::Reset);
-  EXPECT_EQ(chip.Register(15), 0);
-  EXPECT_EQ(chip.Register(7), 96);
-  EXPECT_EQ(chip.Eeprom(0), 16);
+  for (const auto& [location, value] : Rows<int, int>{{0, 16}, {1, 255}, {255, 1}}) {
+    EXPECT_EQ(chip.Eeprom(location), value) << location;
+  }
+  for (const auto& [number, written, reset] :
+       Rows<int, int, int>{{0, 88, 88}, {2, 0, 0}, {7, 127, 96}, {15, 31, 0}}) {
+    EXPECT_EQ(chip.Register(number), written) << number;
+    VirtualChip again = chip;
+    again.Receive(scp::Reset);
+    EXPECT_EQ(again.Register(number), reset) << number;
+    EXPECT_EQ(again.Eeprom(0), 16);
+  }
 }
 
 TEST(VirtualChipTest, PlaysStoredPhrasesAndTheOnesTheyCall) {
@@ -120,18 +115,15 @@ TEST(VirtualChipTest, PlaysStoredPhrasesAndTheOnesTheyCall) {
 }
 
 TEST(VirtualChipTest, StoredPhrasesEndWithTheirArea) {
-  struct Row {
-    int start;
-    std::size_t length;
-  };
-  for (const Row& row : {Row{255, 0}, Row{235, 0}, Row{234, 1}, Row{230, 5}}) {
+  for (const auto& [start, length] :
+       Rows<std::uint8_t, std::size_t>{{255, 0}, {235, 0}, {234, 1}, {230, 5}}) {
     VirtualChip chip;
-    std::string write = MemoryWriteGroup(0, static_cast<std::uint8_t>(row.start));
+    std::string write = MemoryWriteGroup(0, start);
     for (int location = 1; location < 256; ++location) {
       write += MemoryWriteGroup(location, 128);
     }
     chip.Receive(write);
-    EXPECT_EQ(chip.StoredPhrase(0), std::string(row.length, '\x80')) << row.start;
+    EXPECT_EQ(chip.StoredPhrase(0), std::string(length, '\x80')) << int{start};
   }
   EXPECT_EQ(VirtualChip().StoredPhrase(-1) + VirtualChip().StoredPhrase(16), "");
 }
@@ -154,19 +146,17 @@ TEST(VirtualChipTest, AnyBytesGiveTheSameEventsInAnyPortionsAndNoneIsLost) {
       const bool isLikely = random() % 8 != 0;
       bytes += isLikely ? likely[random() % likely.size()] : static_cast<char>(random() % 256);
     }
-    VirtualChip whole;
     VirtualChip portions;
-    const std::vector<ChipEvent> expected = whole.Receive(bytes);
     std::vector<ChipEvent> events;
     std::string shown;
     for (const char byte : bytes) {
-      for (ChipEvent& event : portions.Receive({&byte, 1})) {
+      for (const ChipEvent& event : portions.Receive({&byte, 1})) {
         shown += event.bytes;
         EXPECT_NE(portions.Describe(event), "");
-        events.push_back(std::move(event));
+        events.push_back(event);
       }
     }
-    ASSERT_EQ(events, expected) << ::testing::PrintToString(bytes);
+    ASSERT_EQ(events, VirtualChip().Receive(bytes)) << ::testing::PrintToString(bytes);
     shown += portions.Pending() ? portions.Pending()->bytes : "";
     // Only an X that ends a sequence belongs to no event.
     std::erase(shown, 'X');
@@ -176,4 +166,4 @@ TEST(VirtualChipTest, AnyBytesGiveTheSameEventsInAnyPortionsAndNoneIsLost) {
 }
 
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing

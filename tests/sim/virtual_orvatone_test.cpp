@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "tests/e2e/child_process.h"
+#include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
 namespace loquitor::testing {
@@ -45,18 +46,16 @@ TEST_F(VirtualOrvatoneTest, PrintsALineAnEventForEveryClientAndShowsHalfACommand
   ChildProcess program(command);
   AwaitLink();
   std::string lines;
-  const struct {
-    std::string bytes, lines;
-  } clients[] = {
-      {"\xb7\x16\x64", "code 183 \\HE\ncontrol 22 \\PITCH 100\n"},
-      {"\0\x1d\n"s, "code 0 \\P0\ncontrol 29 \\PLAY 10: empty\n"},  // both pass through unchanged
-      {"\x16", "incomplete: 16  .\n"},
-      {"\x05", "control 22 \\PITCH 5\n"},  // its rest
-      {"\\0", "incomplete: 5C 30  \\0\n"},
-  };
-  for (const auto& client : clients) {
-    Send(client.bytes);
-    lines += client.lines;
+  for (const auto& [bytes, printed] : Rows<std::string, std::string>{
+           {"\xb7\x16\x64", "code 183 \\HE\ncontrol 22 \\PITCH 100\n"},
+           {"\0\x1d\n"s,
+            "code 0 \\P0\ncontrol 29 \\PLAY 10: empty\n"},  // both pass through unchanged
+           {"\x16", "incomplete: 16  .\n"},
+           {"\x05", "control 22 \\PITCH 5\n"},  // its rest
+           {"\\0", "incomplete: 5C 30  \\0\n"},
+       }) {
+    Send(bytes);
+    lines += printed;
     ExpectPrinted(program, lines);
   }
   program.Signal(SIGTERM);
@@ -108,25 +107,20 @@ TEST_F(VirtualOrvatoneTest, LetsTheDeviceBeOpenedAgainAfterAClientDiedThatHadItF
 TEST_F(VirtualOrvatoneTest, RefusesWhatItCannotDo) {
   WriteBytes(folder / "file", "precious");
   fs::create_symlink(folder / "file", folder / "link");
-  const struct {
-    std::vector<std::string> arguments;
-    int status;
-    std::string message;
-  } rows[] = {
-      {{"--link", (folder / "file").string()}, 1, "exists already"},
-      {{"--link", (folder / "link").string()}, 1, "exists already"},
-      {{"--link", (folder / "none" / "x").string()}, 1, "cannot make the link"},
-      {{"--link"}, 2, "--link needs a path"},
-      {{"--link="}, 2, "--link needs a path"},
-      {{"--port", "3"}, 2, "unknown argument: --port"},
-      {{"--help"}, 0, "Usage: virtual-orvatone [--link PATH]"},
-  };
-  for (const auto& row : rows) {
+  for (const auto& [arguments, status, message] : Rows<std::vector<std::string>, int, std::string>{
+           {{"--link", (folder / "file").string()}, 1, "exists already"},
+           {{"--link", (folder / "link").string()}, 1, "exists already"},
+           {{"--link", (folder / "none" / "x").string()}, 1, "cannot make the link"},
+           {{"--link"}, 2, "--link needs a path"},
+           {{"--link="}, 2, "--link needs a path"},
+           {{"--port", "3"}, 2, "unknown argument: --port"},
+           {{"--help"}, 0, "Usage: virtual-orvatone [--link PATH]"},
+       }) {
     std::vector<std::string> shell = {"sh", "-c", "\"$0\" \"$@\" 2>&1", VIRTUAL_ORVATONE};
-    shell.insert(shell.end(), row.arguments.begin(), row.arguments.end());
+    shell.insert(shell.end(), arguments.begin(), arguments.end());
     ChildProcess program(shell);
-    EXPECT_EQ(program.WaitForEnd(), row.status) << row.message;
-    EXPECT_NE(program.Output().find(row.message), std::string::npos) << program.Output();
+    EXPECT_EQ(program.WaitForEnd(), status) << message;
+    EXPECT_NE(program.Output().find(message), std::string::npos) << program.Output();
   }
   EXPECT_EQ(ReadBytes(folder / "file"), "precious");
   EXPECT_TRUE(fs::is_symlink(folder / "link"));
