@@ -38,15 +38,10 @@ TEST_F(DictionaryTest, TellsAMissingWordFromAnEmptyOne) {
   Given(
       "[WORDS]\r\nHello=\\HE \\EH\r\nempty=\r\nblank= \t\r\nquoted=\" \\HE \0 \0\"\r\n"
       "only=\" \0 \"\r\ntwice=1\r\nTWICE=2\r\n"sv);
-  for (const auto& [word, entry] : Rows<Text, Text>{{"hello", "\\HE \\EH"},
-                                                    {" HELLO ", "\\HE \\EH"},
-                                                    {"empty", ""},
-                                                    {"blank", ""},
-                                                    {"quoted", "\\HE"},
-                                                    {"only", ""},
-                                                    {"twice", "1"},
-                                                    {"none", "NoEntry"},
-                                                    {"", "NoEntry"}}) {
+  const Rows<Text, Text> rows{{"hello", "\\HE \\EH"}, {" HELLO ", "\\HE \\EH"}, {"empty", ""},
+                              {"blank", ""},          {"quoted", "\\HE"},       {"only", ""},
+                              {"twice", "1"},         {"none", "NoEntry"},      {"", "NoEntry"}};
+  for (const auto& [word, entry] : rows) {
     EXPECT_EQ(Get(word), entry) << word;
     EXPECT_EQ(DictionaryStore::EntryIn(*FreshIndexOf(dictionary.File()), word),
               entry == "NoEntry" ? "" : entry)
@@ -73,22 +68,20 @@ TEST_F(DictionaryTest, TheNextWordFollowsTheOrderOfTheBytesAndStartsAgainBehindT
   Given(
       "[words]\r\ndog=\\DD\r\nApple=\\AE\r\n  cat \t=\r\napple=twice\r\n[a=b]\r\n;no=1\n"
       "\xC9t\xE9=1\rzzzzzzzzz!!!=no\r\nzzzzzzzzzz=no\r\nZZ=1\nno sign\n=x\n  =y\n");
-  for (const auto& [current, next] : Rows<Text, Text>{
-           {"", ";no"},
-           {";no", "[a"},
-           {"[a", "apple"},
-           {"apple", "cat"},
-           {"APPLE", "cat"},
-           {"b", "cat"},
-           {" cat", ";no"},
-           {"cat", "dog"},
-           {"cat ", "dog"},
-           {"dog", "zz"},
-           {"zz", ";no"},
-           {"\xC9", ";no"},
-           {"\xE9t\xE9", ";no"},
-           {"zzzzzzzzz!!!", ";no"},
-       }) {
+  for (const auto& [current, next] : Rows<Text, Text>{{"", ";no"},
+                                                      {";no", "[a"},
+                                                      {"[a", "apple"},
+                                                      {"apple", "cat"},
+                                                      {"APPLE", "cat"},
+                                                      {"b", "cat"},
+                                                      {" cat", ";no"},
+                                                      {"cat", "dog"},
+                                                      {"cat ", "dog"},
+                                                      {"dog", "zz"},
+                                                      {"zz", ";no"},
+                                                      {"\xC9", ";no"},
+                                                      {"\xE9t\xE9", ";no"},
+                                                      {"zzzzzzzzz!!!", ";no"}}) {
     EXPECT_EQ(Next(current), next) << current;
   }
 }

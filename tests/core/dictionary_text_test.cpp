@@ -41,13 +41,10 @@ TEST(DictionaryText, EveryKindOfLineEndBecomesOneLineBreakAndIsSavedAsCrLf) {
 }
 
 TEST(DictionaryText, TheExtentCountsLinesAndFindsTheLongest) {
-  for (const auto& [text, lines, longestLine, longestAt] :
-       Rows<std::string, std::size_t, std::size_t, std::size_t>{{"", 1, 0, 1},
-                                                                {"ab", 1, 2, 1},
-                                                                {"\n", 2, 0, 1},
-                                                                {"a\nbcd\n", 3, 3, 2},
-                                                                {"ab\ncd\ne", 3, 2, 1},
-                                                                {"\n\n\xFF\0c"s, 3, 3, 3}}) {
+  const Rows<std::string, std::size_t, std::size_t, std::size_t> rows{
+      {"", 1, 0, 1},         {"ab", 1, 2, 1},        {"\n", 2, 0, 1},
+      {"a\nbcd\n", 3, 3, 2}, {"ab\ncd\ne", 3, 2, 1}, {"\n\n\xFF\0c"s, 3, 3, 3}};
+  for (const auto& [text, lines, longestLine, longestAt] : rows) {
     const TextExtent extent = ExtentOf(text);
     EXPECT_EQ(extent.lines, lines) << text;
     EXPECT_EQ(extent.longestLine, longestLine) << text;

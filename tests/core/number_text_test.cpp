@@ -55,13 +55,9 @@ TEST(NumberTextTest, DoesNotDependOnTheLocale) {
 }
 
 TEST(NumberTextTest, RoundsToTheNearestWholeNumberHalvesToEven) {
-  for (const auto& [text, whole] : Rows<const char*, int>{{"2.5", 2},
-                                                          {"3.5", 4},
-                                                          {"-2.5", -2},
-                                                          {"-3.5", -4},
-                                                          {"0.5", 0},
-                                                          {"2.4999", 2},
-                                                          {"2.5001", 3}}) {
+  const Rows<const char*, int> rows{{"2.5", 2}, {"3.5", 4},    {"-2.5", -2}, {"-3.5", -4},
+                                    {"0.5", 0}, {"2.4999", 2}, {"2.5001", 3}};
+  for (const auto& [text, whole] : rows) {
     EXPECT_EQ(WholeNumberAtStart(text), whole) << text;
   }
   EXPECT_EQ(WholeNumberAtStart("0.49999999999999994"), 0);

@@ -58,13 +58,12 @@ class SayDataTest : public ::testing::Test {
 
 TEST_F(SayDataTest, MnemonicsAreFoundInAnyLetterCaseAndNothingElseIs) {
   for (const auto& [mnemonic, index] : Rows<Text, int>{
-           {"\\P0", 0},       {"\\p6", 6},     {"\\Fast", 7},    {"\\STRESS", 14}, {"\\bend", 23},
-           {"\\RESET", 31},   {"\\IY", 128},   {"\\iy", 128},    {"\\PO", 199},    {"\\c9", 239},
-           {"\\D10", 250},    {"\\M2", 254},   {"\\NTC1", 301},  {"\\ntb1", 312},  {"\\NTF#2", 327},
-           {"\\NTB3", 352},   {"IY", 401},     {"", 401},        {"\\", 401},      {"\\D12", 401},
-           {"\\P7", 401},     {"\\NTC4", 401}, {"\\NTE#1", 401}, {"\\IY ", 401},   {"\\\\IY", 401},
-           {"\\HE\xCC", 401},
-       }) {
+           {"\\P0", 0},      {"\\p6", 6},     {"\\Fast", 7},    {"\\STRESS", 14}, {"\\bend", 23},
+           {"\\RESET", 31},  {"\\IY", 128},   {"\\iy", 128},    {"\\PO", 199},    {"\\c9", 239},
+           {"\\D10", 250},   {"\\M2", 254},   {"\\NTC1", 301},  {"\\ntb1", 312},  {"\\NTF#2", 327},
+           {"\\NTB3", 352},  {"IY", 401},     {"", 401},        {"\\", 401},      {"\\D12", 401},
+           {"\\P7", 401},    {"\\NTC4", 401}, {"\\NTE#1", 401}, {"\\IY ", 401},   {"\\\\IY", 401},
+           {"\\HE\xCC", 401}}) {
     EXPECT_EQ(table.GetCodeIndex(mnemonic), index) << mnemonic;
   }
   for (int index = -1; index < 402; ++index) {
@@ -119,31 +118,29 @@ TEST_F(SayDataTest, WordsAndPausesAreExpanded) {
   GivenDictionary(
       "hi=\\HE \\EH\r\nwo=\\WW,\\LO\r\nboth=hi  wo\r\ncommas=\\IY,,\r\na=b\r\nb=A\r\n"
       "self=\\IY SELF \\EH\r\nempty=\r\n100=\\UW\r\nx\\IY=\\OW\r\ndont=\\DO\r\n");
-  for (const auto& [text, result] : Rows<Text, Text>{
-           {"", ""},
-           {"\\iy\\EH", "\\iy\\EH"},
-           {"  \\IY", " \\P6\\IY"},
-           {"   \\IY", " \\P4 \\P1\\IY"},
-           {"\\IY      \\EH", "\\IY \\P4 \\P1\\EH"},
-           {"\\IY  ", "\\IY"},
-           {"\\IY, ", "\\IY \\P2"},
-           {"\\IY,,,", "\\IY \\P2 \\P2 \\P2"},
-           {"Hi", "\\HE\\EH"},
-           {"hi,  wo", "\\HE\\EH \\P2 \\P6\\WW \\P2\\LO"},
-           {"both", "\\HE\\EH \\P6\\WW \\P2\\LO"},
-           {"h\r\n\ti", "\\HE\\EH"},
-           {"h\xE9i", "\\HE\\EH"},
-           {"hi.wo", ""},
-           {"don't", "\\DO"},
-           {"\\IY . \\EH", "\\IY \\P6\\EH"},
-           {".,. ", " \\P2"},
-           {"commas,\\UW", "\\IY \\P2 \\P2 \\P2\\UW"},
-           {"100 \\100", "\\UW\\100"},
-           {"x\\iy", "\\OW"},
-           {"\\xhi hi", "\\xhi\\HE\\EH"},
-           {"B unknown empty \\IY", "\\IY"},
-           {"Self self", "\\IY\\EH\\IY\\EH"},
-       }) {
+  for (const auto& [text, result] : Rows<Text, Text>{{"", ""},
+                                                     {"\\iy\\EH", "\\iy\\EH"},
+                                                     {"  \\IY", " \\P6\\IY"},
+                                                     {"   \\IY", " \\P4 \\P1\\IY"},
+                                                     {"\\IY      \\EH", "\\IY \\P4 \\P1\\EH"},
+                                                     {"\\IY  ", "\\IY"},
+                                                     {"\\IY, ", "\\IY \\P2"},
+                                                     {"\\IY,,,", "\\IY \\P2 \\P2 \\P2"},
+                                                     {"Hi", "\\HE\\EH"},
+                                                     {"hi,  wo", "\\HE\\EH \\P2 \\P6\\WW \\P2\\LO"},
+                                                     {"both", "\\HE\\EH \\P6\\WW \\P2\\LO"},
+                                                     {"h\r\n\ti", "\\HE\\EH"},
+                                                     {"h\xE9i", "\\HE\\EH"},
+                                                     {"hi.wo", ""},
+                                                     {"don't", "\\DO"},
+                                                     {"\\IY . \\EH", "\\IY \\P6\\EH"},
+                                                     {".,. ", " \\P2"},
+                                                     {"commas,\\UW", "\\IY \\P2 \\P2 \\P2\\UW"},
+                                                     {"100 \\100", "\\UW\\100"},
+                                                     {"x\\iy", "\\OW"},
+                                                     {"\\xhi hi", "\\xhi\\HE\\EH"},
+                                                     {"B unknown empty \\IY", "\\IY"},
+                                                     {"Self self", "\\IY\\EH\\IY\\EH"}}) {
     EXPECT_EQ(Expand(text), result) << ::testing::PrintToString(text);
   }
 }
@@ -158,22 +155,21 @@ TEST_F(SayDataTest, MnemonicTextIsSplitIntoTokensAndTheseIntoCodes) {
                                                      {"\\\xE9\\IY", " \\IY"}}) {
     EXPECT_EQ(NormalizeCodeText(text), result) << text;
   }
-  for (const auto& [text, codes] : Rows<Text, Text>{
-           {"", ""},
-           {"\\PITCH 100", "22"},
-           {"\\PITCH,\\100", "22, 2, 100"},
-           {"  \\IY   \\EH,,", "6, 128, 4, 1, 131, 2, 2"},
-           {"\\0", "0"},
-           {"\\00 \\0E5 \\0D0", ""},
-           {"\\255 \\256 \\9", "255, 9"},
-           {"\\300\\IY", "128"},
-           {"\\1E2 \\1D2 \\1e1 \\25d0", "100, 100, 10, 25"},
-           {"\\1E3 \\1E400 \\1E99999999999999999999 \\7", "7"},
-           {"\\5A \\1E \\1EX \\12#3", "5, 1, 1, 12"},
-           {"\\D10 \\D11 \\D12 \\D2", "250, 251, 242"},  // no exponents of nothing
-           {"\\NTA2\\ntf#2", "22, 110, 22, 93"},
-           {"\\# \\ \\\\ \\IY\\ZZ", "128, 167"},
-       }) {
+  for (const auto& [text, codes] :
+       Rows<Text, Text>{{"", ""},
+                        {"\\PITCH 100", "22"},
+                        {"\\PITCH,\\100", "22, 2, 100"},
+                        {"  \\IY   \\EH,,", "6, 128, 4, 1, 131, 2, 2"},
+                        {"\\0", "0"},
+                        {"\\00 \\0E5 \\0D0", ""},
+                        {"\\255 \\256 \\9", "255, 9"},
+                        {"\\300\\IY", "128"},
+                        {"\\1E2 \\1D2 \\1e1 \\25d0", "100, 100, 10, 25"},
+                        {"\\1E3 \\1E400 \\1E99999999999999999999 \\7", "7"},
+                        {"\\5A \\1E \\1EX \\12#3", "5, 1, 1, 12"},
+                        {"\\D10 \\D11 \\D12 \\D2", "250, 251, 242"},  // no exponents of nothing
+                        {"\\NTA2\\ntf#2", "22, 110, 22, 93"},
+                        {"\\# \\ \\\\ \\IY\\ZZ", "128, 167"}}) {
     EXPECT_EQ(Codes(text), codes) << text;
   }
   // Text that no expansion makes: a first token without its backslash.

@@ -109,16 +109,12 @@ TEST_F(CodeSenderTest, EveryByteGoesOutAsGivenAndTheClosingTimerStarts) {
 }
 
 TEST_F(CodeSenderTest, OnlyLongPhrasesWithoutFlowControlAsk) {
-  for (const auto& [length, isPhrase, isTicked, answer, log, sent] :
-       Rows<std::size_t, bool, bool, bool, Text, std::size_t>{
-           {0, true, false, false, "green ", 0},
-           {64, true, false, false, "green ", 64},
-           {65, true, false, false, "question ", 0},
-           {65, true, false, true, "question green ", 65},
-           {200, true, true, false, "green ", 200},
-           {5000, false, false, false, "green ", 5000},
-           {65, true, false, false, "question ", 0},
-       }) {
+  const Rows<std::size_t, bool, bool, bool, Text, std::size_t> rows{
+      {0, true, false, false, "green ", 0},     {64, true, false, false, "green ", 64},
+      {65, true, false, false, "question ", 0}, {65, true, false, true, "question green ", 65},
+      {200, true, true, false, "green ", 200},  {5000, false, false, false, "green ", 5000},
+      {65, true, false, false, "question ", 0}};
+  for (const auto& [length, isPhrase, isTicked, answer, log, sent] : rows) {
     host.isFlowControlTicked = isTicked;
     host.sendsLongPhrases = answer;
     sender.SendCodesToOrvatone(std::string(length, 'x'), isPhrase);

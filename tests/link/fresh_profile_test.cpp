@@ -100,8 +100,7 @@ TEST_F(FreshProfileTest, TrustsNoStampThatIsTooYoung) {
            {100 * second + 1, 99 * second, false},  // the clock was set back
            {100 * second, 101 * second, false},     // counts whole seconds
            {100 * second, 102 * second, false},     // counts them two at a time
-           {100 * second, 103 * second, true},
-       }) {
+           {100 * second, 103 * second, true}}) {
     EXPECT_EQ(IsSettled({1, 2, 3, 0, changed}, now), isSettled) << now;
   }
   WriteBytes(file, Text("1"));

@@ -65,8 +65,7 @@ TEST_F(ProfileFileTest, ReadsTheFirstKeyOfTheFirstSectionThatMatches) {
            {"[s]\nk=a\0b\n"sv, "s", "k", "a\0b"sv},
            {"[s]\n\0=1\nk\0=2\nk=3"sv, "s", "k\0"sv, "2"},
            {"[s", "s", "k", "default"},
-           {"[s]\nk=1", "s\nk", "k", "default"},
-       }) {
+           {"[s]\nk=1", "s\nk", "k", "default"}}) {
     Given(text);
     EXPECT_EQ(Read(section, key), value) << ::testing::PrintToString(text);
   }
@@ -146,15 +145,10 @@ TEST_F(ProfileFileTest, WritesManyValuesAsOneAfterTheOtherWould) {
 }
 
 TEST_F(ProfileFileTest, RefusesNamesThatTheFormatCannotHold) {
-  for (const auto& [section, key] : Rows<Text, Text>{{"s", " \t"},
-                                                     {"s", "a=b"},
-                                                     {"s", "a\nb"},
-                                                     {"s", "a\r"},
-                                                     {"s", " [a]"},
-                                                     {"s", "\t;"},
-                                                     {"a]b", "k"},
-                                                     {"a\nb", "k"},
-                                                     {"\r", "k"}}) {
+  const Rows<Text, Text> rows{{"s", " \t"}, {"s", "a=b"},  {"s", "a\nb"},
+                              {"s", "a\r"}, {"s", " [a]"}, {"s", "\t;"},
+                              {"a]b", "k"}, {"a\nb", "k"}, {"\r", "k"}};
+  for (const auto& [section, key] : rows) {
     std::filesystem::remove(file);
     EXPECT_FALSE(Write(section, key, "1")) << section << '/' << key;
     EXPECT_THAT(folder.Names(), ::testing::IsEmpty());

@@ -35,8 +35,7 @@ TEST_F(SettingsFileTest, ReadsTrimmedValuesAndFallsBackToTheDefault) {
            {"[Serial]\nPort=\" a\0 \0\0\"\n"sv, "1", "a"},
            {"[Serial]\nPort=\0\0\n"sv, "1", "1"},
            {"[Other]\nPort=3\n", " 1 ", "1"},  // a default that is read is trimmed like a value
-           {"[Other]\nPort=3\n", "   ", "   "},
-       }) {
+           {"[Other]\nPort=3\n", "   ", "   "}}) {
     WriteBytes(folder / "Loquitor.ini", text);
     EXPECT_EQ(settings.GetIniValue("Serial", "Port", fallback), value) << text;
     WriteBytes(folder / "OTSounds.txt", text);

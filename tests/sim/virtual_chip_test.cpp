@@ -76,8 +76,7 @@ TEST(VirtualChipTest, SaysWhatTheBytesMean) {
            {"\\0123456789", "unknown: 5C 30 31 32 33 34 35 36 37 38 39  \\0123456789\n"},
            {"\\024\\0RX", "incomplete: 5C 30 32 34  \\024\nSCP reset\n"},  // a write cut by Shut Up
            {"\\0W\0\0\\0RX"s, "incomplete: 5C 30 57 00 00  \\0W..\nSCP reset\n"},
-           {"\\0W\x05"s, "incomplete: 5C 30 57  \\0W\ncode 5 \\P5\n"},
-       }) {
+           {"\\0W\x05"s, "incomplete: 5C 30 57  \\0W\ncode 5 \\P5\n"}}) {
     VirtualChip chip;
     EXPECT_EQ(Lines(chip, bytes), lines) << ::testing::PrintToString(bytes);
     EXPECT_EQ(chip.Pending(), std::nullopt) << ::testing::PrintToString(bytes);

@@ -52,8 +52,7 @@ TEST_F(VirtualOrvatoneTest, PrintsALineAnEventForEveryClientAndShowsHalfACommand
             "code 0 \\P0\ncontrol 29 \\PLAY 10: empty\n"},  // both pass through unchanged
            {"\x16", "incomplete: 16  .\n"},
            {"\x05", "control 22 \\PITCH 5\n"},  // its rest
-           {"\\0", "incomplete: 5C 30  \\0\n"},
-       }) {
+           {"\\0", "incomplete: 5C 30  \\0\n"}}) {
     Send(bytes);
     lines += printed;
     ExpectPrinted(program, lines);
@@ -114,8 +113,7 @@ TEST_F(VirtualOrvatoneTest, RefusesWhatItCannotDo) {
            {{"--link"}, 2, "--link needs a path"},
            {{"--link="}, 2, "--link needs a path"},
            {{"--port", "3"}, 2, "unknown argument: --port"},
-           {{"--help"}, 0, "Usage: virtual-orvatone [--link PATH]"},
-       }) {
+           {{"--help"}, 0, "Usage: virtual-orvatone [--link PATH]"}}) {
     std::vector<std::string> shell = {"sh", "-c", "\"$0\" \"$@\" 2>&1", VIRTUAL_ORVATONE};
     shell.insert(shell.end(), arguments.begin(), arguments.end());
     ChildProcess program(shell);

@@ -215,13 +215,11 @@ TEST_F(TextBoxes, LoseTheFocusToAnotherControlButNotToAMenuOrAnotherProgram) {
   EXPECT_EQ(fromArea.count(), 1);
   fromArea.clear();
   fromBox.clear();
-  for (const auto& [reason, isLoss] :
-       Rows<Qt::FocusReason, bool>{{Qt::MouseFocusReason, true},
-                                   {Qt::TabFocusReason, true},
-                                   {Qt::OtherFocusReason, true},
-                                   {Qt::ActiveWindowFocusReason, false},
-                                   {Qt::PopupFocusReason, false},
-                                   {Qt::MenuBarFocusReason, false}}) {
+  const Rows<Qt::FocusReason, bool> rows{
+      {Qt::MouseFocusReason, true},  {Qt::TabFocusReason, true},
+      {Qt::OtherFocusReason, true},  {Qt::ActiveWindowFocusReason, false},
+      {Qt::PopupFocusReason, false}, {Qt::MenuBarFocusReason, false}};
+  for (const auto& [reason, isLoss] : rows) {
     for (QWidget* each : both) {
       QFocusEvent out(QEvent::FocusOut, reason);
       QCoreApplication::sendEvent(each, &out);
