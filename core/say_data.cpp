@@ -7,6 +7,8 @@
 #include "core/number_text.h"
 #include "core/upper_case.h"
 #include "core/words.h"
+#include "link/fresh_profile.h"
+#include "link/profile_index.h"
 
 namespace loquitor {
 
@@ -46,8 +48,10 @@ SayDataTranslator::SayDataTranslator(const CodeTable& zCodeTable,
     : codeTable_(zCodeTable), dictionary_(zDictionary) {}
 
 std::string SayDataTranslator::ExpandSayData(std::string_view zSayData) const {
-  const auto entryOf = [this](std::string_view zWord) {
-    return dictionary_.GetDictionaryValue(DictionaryStore::Section, zWord, "");
+  // Held for all words, so that they come from one state of the file, which is looked at once.
+  const auto index = FreshIndexOf(dictionary_.File());
+  const auto entryOf = [&index](std::string_view zWord) {
+    return std::string(index ? DictionaryStore::EntryIn(*index, zWord) : std::string_view());
   };
   return ExpandWords(zSayData, entryOf, MaxExpansion);
 }

@@ -16,7 +16,8 @@ class SayDataTranslator {
 
   /// Replaces the dictionary words of `zSayData` by their entries, recursively, and pauses by their
   /// mnemonics; the result is mnemonic text. A word that is being expanded counts as missing, and
-  /// what would make the result longer than MaxExpansion is dropped. Never fails.
+  /// what would make the result longer than MaxExpansion is dropped. All words come from one state
+  /// of the dictionary, that at the call. Never fails.
   std::string ExpandSayData(std::string_view zSayData) const;
 
   /// The code string (one byte a code) of mnemonic text as ExpandSayData makes it. Tokens that are
