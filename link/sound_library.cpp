@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "link/fresh_profile.h"
-#include "link/profile_file.h"
 #include "link/trimmed_profile.h"
 
 namespace loquitor {
@@ -21,12 +20,12 @@ std::string SoundLibrary::GetSoundValue(std::string_view zSection, std::string_v
 
 bool SoundLibrary::SaveSoundValue(std::string_view zSection, std::string_view zKey,
                                   int zValue) const {
-  return SaveSoundValue(zSection, zKey, std::string_view(std::to_string(zValue)));
+  return WriteProfileValue(zSection, zKey, std::to_string(zValue), File());
 }
 
-bool SoundLibrary::SaveSoundValue(std::string_view zSection, std::string_view zKey,
-                                  std::string_view zValue) const {
-  return WriteProfileValue(zSection, zKey, zValue, File());
+bool SoundLibrary::SaveSoundValues(std::string_view zSection,
+                                   std::span<const ProfileValue> zEntries) const {
+  return WriteProfileValues(zSection, zEntries, File());
 }
 
 std::vector<std::string> SoundLibrary::SoundNames() const {

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "link/profile_file.h"
 
 namespace loquitor {
 
@@ -22,8 +25,10 @@ class SoundLibrary {
   /// Stores `zValue`, in decimal, under `zSection`, `zKey`. False when it could not be stored: the
   /// file cannot be written, or the name cannot be held (a closing bracket or a line break in it).
   bool SaveSoundValue(std::string_view zSection, std::string_view zKey, int zValue) const;
-  bool SaveSoundValue(std::string_view zSection, std::string_view zKey,
-                      std::string_view zValue) const;
+
+  /// Stores many values of `zSection`, each as SaveSoundValue would, in one change of the file, so
+  /// that it never holds half a sound. False when they could not be stored; none of them is then.
+  bool SaveSoundValues(std::string_view zSection, std::span<const ProfileValue> zEntries) const;
 
   /// The names of the sounds, in the order of the file.
   std::vector<std::string> SoundNames() const;

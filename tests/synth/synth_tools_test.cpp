@@ -1,8 +1,11 @@
 // The tools of the synth control window and its sound library.
 
+#include <sys/resource.h>
+
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QWheelEvent>
+#include <csignal>
 #include <filesystem>
 
 #include "tests/synth/synth_test.h"
@@ -75,6 +78,16 @@ TEST_F(SynthTest, ASoundIsSavedUnderItsNameAndNothingIsSent) {
       "Freq3=3999\r\nVol3=0\r\nFreq4=0\r\nVol4=0\r\nFreq5=0\r\nVol5=0\r\n";
   EXPECT_EQ(ReadBytes(Library()), first);
   EXPECT_EQ(Sent(), "");
+
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+  rlimit before{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+  const rlimit full{first.size() + 40, before.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+  Box("txtSound")->setText("Drum");
+  Click("btnSave");
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+  EXPECT_EQ(ReadBytes(Library()), first) << "no half of a sound on a full disk";
 }
 
 TEST_F(SynthTest, LoadingWritesOnlyWhatDiffersOscillatorByOscillator) {

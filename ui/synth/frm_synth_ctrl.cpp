@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "core/number_text.h"
 #include "ui/synth/name_completion.h"
@@ -226,14 +227,14 @@ void FrmSynthCtrl::Command1_Click() {
 
 void FrmSynthCtrl::FreqAdj_Rebase() {
   for (int i = 1; i <= synth::ToneCount; ++i) {
-    freqAdjBase_[static_cast<std::size_t>(i)] = scFreq(i)->value();
+    FreqAdjBase_[static_cast<std::size_t>(i)] = scFreq(i)->value();
   }
   form_.Get<ScrollBar>("scFreqAdjTone")->setValue(NeutralAdjustment);
 }
 
 void FrmSynthCtrl::VolAdj_Rebase() {
   for (int i = 1; i <= synth::ToneCount; ++i) {
-    volAdjBase_[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(scVol(i)->value());
+    VolAdjBase_[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(scVol(i)->value());
   }
   form_.Get<ScrollBar>("scVolAdjTone")->setValue(NeutralAdjustment);
 }
@@ -242,7 +243,7 @@ void FrmSynthCtrl::scFreqAdjTone_Change() {
   const auto* bar = form_.Get<ScrollBar>("scFreqAdjTone");
   const int turn = oscillatorTurn_;
   for (int i = 1; i <= synth::ToneCount && turn == oscillatorTurn_; ++i) {
-    scFreq(i)->setValue(AdjustedFrequency(freqAdjBase_[static_cast<std::size_t>(i)], bar->value()));
+    scFreq(i)->setValue(AdjustedFrequency(FreqAdjBase_[static_cast<std::size_t>(i)], bar->value()));
   }
 }
 
@@ -250,7 +251,7 @@ void FrmSynthCtrl::scVolAdjTone_Change() {
   const auto* bar = form_.Get<ScrollBar>("scVolAdjTone");
   const int turn = oscillatorTurn_;
   for (int i = 1; i <= synth::ToneCount && turn == oscillatorTurn_; ++i) {
-    scVol(i)->setValue(AdjustedVolume(volAdjBase_[static_cast<std::size_t>(i)], bar->value()));
+    scVol(i)->setValue(AdjustedVolume(VolAdjBase_[static_cast<std::size_t>(i)], bar->value()));
   }
 }
 
@@ -285,13 +286,13 @@ void FrmSynthCtrl::btnSave_Click() {
   if (!IsNameUsable()) {
     return;
   }
-  const std::string name = form_.Get<TextBox>("txtSound")->Text();
+  std::vector<ProfileValue> sound;
   for (int i = 1; i <= synth::OscillatorCount; ++i) {
-    // A library that cannot be written stays as it was, without a message.
-    static_cast<void>(
-        library_.SaveSoundValue(name, "Freq" + std::to_string(i), scFreq(i)->value()));
-    static_cast<void>(library_.SaveSoundValue(name, "Vol" + std::to_string(i), scVol(i)->value()));
+    sound.push_back({"Freq" + std::to_string(i), std::to_string(scFreq(i)->value())});
+    sound.push_back({"Vol" + std::to_string(i), std::to_string(scVol(i)->value())});
   }
+  // A library that cannot be written stays as it was, without a message.
+  static_cast<void>(library_.SaveSoundValues(form_.Get<TextBox>("txtSound")->Text(), sound));
 }
 
 void FrmSynthCtrl::btnShutUp_Click() {

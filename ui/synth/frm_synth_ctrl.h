@@ -88,8 +88,8 @@ class FrmSynthCtrl : public ToolWindow {
   Form form_;
   std::array<ValueControl, 16> valueControls_{};  // by register
   OptionGroup* envelopeTypes_ = nullptr;
-  std::array<std::int32_t, synth::ToneCount + 1> freqAdjBase_{};  // by oscillator
-  std::array<std::int16_t, synth::ToneCount + 1> volAdjBase_{};
+  std::array<std::int32_t, synth::ToneCount + 1> FreqAdjBase_{};  // by oscillator
+  std::array<std::int16_t, synth::ToneCount + 1> VolAdjBase_{};
   int oscillatorTurn_ = 0;  // how often all oscillators have been set at once
   bool isFocusOnItsWay_ = false;
 };
