@@ -134,8 +134,11 @@ bool Fill(const Descriptor& zFile, std::string_view zBytes,
     return false;
   }
   if (zOwnership) {
-    // Only an administrator may give files away; for everyone else the file is theirs from now on.
-    static_cast<void>(!fchown(zFile.Number(), zOwnership->user, zOwnership->group));
+    // Only an administrator may give files away; for everyone else the file is theirs from now on,
+    // and stays their group's if they are in it.
+    if (fchown(zFile.Number(), zOwnership->user, zOwnership->group) != 0) {
+      static_cast<void>(!fchown(zFile.Number(), static_cast<uid_t>(-1), zOwnership->group));
+    }
     if (fchmod(zFile.Number(), zOwnership->permissions) != 0) {
       return false;
     }

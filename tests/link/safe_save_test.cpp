@@ -1,6 +1,7 @@
 // Saving when things go wrong: other programs, kills, full disks, folders that may not be written.
 
 #include <gmock/gmock.h>
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -181,6 +182,17 @@ TEST_F(SafeSaveTest, PermissionsAndOwnerAreKeptAndNewFilesFollowTheMask) {
     EXPECT_EQ(StatusOf(file).st_uid, before.st_uid);
     EXPECT_EQ(StatusOf(file).st_gid, before.st_gid);
     EXPECT_NE(StatusOf(file).st_ino, before.st_ino);  // swapped, not written over
+    fs::remove(file);
+  }
+  if (geteuid() == 0) {  // else there is no other user to share a file with
+    static constexpr gid_t everyones = 54321;
+    WriteBytes(file, "");
+    ASSERT_EQ(chmod(file.c_str(), 0664) + chmod(folder.Path().c_str(), 0777), 0);
+    ASSERT_EQ(chown(file.c_str(), 12345, everyones), 0);
+    EXPECT_TRUE(InChild([this] {
+      return setgroups(1, &everyones) + setgid(12346) + setuid(12346) == 0 && Save("k", "1");
+    }));
+    EXPECT_EQ(StatusOf(file).st_gid, everyones);
     fs::remove(file);
   }
   const mode_t mask = umask(027);
