@@ -69,13 +69,17 @@ std::string DeviceOfEntry(const std::string& zEntry, const SettingsFile& zSettin
   return (zSettings.Folder() / zEntry).string();
 }
 
-/// What the tooltip says about `zDevice`; empty when it is not there.
+/// What the tooltip says about `zDevice`; empty when it is not there. A link to a device is
+/// described like the device.
 std::string DescribeDevice(const std::string& zDevice, const std::vector<SerialDevice>& zPresent) {
-  if (const auto device = FindByPath(zDevice, zPresent)) {
-    return device->description.empty() ? zDevice : zDevice + "  " + device->description;
+  std::error_code error;
+  const auto target = std::filesystem::canonical(zDevice, error);  // empty where there is nothing
+  auto device = FindByPath(zDevice, zPresent);
+  device = device ? device : FindByPath(target.string(), zPresent);
+  if (!device) {
+    return target.empty() ? std::string() : zDevice;
   }
-  std::error_code ignored;  // what cannot be looked at cannot be opened either
-  return std::filesystem::exists(zDevice, ignored) ? zDevice : std::string();
+  return device->description.empty() ? zDevice : zDevice + "  " + device->description;
 }
 
 }  // namespace

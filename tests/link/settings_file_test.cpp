@@ -164,6 +164,11 @@ TEST_F(PortNumbersTest, TheTooltipListsWhatIsThereNow) {
   WriteBytes(virtualPort, "");
   EXPECT_EQ(DescribePorts(settings, present),
             "Serial ports that are present:\n1:  /dev/ttyACM0\n2:  " + virtualPort + rest);
+  GivenPorts("5=linked\r\n");  // as under /dev/serial/by-id
+  std::filesystem::create_symlink(virtualPort, folder / "linked");
+  EXPECT_EQ(DescribePorts(settings, {{"v", virtualPort, "Adapter"}}),
+            "Serial ports that are present:\n1:  " + virtualPort +
+                "  Adapter\n5:  " + (folder / "linked").string() + "  Adapter");
   GivenPorts("");
   EXPECT_TRUE(DescribePorts(settings, {}).starts_with("No serial port is present."));
 }
