@@ -73,9 +73,10 @@ frmUtility::frmUtility(SerialPort& zPort, const SettingsFile& zSettings,
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                            Qt::WindowCloseButtonHint),
+      MSComm1_(zPort),
       settings_(zSettings),
       translator_(codeTable_, zDictionary),
-      sender_(zPort, *this, zSettings),
+      sender_(MSComm1_, *this, zSettings),
       turns_([this] { sender_.Tick(); }),
       context_{codeTable_, translator_, zDictionary, zSettings, sender_, zPrompts, shared_} {
   setWindowTitle(QStringLiteral("Quenlith Phrase Translator for Orvatone  V.1.4"));

@@ -62,6 +62,7 @@ class frmUtility : public QWidget, private SenderHost {
   void WaitForEvents(UserInput zInput) override { turns_.WaitForEvents(zInput); }
   void SetTicking(bool zIsOn) override { turns_.SetTicking(zIsOn); }
 
+  SerialPort& MSComm1_;
   const SettingsFile& settings_;
   CodeTable codeTable_;
   SayDataTranslator translator_;
