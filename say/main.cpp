@@ -67,12 +67,8 @@ int Send(const SayOptions& zOptions, const SayDataTranslator& zTranslator,
     isSaid = speaker.Say(zTranslator.MnemonicsToCodes(zTranslator.ExpandSayData(zText)));
     return isSaid;
   });
-  const std::string complaint = speaker.Complaint();
-  const bool isFinished = speaker.Finish();  // what was said before a complaint still goes out
+  speaker.Finish();  // what was said before a complaint still goes out
   if (!isSaid) {
-    return Complain(complaint, Failed);
-  }
-  if (!isFinished) {
     return Complain(speaker.Complaint(), Failed);
   }
   return isRead ? Done : ComplainOfInput();

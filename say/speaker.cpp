@@ -1,48 +1,44 @@
 #include "say/speaker.h"
 
-#include <chrono>
 #include <optional>
 
 #include "core/number_text.h"
 #include "link/port_numbers.h"
 #include "link/qt/serial_devices.h"
-#include "say/drain.h"
 
 namespace loquitor {
 
-namespace {
-
-/// At the end as long as this without a byte leaving for the line means that the chip is stuck: it
-/// holds the line back while it speaks, at the very most some seconds a sound.
-constexpr std::chrono::seconds LongestStandstill{10};
-
-}  // namespace
-
-Speaker::Speaker(const SettingsFile& zSettings, bool zIsForced)
+Speaker::Speaker(const SettingsFile& zSettings, bool zIsForced,
+                 std::chrono::milliseconds zLongestStandstill)
     : settings_(zSettings),
       isForced_(zIsForced),
+      longestStandstill_(zLongestStandstill),
       sender_(port_, *this, settings_),
       turns_([this] { sender_.Tick(); }) {}
 
 bool Speaker::Say(std::string_view zCodes) {
   complaint_.clear();
+  lastProgress_ = std::chrono::steady_clock::now();
   sender_.SendCodesToOrvatone(zCodes, true);
   return complaint_.empty();
 }
 
-bool Speaker::Finish() {
-  complaint_.clear();
-  SetTicking(true);
-  const int unsent = AwaitDrained([this] { return port_.UnsentBytes(); },
-                                  [this] { WaitForEvents(UserInput::Now); }, LongestStandstill);
-  SetTicking(false);
-  if (unsent > 0) {
-    complaint_ =
-        "the chip holds the line back; its last " + std::to_string(unsent) + " bytes were not sent";
-  } else {
-    port_.CloseWhenSent();
+std::size_t Speaker::BytesLeft() const {
+  return sender_.PendingOutput().size() + static_cast<std::size_t>(port_.UnsentBytes());
+}
+
+void Speaker::WaitForEvents(UserInput zInput) {
+  turns_.WaitForEvents(zInput);
+  const auto now = std::chrono::steady_clock::now();
+  if (BytesLeft() != bytesLeft_) {
+    bytesLeft_ = BytesLeft();
+    lastProgress_ = now;
+  } else if (bytesLeft_ > 0 && now - lastProgress_ > longestStandstill_) {
+    complaint_ = "the chip holds the line back; the last " + std::to_string(bytesLeft_) +
+                 " bytes were not sent (for a cable without CTS set FlowControl=0 in section "
+                 "[Serial] of Loquitor.ini)";
+    sender_.CloseSerialPort();
   }
-  return complaint_.empty();
 }
 
 std::string Speaker::PortNumberText() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,16 +16,18 @@ namespace loquitor {
 class Speaker : private SenderHost {
  public:
   /// `zSettings` outlives the speaker. `zIsForced`: the answer to the long-phrase question.
-  Speaker(const SettingsFile& zSettings, bool zIsForced);
+  /// `zLongestStandstill`: how long it waits for a line that takes no byte.
+  Speaker(const SettingsFile& zSettings, bool zIsForced,
+          std::chrono::milliseconds zLongestStandstill = std::chrono::minutes(1));
 
-  /// Sends a code string. False when it could not be sent; Complaint then says why.
+  /// Sends a code string and waits until it has left for the line. False when it could not be sent,
+  /// or the line stood still for too long and the rest was discarded; Complaint then says why.
   bool Say(std::string_view zCodes);
 
-  /// Waits until everything sent has left for the line, then closes the port. False when the chip
-  /// holds the line back for too long; the rest is discarded.
-  bool Finish();
+  /// Closes the port behind the last byte.
+  void Finish() { port_.CloseWhenSent(); }
 
-  /// Why the last call of Say or Finish was in vain.
+  /// Why the last call of Say was in vain.
   const std::string& Complaint() const { return complaint_; }
 
  private:
@@ -34,16 +38,20 @@ class Speaker : private SenderHost {
   void StopClosingTimer() override {}  // the port stays open until Finish
   void StartClosingTimer(int) override {}
   void LetEventsRun(UserInput zInput) override { turns_.LetEventsRun(zInput); }
-  void WaitForEvents(UserInput zInput) override { turns_.WaitForEvents(zInput); }
+  void WaitForEvents(UserInput zInput) override;
   void SetTicking(bool zIsOn) override { turns_.SetTicking(zIsOn); }
 
   std::string PortNumberText() const;
+  std::size_t BytesLeft() const;
 
   const SettingsFile& settings_;
   const bool isForced_;
+  const std::chrono::milliseconds longestStandstill_;
   QtSerialPort port_;
   CodeSender sender_;
   EventTurns turns_;
+  std::size_t bytesLeft_ = 0;
+  std::chrono::steady_clock::time_point lastProgress_;  // when `bytesLeft_` came to be so many
   bool wasOpen_ = false;
   std::string complaint_;
 };
