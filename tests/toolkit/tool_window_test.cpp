@@ -72,22 +72,29 @@ TEST_F(ToolWindowTest, LoadsOnceAndUnloadsOnceHoweverItIsClosed) {
   }
 }
 
-TEST_F(ToolWindowTest, ADoubleClickThatOpensItReachesNothingInIt) {
-  QPushButton opener(&owner);
-  opener.show();
-  NotingWindow window(&owner);
+TEST_F(ToolWindowTest, ADoubleClickThatOpensOrClosesItReachesNothingElse) {
+  NotingWindow opener(&owner);
+  ShowAndWait(opener);
+  NotingWindow window(&opener);
+  QSignalSpy opened(&opener.button, &QPushButton::clicked);
   QSignalSpy pressed(&window.button, &QPushButton::clicked);
-  QObject::connect(&opener, &QPushButton::clicked, &window, [&] { ShowAndWait(window); });
+  QObject::connect(&opener.button, &QPushButton::clicked, &window, [&] { ShowAndWait(window); });
   RealMouse mouse;
-  mouse.Click(&opener);
+  mouse.Click(&opener.button);
   ASSERT_TRUE(window.isVisible());
-  const auto middle = [](QWidget& zWidget) { return zWidget.mapToGlobal(zWidget.rect().center()); };
-  window.move(window.pos() + middle(opener) - middle(window.button));
+  window.move(opener.pos());
   mouse.Click(&window.button);
   EXPECT_EQ(pressed.count(), 0);
   mouse.Click(&window.button);
   mouse.Click(&window.button);
   EXPECT_EQ(pressed.count(), 2);
+  QTest::qWait(QApplication::doubleClickInterval() + 1);
+  QObject::connect(&window.button, &QPushButton::clicked, &window, &QWidget::close);
+  mouse.Click(&window.button);
+  mouse.Click(&opener.button);
+  EXPECT_EQ(opened.count(), 1);
+  mouse.Click(&opener.button);
+  EXPECT_EQ(opened.count(), 2);
 }
 
 TEST_F(ToolWindowTest, LooksLikeAToolWindowInTheMiddleOfTheScreen) {

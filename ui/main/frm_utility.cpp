@@ -20,6 +20,7 @@
 #include "ui/toolkit/check_box.h"
 #include "ui/toolkit/code_page.h"
 #include "ui/toolkit/form.h"
+#include "ui/toolkit/half_click.h"
 #include "ui/toolkit/text_box.h"
 #include "ui/toolkit/tool_window.h"
 
@@ -83,6 +84,7 @@ frmUtility::frmUtility(SerialPort& zPort, const SettingsFile& zSettings,
   setObjectName(QStringLiteral("frmUtility"));
   setFont(FormFont());
   resize(ClientSize.ToPixels());
+  KeepHalfClicksOut(this);
   Form form(this);
   form.Add(Rows);
   txtComPort_ = form.Get<TextBox>("txtComPort");

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "ui/toolkit/opening_click.h"
+#include "ui/toolkit/half_click.h"
 #include "ui/toolkit/refusal.h"
 
 namespace loquitor {
@@ -80,7 +80,7 @@ PromptAnswer DesktopPrompts::Ask(QWidget* zOwner, const QString& zTitle, const Q
   box->setTextFormat(Qt::PlainText);
   box->setEscapeButton(buttons.onClose);
   KeepLinesWhole(*box);
-  KeepOpeningClickOut(box);
+  KeepHalfClicksOut(box);
   const int answer = box->exec();
   if (!box) {
     return AnswerOf(buttons.onClose);
@@ -100,7 +100,7 @@ std::optional<QString> DesktopPrompts::AskText(QWidget* zOwner, const QString& z
     line->setMinimumWidth(InputWidth);
     line->selectAll();
   }
-  KeepOpeningClickOut(box);
+  KeepHalfClicksOut(box);
   const bool isAccepted = box->exec() == QDialog::Accepted;
   if (!box) {
     return std::nullopt;

@@ -5,7 +5,7 @@
 
 #include "ui/toolkit/centring.h"
 #include "ui/toolkit/form.h"
-#include "ui/toolkit/opening_click.h"
+#include "ui/toolkit/half_click.h"
 
 namespace loquitor {
 
@@ -16,7 +16,7 @@ ToolWindow::ToolWindow(QWidget* zOwner, const QString& zCaption, TwipSize zClien
   setWindowTitle(zCaption);
   setFont(FormFont());
   setModal(true);
-  KeepOpeningClickOut(this);
+  KeepHalfClicksOut(this);
   if (zSizing == Sizing::Fixed) {
     setFixedSize(zClientSize.ToPixels());
   } else {

@@ -8,7 +8,7 @@ namespace loquitor {
 
 /// Base of the editors: a modal tool window with a close box, owned by the window that opened it,
 /// centred on the screen, not in the task bar. Enter presses no button, Escape closes nothing, and
-/// a double click that opens it reaches nothing in it.
+/// a double click that began in another window reaches nothing in it.
 class ToolWindow : public QDialog {
   Q_OBJECT
  public:

@@ -1,0 +1,50 @@
+#include "ui/toolkit/half_click.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QStyleHints>
+#include <QWidget>
+#include <QWindow>
+#include <optional>
+#include <utility>
+
+namespace loquitor {
+namespace {
+
+/// Watches what the desktop sends to the native window, which exists once the window is shown. The
+/// second half comes as a press that is followed by a double click.
+class HalfClicks : public QObject {
+ public:
+  explicit HalfClicks(QWidget* zWindow) : QObject(zWindow) { zWindow->installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject* zWatched, QEvent* zEvent) override {
+    if (!zWatched->isWindowType()) {
+      if (zEvent->type() == QEvent::Show) {
+        static_cast<QWidget*>(zWatched)->windowHandle()->installEventFilter(this);
+      }
+      return false;
+    }
+    if (zEvent->type() == QEvent::MouseButtonPress) {
+      pressBefore_ = std::exchange(lastPress_, static_cast<QMouseEvent*>(zEvent)->timestamp());
+    }
+    return zEvent->type() == QEvent::MouseButtonDblClick && !HasFirstHalf();
+  }
+
+ private:
+  bool HasFirstHalf() const {
+    const int longest = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+    return pressBefore_ && *lastPress_ - *pressBefore_ < static_cast<quint64>(longest);
+  }
+
+  std::optional<quint64> pressBefore_;
+  std::optional<quint64> lastPress_;
+};
+
+}  // namespace
+
+void KeepHalfClicksOut(QWidget* zWindow) {
+  new HalfClicks(zWindow);
+}
+
+}  // namespace loquitor
