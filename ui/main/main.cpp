@@ -43,9 +43,9 @@ int main(int argc, char** argv) {
   const std::filesystem::path folder = loquitor::ProgramFolder();
   const loquitor::SettingsFile settings(folder);
   const loquitor::DictionaryStore dictionary(folder);
-  loquitor::QtSerialPort port;
+  loquitor::QtSerialPort MSComm1;
   loquitor::DesktopPrompts prompts;
-  loquitor::frmUtility window(port, settings, dictionary, prompts);
+  loquitor::frmUtility window(MSComm1, settings, dictionary, prompts);
   window.Open();
   // The first window does not wait for its icon.
   QTimer::singleShot(0, &application, [] { QApplication::setWindowIcon(ProgramIcon()); });
