@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QToolTip>
 #include <array>
+#include <functional>
 
 #include "tests/support/rows.h"
 #include "ui/toolkit/code_page.h"
@@ -135,14 +136,12 @@ TEST_F(TextBoxes, GiveBackExactlyWhatTheyWereGiven) {
   EXPECT_EQ(area.Text(), all + all);
   area.Select(0x9E, 3);
   EXPECT_EQ(area.SelectedText(), "\xA0\xA1\xA2");
-  const std::string lines = all.substr(1) + "\nsecond";  // X selections end at a NUL
-  area.SetText(lines);
+  area.SetText(all.substr(1) + "\nsecond");  // X selections end at a NUL
   area.selectAll();
   area.copy();
   EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasHtml());
-  area.SetText("");
   area.paste();
-  EXPECT_EQ(area.Text(), lines);
+  EXPECT_EQ(area.Text(), all.substr(1) + "\nsecond");
 }
 
 TEST_F(TextBoxes, EveryLineBreakOfAnAreaIsOneCharacter) {
@@ -154,47 +153,34 @@ TEST_F(TextBoxes, EveryLineBreakOfAnAreaIsOneCharacter) {
   EXPECT_EQ(area.SelectionLength(), 4);
   area.ReplaceSelection("x\r\ny");
   EXPECT_EQ(area.Text(), "a\nx\nyd\n");
-  EXPECT_EQ(area.SelectionStart(), 5);
-  EXPECT_EQ(area.CharacterAfterCaret(), 'd');
-  area.MoveCaretRight();
-  EXPECT_EQ(area.CharacterAfterCaret(), '\n');
+  for (const auto& [caret, next] : Rows<int, char>{{5, 'd'}, {6, '\n'}, {7, 0}, {7, 0}}) {
+    EXPECT_EQ(area.SelectionStart(), caret);
+    EXPECT_EQ(area.CharacterAfterCaret(), next);
+    area.MoveCaretRight();
+  }
   area.Select(100, 7);
-  EXPECT_EQ(area.SelectionStart(), 7);
-  EXPECT_EQ(area.CharacterAfterCaret(), 0);
-  area.MoveCaretRight();
   EXPECT_EQ(area.SelectionStart(), 7);
   QTest::keyClick(&area, Qt::Key_Return, Qt::ShiftModifier);
   EXPECT_EQ(area.Text(), "a\nx\nyd\n\n");
 }
 
 TEST_F(TextBoxes, TypingAndReplacementsAreStepsOfTheirOwn) {
+  const auto type = [this](const char* zKeys) {
+    return [this, zKeys] { QTest::keyClicks(&area, zKeys); };
+  };
+  const auto insert = [this](const char* zText) {
+    return [this, zText] { area.ReplaceSelection(zText); };
+  };
+  const auto replace = [this](const char* zText) {
+    return [this, zText] { area.ReplaceText(zText); };
+  };
   std::vector<std::string> texts = {""};
-  const auto done = [&] { texts.push_back(area.Text()); };
-  const auto type = [&](const char* zKeys) {
-    QTest::keyClicks(&area, zKeys);
-    done();
-  };
-  const auto insert = [&](const char* zText) {
-    area.ReplaceSelection(zText);
-    done();
-  };
-  const auto replace = [&](const char* zText) {
-    area.ReplaceText(zText);
-    done();
-  };
-  type("ab ");
-  insert("\\IY ");
-  insert("\\EH ");
-  type("cd");
-  insert("\\OW ");
-  replace("");
-  Paste(area, "pasted");
-  done();
-  type("ef");
-  replace("new");
-  area.Select(1, 1);
-  insert("E");
-  type("x");
+  for (const std::function<void()>& act : std::initializer_list<std::function<void()>>{
+           type("ab "), insert("\\IY "), insert("\\EH "), type("cd"), insert("\\OW "), replace(""),
+           [this] { Paste(area, "pasted"); }, type("ef"), replace("new"), insert("E"), type("x")}) {
+    act();
+    texts.push_back(area.Text());
+  }
   for (std::size_t i = texts.size() - 1; i-- > 0;) {
     QTest::keySequence(&area, QKeySequence::Undo);
     EXPECT_EQ(area.Text(), texts[i]) << i;
@@ -213,20 +199,21 @@ TEST_F(TextBoxes, LoseTheFocusToAnotherControlButNotToAMenuOrAnotherProgram) {
   QTest::keyClick(&area, Qt::Key_Tab);
   EXPECT_EQ(area.Text(), "");
   EXPECT_EQ(fromArea.count(), 1);
-  fromArea.clear();
-  fromBox.clear();
-  const Rows<Qt::FocusReason, bool> rows{
-      {Qt::MouseFocusReason, true},  {Qt::TabFocusReason, true},
-      {Qt::OtherFocusReason, true},  {Qt::ActiveWindowFocusReason, false},
-      {Qt::PopupFocusReason, false}, {Qt::MenuBarFocusReason, false}};
-  for (const auto& [reason, isLoss] : rows) {
-    for (QWidget* each : both) {
-      QFocusEvent out(QEvent::FocusOut, reason);
-      QCoreApplication::sendEvent(each, &out);
-    }
-    EXPECT_EQ(fromBox.count() + fromArea.count(), isLoss ? 2 : 0) << reason;
+  const auto lossesBy = [&](Qt::FocusReason zReason) {
     fromBox.clear();
     fromArea.clear();
+    for (QWidget* each : both) {
+      QFocusEvent out(QEvent::FocusOut, zReason);
+      QCoreApplication::sendEvent(each, &out);
+    }
+    return fromBox.count() + fromArea.count();
+  };
+  for (const auto reason : {Qt::MouseFocusReason, Qt::TabFocusReason, Qt::OtherFocusReason}) {
+    EXPECT_EQ(lossesBy(reason), 2) << reason;
+  }
+  for (const auto reason :
+       {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
+    EXPECT_EQ(lossesBy(reason), 0) << reason;
   }
 }
 

@@ -7,7 +7,7 @@
 #include <QTest>
 #include <QTextCursor>
 #include <algorithm>
-#include <functional>
+#include <map>
 #include <random>
 #include <string>
 #include <vector>
@@ -22,10 +22,15 @@ constexpr std::size_t Bound = 700'000;
 
 class TextHistoryTest : public ::testing::Test {
  protected:
-  void Type(const char* zKeys) { QTest::keyClicks(&area, zKeys); }
-  void Press(Qt::Key zKey, int zTimes = 1) {
-    for (int i = 0; i < zTimes; ++i) {
-      QTest::keyClick(&area, zKey);
+  /// Types a text in which Enter is '\n', Backspace '\b', Delete '\x7F' and Home '\r'.
+  void Type(const std::string& zText) {
+    const std::map<char, Qt::Key> keys{{'\n', Qt::Key_Return},
+                                       {'\b', Qt::Key_Backspace},
+                                       {'\x7F', Qt::Key_Delete},
+                                       {'\r', Qt::Key_Home}};
+    for (const char character : zText) {
+      const auto key = keys.find(character);
+      key == keys.end() ? QTest::keyClick(&area, character) : QTest::keyClick(&area, key->second);
     }
   }
   void Press(QKeySequence::StandardKey zKey) { QTest::keySequence(&area, QKeySequence(zKey)); }
@@ -56,17 +61,11 @@ class TextHistoryTest : public ::testing::Test {
       return byte == '\r' || random() % 4 == 0 ? '\n' : byte;
     });
     QTextCursor cursor = area.textCursor();
-    cursor.setPosition(place());
-    cursor.setPosition(random() % 3 == 0 ? place() : cursor.position(), QTextCursor::KeepAnchor);
     cursor.beginEditBlock();
-    cursor.insertText(ToQString(bytes));
-    if (random() % 3 == 0) {
+    for (auto changes = 1 + random() % 3; changes > 0; --changes) {
       cursor.setPosition(place());
-      cursor.insertText(ToQString(bytes));
-    }
-    if (random() % 3 == 0) {
-      cursor.setPosition(place());
-      cursor.deletePreviousChar();
+      cursor.setPosition(random() % 3 == 0 ? place() : cursor.position(), QTextCursor::KeepAnchor);
+      random() % 4 == 0 ? cursor.deletePreviousChar() : cursor.insertText(ToQString(bytes));
     }
     cursor.endEditBlock();
     area.setTextCursor(cursor);
@@ -87,29 +86,29 @@ class TextHistoryTest : public ::testing::Test {
 TEST_F(TextHistoryTest, RunsOfTypingAndErasingAreStepsOfTheirOwn) {
   history.Load("one\ntwo");
   std::vector<std::string> texts = {"one\ntwo"};
-  for (const auto& [expected, act] : Rows<const char*, std::function<void()>>{
-           {"abcone\ntwo", [this] { Type("abc"); }},
-           {"abc\none\ntwo", [this] { Press(Qt::Key_Return); }},
-           {"abc\ndeone\ntwo", [this] { Type("de"); }},
-           {"abone\ntwo", [this] { Press(Qt::Key_Backspace, 4); }},
-           {"abxone\ntwo", [this] { Type("x"); }},
-           {"one\ntwo",
-            [this] {
-              Press(Qt::Key_Home);
-              Press(Qt::Key_Delete, 3);
-            }},
-           {"one\ntwo\nthree", [this] { history.Append("\nthree"); }},
-           {"one\ntwo\nthree!", [this] { Type("!"); }},
-           {"1\ntwo\nthree!",
-            [this] {
-              area.Select(0, 4);
-              area.ReplaceSelection("1\n");
-            }},
-           {"other", [this] { history.ReplaceAll("other"); }}}) {
-    act();
-    ExpectText(expected);
-    texts.push_back(expected);
+  const auto done = [&](const std::string& zExpected) {
+    ExpectText(zExpected);
+    texts.push_back(zExpected);
+  };
+  for (const auto& [keys, expected] :
+       Rows<std::string, std::string>{{"abc", "abcone\ntwo"},
+                                      {"\n", "abc\none\ntwo"},
+                                      {"de", "abc\ndeone\ntwo"},
+                                      {"\b\b\b\b", "abone\ntwo"},
+                                      {"x", "abxone\ntwo"},
+                                      {"\r\x7F\x7F\x7F", "one\ntwo"}}) {
+    Type(keys);
+    done(expected);
   }
+  history.Append("\nthree");
+  done("one\ntwo\nthree");
+  Type("!");
+  done("one\ntwo\nthree!");
+  area.Select(0, 4);
+  area.ReplaceSelection("1\n");
+  done("1\ntwo\nthree!");
+  history.ReplaceAll("other");
+  done("other");
   for (std::size_t i = texts.size() - 1; i-- > 0;) {
     Press(QKeySequence::Undo);
     ExpectText(texts[i]);
@@ -203,22 +202,16 @@ TEST_F(TextHistoryTest, OldStepsGiveWayWhenTheyHoldTooMuch) {
 
 TEST_F(TextHistoryTest, TheContextMenuOffersItsSteps) {
   Type("ab");
-  const auto trigger = [this](int zAction) {
+  area.show();
+  for (const auto& [action, isEnabled, text] : Rows<int, bool, const char*>{
+           {1, false, "ab"}, {0, true, ""}, {0, false, ""}, {1, true, "ab"}}) {
     emit area.customContextMenuRequested(QPoint(1, 1));
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    QAction* action = menu->actions().at(zAction);
-    const bool isEnabled = action->isEnabled();
-    action->trigger();
+    EXPECT_EQ(menu->actions().at(action)->isEnabled(), isEnabled);
+    menu->actions().at(action)->trigger();
     menu->close();
-    return isEnabled;
-  };
-  area.show();
-  EXPECT_FALSE(trigger(1));
-  EXPECT_TRUE(trigger(0));
-  EXPECT_EQ(area.Text(), "");
-  EXPECT_FALSE(trigger(0));
-  EXPECT_TRUE(trigger(1));
-  EXPECT_EQ(area.Text(), "ab");
+    EXPECT_EQ(area.Text(), text);
+  }
 }
 
 }  // namespace

@@ -151,20 +151,20 @@ TEST_F(ToolWindowTest, BusyCoversWindowAndBoxesAndGivesAllBack) {
   QLineEdit box(&window);
   ShowAndWait(window);
   window.button.setFocus();
+  const auto expect = [&](bool zIsBusy) {
+    EXPECT_EQ(window.button.isEnabled(), !zIsBusy);
+    EXPECT_EQ(window.cursor().shape(), zIsBusy ? Qt::WaitCursor : Qt::ArrowCursor);
+    EXPECT_EQ(box.cursor().shape(), zIsBusy ? Qt::WaitCursor : Qt::IBeamCursor);
+  };
   {
     const Busy outer(&window, &window.button);
-    EXPECT_FALSE(window.button.isEnabled());
-    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
-    EXPECT_EQ(box.cursor().shape(), Qt::WaitCursor);
+    expect(true);
     EXPECT_FALSE(box.hasFocus()) << "disabling pushed the focus on";
     { const Busy inner(&window, &window.button); }
-    EXPECT_FALSE(window.button.isEnabled());
-    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+    expect(true);
   }
-  EXPECT_TRUE(window.button.isEnabled());
+  expect(false);
   EXPECT_TRUE(window.button.hasFocus());
-  EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
-  EXPECT_EQ(box.cursor().shape(), Qt::IBeamCursor);
   {
     const Busy busy(&window, &window.button);
     box.setFocus();
