@@ -58,6 +58,9 @@ class SafeSaveTest : public ::testing::Test {
   std::string Load(const std::string& zKey) const {
     return ReadProfileValue("Words", zKey, "(none)", 2560, file);
   }
+  void ExpectNoLitter() const {
+    EXPECT_THAT(folder.Names(), ::testing::ElementsAre("Loquitor.Dic"));
+  }
   static struct stat StatusOf(const fs::path& zFile) {
     struct stat status {};
     EXPECT_EQ(stat(zFile.c_str(), &status), 0);
@@ -72,8 +75,7 @@ TEST_F(SafeSaveTest, TwoProgramsSavingAtOnceLoseNothing) {
   constexpr int words = 1000;
   const auto saveAll = [this](const std::string& zStem) {
     int saved = 0;
-    while (saved < words && Save(zStem + std::to_string(saved), "\\HE \\LO")) {
-      ++saved;
+    for (; saved < words && Save(zStem + std::to_string(saved), "\\HE \\LO"); ++saved) {
     }
     return saved == words;
   };
@@ -86,7 +88,7 @@ TEST_F(SafeSaveTest, TwoProgramsSavingAtOnceLoseNothing) {
     ASSERT_EQ(Load("child" + std::to_string(i)), "\\HE \\LO");
     ASSERT_EQ(Load("parent" + std::to_string(i)), "\\HE \\LO");
   }
-  EXPECT_THAT(folder.Names(), ::testing::ElementsAre("Loquitor.Dic"));
+  ExpectNoLitter();
 }
 
 /// Has a process save one word after the other and kills it after a while. Returns how many of its
@@ -131,7 +133,7 @@ TEST_F(SafeSaveTest, AKilledProgramLeavesAWholeFileAndNoLitter) {
     if (word > 2000 || round == 499) {
       ASSERT_TRUE(ReadBytes(file).ends_with("\r\n"));
       ASSERT_TRUE(Save("last", "1"));
-      ASSERT_THAT(folder.Names(), ::testing::ElementsAre("Loquitor.Dic"));
+      ExpectNoLitter();
       fs::remove(file);
       word = 0;
     }
@@ -147,7 +149,7 @@ TEST_F(SafeSaveTest, AFullDiskLeavesTheOldFileWhole) {
            !ReplaceFile(file, std::string(1001, 'x')) && Save("j", "fits");
   }));
   EXPECT_EQ(ReadBytes(file), "[Words]\nk=1\nj=fits\r\n");
-  EXPECT_THAT(folder.Names(), ::testing::ElementsAre("Loquitor.Dic"));
+  ExpectNoLitter();
 }
 
 TEST_F(SafeSaveTest, AFolderOrFileThatMayNotBeWrittenStaysAsItIs) {
@@ -164,7 +166,7 @@ TEST_F(SafeSaveTest, AFolderOrFileThatMayNotBeWrittenStaysAsItIs) {
              Load("k") == "1";
     }));
     EXPECT_EQ(ReadBytes(file), "[Words]\nk=1\n");
-    EXPECT_THAT(folder.Names(), ::testing::ElementsAre("Loquitor.Dic"));
+    ExpectNoLitter();
   }
   ASSERT_EQ(chmod(folder.Path().c_str(), 0700), 0);
 }

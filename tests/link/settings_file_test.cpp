@@ -47,15 +47,13 @@ TEST_F(SettingsFileTest, ReadsTrimmedValuesAndFallsBackToTheDefault) {
 }
 
 TEST_F(SettingsFileTest, WritesNumbersAndTruthValuesInWords) {
-  ASSERT_TRUE(settings.SaveIniValue("EEPROM", "Play0", -32768));
-  ASSERT_TRUE(settings.SaveIniValue("EEPROM", "In7RC", true));
-  ASSERT_TRUE(settings.SaveIniValue("EEPROM", "In7TTL", false));
-  ASSERT_TRUE(settings.SaveIniValue("Serial", "Port", "2  "));
-  EXPECT_EQ(settings.GetIniValue("EEPROM", "Play0", ""), "-32768");
-  ASSERT_TRUE(settings.SaveIniValue("EEPROM", "PLAY0", std::string("0")));
+  ASSERT_TRUE(settings.SaveIniValue("EEPROM", "Play0", 1) &&
+              settings.SaveIniValue("EEPROM", "PLAY0", -32768) &&
+              settings.SaveIniValue("EEPROM", "In7RC", true) &&
+              settings.SaveIniValue("EEPROM", "In7TTL", false) &&
+              settings.SaveIniValue("Serial", "Port", "2  "));
   EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"),
-            "[EEPROM]\r\nPlay0=0\r\nIn7RC=True\r\nIn7TTL=False\r\n"
-            "[Serial]\r\nPort=2  \r\n");
+            "[EEPROM]\r\nPlay0=-32768\r\nIn7RC=True\r\nIn7TTL=False\r\n[Serial]\r\nPort=2  \r\n");
   EXPECT_EQ(settings.GetIniValue("Serial", "Port", "1"), "2");
 }
 
@@ -96,9 +94,10 @@ TEST_F(SettingsFileTest, KeepsOneSectionForEachSound) {
   EXPECT_FALSE(sounds.SaveSoundValue("a]b", "Freq1", 1));
   EXPECT_EQ(ReadBytes(folder / "OTSounds.txt"),
             "[Bell]\r\nFreq1=441\r\nVol1=20\r\n[Low Drum]\r\nFreq1=441\r\n");
-  EXPECT_EQ(sounds.SoundNames(), (std::vector<std::string>{"Bell", "Low Drum"}));
   EXPECT_EQ(sounds.GetSoundValue("bell", "FREQ1", "0"), "441");
   EXPECT_EQ(sounds.GetSoundValue("Low Drum", "Vol1", "0"), "0");
+  WriteBytes(folder / "OTSounds.txt", "k=1\n[Bell]\n [ Drum ]\n[bell]\n[]\n[\xC4\n;[no]\n");
+  EXPECT_EQ(sounds.SoundNames(), (std::vector<std::string>{"Bell", "Drum", "", "\xC4"}));
 }
 
 class PortNumbersTest : public ::testing::Test {
