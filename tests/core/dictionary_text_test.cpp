@@ -96,18 +96,6 @@ TEST(DictionaryText, SortingAStretchAgreesWithAPlainByteComparisonOnRandomLines)
   }
 }
 
-TEST(DictionaryText, SortedReversedAndEqualLinesAreNoTrouble) {
-  std::string ascending, descending, equal;
-  for (int i = 0; i < 100'000; ++i) {
-    ascending += "w" + std::to_string(1'000'000 + i) + "=\n";
-    descending += "w" + std::to_string(1'099'999 - i) + "=\n";
-    equal += "w=\\AX\n";
-  }
-  EXPECT_EQ(SortedText(ascending), ascending);
-  EXPECT_EQ(SortedText(descending), ascending);
-  EXPECT_EQ(SortedText(equal), equal);
-}
-
 TEST(DictionaryText, SearchFindsTheNextPlaceAndWrapsAround) {
   constexpr auto Nowhere = std::string_view::npos;
   for (const auto& [text, sought, from, expected] :

@@ -77,10 +77,12 @@ TEST_F(SettingsFileTest, KnowsATruthValueByItsWordOrNumber) {
 
 TEST_F(SettingsFileTest, WantsFlowControlUnlessANumberSaysOtherwise) {
   EXPECT_TRUE(IsFlowControlStored(settings));
-  for (const char* stored : {"1", "", "no", "0x", "-1", "99999999999", "0", "00", "2"}) {
+  const Rows<const char*, bool> rows{{"1", true},  {"", true},    {"no", true},
+                                     {"0x", true}, {"-1", true},  {"99999999999", true},
+                                     {"0", false}, {"00", false}, {"2", false}};
+  for (const auto& [stored, isOn] : rows) {
     ASSERT_TRUE(settings.SaveIniValue("Serial", "FlowControl", stored));
-    const bool isOff = *stored == '2' || (*stored == '0' && stored[1] != 'x');
-    EXPECT_EQ(IsFlowControlStored(settings), !isOff) << stored;
+    EXPECT_EQ(IsFlowControlStored(settings), isOn) << stored;
   }
 }
 

@@ -33,7 +33,8 @@ TEST(VirtualChipTest, SaysWhatTheBytesMean) {
   for (const auto& [bytes, lines] : Rows<std::string, std::string>{
            {"", ""},
            {"\x00\x10\xb7\xfe"s, "code 0 \\P0\ncode 16 \\WAIT\ncode 183 \\HE\ncode 254 \\M2\n"},
-           {"\x14\x00\x1e\xff"s, "control 20 \\VOLUME 0\ncontrol 30 \\DELAY 255\n"},
+           {"\x14\x00\x1e\xff\x1a\x07"s,
+            "control 20 \\VOLUME 0\ncontrol 30 \\DELAY 255\ncontrol 26 \\REPEAT 7\n"},
            {"\x16\\\x80"s, "control 22 \\PITCH 92\ncode 128 \\IY\n"},  // any byte can be a value
            {"U\xff\x09 A"s,
             "sync character U\nunknown: FF  .\nunknown: 09  .\nunknown: 20   \nunknown: 41  A\n"},
