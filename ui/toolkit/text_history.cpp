@@ -110,14 +110,18 @@ void TextHistory::Append(std::string_view zText) {
   if (zText.empty()) {
     return;
   }
+  Step step{text_.size(), zText.size(), {}};
+  text_.append(zText);
   area_->moveCursor(QTextCursor::End);
   {
     const FlagRaised ownChange(isOwnChange_);
-    area_->insertPlainText(ToQString(zText));
+    QTextCursor cursor = area_->textCursor();
+    cursor.beginEditBlock();
+    InsertPieces(cursor, zText);
+    cursor.endEditBlock();
+    area_->setTextCursor(cursor);
   }
   area_->ensureCursorVisible();
-  Step step{text_.size(), zText.size(), {}};
-  text_.append(zText);
   ForgetRedo();
   Push(undo_, std::move(step));
 }
@@ -138,17 +142,19 @@ void TextHistory::Redo() {
 /// again. The whole text is shown afresh where most of it changes: that is quicker, and lets go of
 /// the memory of what was there.
 TextHistory::Step TextHistory::Apply(Step zStep) {
-  Step inverse{zStep.start, zStep.other.size(), {}};
-  int caret = static_cast<int>(zStep.start + zStep.other.size());
+  const std::size_t added = zStep.Size();
+  Step inverse{zStep.start, added, {}};
+  int caret = static_cast<int>(zStep.start + added);
   if (zStep.caret >= 0) {
     inverse.caret = area_->textCursor().position();
     caret = zStep.caret;
   }
-  const std::size_t size = text_.size() - zStep.length + zStep.other.size();
-  const bool isShownAfresh = std::max(zStep.length, zStep.other.size()) > size / 2;
+  const std::size_t size = text_.size() - zStep.length + added;
+  const bool isShownAfresh = std::max(zStep.length, added) > size / 2;
   if (isShownAfresh) {
     ClearArea();  // first, for its memory
   }
+  zStep.Unpack();
   if (zStep.start == 0 && zStep.length == text_.size()) {
     inverse.other = std::exchange(text_, std::move(zStep.other));
   } else {
@@ -156,6 +162,7 @@ TextHistory::Step TextHistory::Apply(Step zStep) {
     text_.replace(zStep.start, zStep.length, std::exchange(zStep.other, {}));
   }
   if (isShownAfresh) {
+    inverse.Pack();
     Show();
   } else {
     ShowChange(inverse.start, zStep.length, inverse.length);
@@ -249,12 +256,12 @@ TextHistory::Step TextHistory::Pop(std::deque<Step>& zSteps) {
   Step step = std::move(zSteps.back());
   zSteps.pop_back();
   bytesHeld_ -= step.other.size();
-  step.Unpack();
   return step;
 }
 
 void TextHistory::Step::Pack() {
   if (!isPacked && other.size() >= PackedFrom) {
+    plainSize = other.size();
     other = qCompress(reinterpret_cast<const uchar*>(other.data()),
                       static_cast<qsizetype>(other.size()), PackingLevel)
                 .toStdString();

@@ -60,7 +60,9 @@ class TextHistory : public QObject {
     int caret = -1;      ///< where the caret goes; -1: behind `other`
     bool isRun = false;  ///< one character typed or erased, and those that followed it
     bool isPacked = false;
+    std::size_t plainSize = 0;  ///< of `other`, when isPacked
 
+    std::size_t Size() const { return isPacked ? plainSize : other.size(); }
     void Pack();
     void Unpack();
   };
