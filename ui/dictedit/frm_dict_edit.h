@@ -19,7 +19,7 @@ class frmDictEdit : public ToolWindow {
   Q_OBJECT
  public:
   /// What a dictionary may have that is shown; an import ends where there would be more. Beyond it
-  /// the box would need minutes and gigabytes: it takes about two seconds and 200 MB for a million
+  /// the box would need minutes and gigabytes: it takes about two seconds and 270 MB for a million
   /// lines, and works out all of a line whenever it draws a part of it.
   static constexpr std::size_t MaximumBytes = std::size_t{64} << 20;
   static constexpr std::size_t MaximumLines = 2'000'000;
