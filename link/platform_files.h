@@ -76,9 +76,9 @@ class FolderLock {
 };
 
 /// Puts a file that holds `zBytes` in the place of `zFile` (no link; its folder locked by the
-/// caller, `zLock` says how well): written beside it, flushed to disk, swapped. Permissions are
-/// kept, the owner and the group each where the system allows it. False, the old file whole and
-/// nothing left beside it, when a step fails or the old file may not be written.
+/// caller, `zLock` says how well): written beside it, flushed to disk, swapped. Permissions
+/// and access lists are kept, the owner and the group each where the system allows it. False, the
+/// old file whole and nothing left beside it, when a step fails or the old file may not be written.
 bool SwapFile(const std::filesystem::path& zFile, std::string_view zBytes, FolderLock::State zLock);
 
 }  // namespace loquitor

@@ -4,6 +4,9 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#ifdef __linux__
+#include <sys/xattr.h>
+#endif
 
 #include <cerrno>
 #include <chrono>
@@ -111,7 +114,36 @@ struct Ownership {
   uid_t user;
   gid_t group;
   mode_t permissions;
+  std::string accessList;  ///< as the system holds it; empty when there is none
 };
+
+#ifdef __linux__
+constexpr const char* AccessListName = "system.posix_acl_access";
+
+std::string AccessListOf(const Descriptor& zFile) {
+  std::string list(1 << 16, '\0');  // as long as the system takes them
+  const ssize_t size = fgetxattr(zFile.Number(), AccessListName, list.data(), list.size());
+  list.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+  return list;
+}
+
+bool SetAccessList(const Descriptor& zFile, const std::string& zList) {
+  if (zList.empty()) {
+    // There is one only where the folder gives one to new files.
+    static_cast<void>(fremovexattr(zFile.Number(), AccessListName));
+    return true;
+  }
+  return fsetxattr(zFile.Number(), AccessListName, zList.data(), zList.size(), 0) == 0;
+}
+#else
+std::string AccessListOf(const Descriptor&) {
+  return {};
+}
+
+bool SetAccessList(const Descriptor&, const std::string&) {
+  return true;
+}
+#endif
 
 /// Nothing inside when there is no old file; nothing at all when it may not be written.
 std::optional<std::optional<Ownership>> OwnershipToKeep(const fs::path& zFile) {
@@ -124,7 +156,8 @@ std::optional<std::optional<Ownership>> OwnershipToKeep(const fs::path& zFile) {
   if (fstat(old.Number(), &status) != 0 || !S_ISREG(status.st_mode)) {
     return std::nullopt;
   }
-  return Ownership{status.st_uid, status.st_gid, static_cast<mode_t>(status.st_mode & 07777)};
+  return Ownership{status.st_uid, status.st_gid, static_cast<mode_t>(status.st_mode & 07777),
+                   AccessListOf(old)};
 }
 
 /// Writes the new content into `zFile` and flushes it to disk.
@@ -139,7 +172,8 @@ bool Fill(const Descriptor& zFile, std::string_view zBytes,
     if (fchown(zFile.Number(), zOwnership->user, zOwnership->group) != 0) {
       static_cast<void>(!fchown(zFile.Number(), static_cast<uid_t>(-1), zOwnership->group));
     }
-    if (fchmod(zFile.Number(), zOwnership->permissions) != 0) {
+    if (fchmod(zFile.Number(), zOwnership->permissions) != 0 ||
+        !SetAccessList(zFile, zOwnership->accessList)) {
       return false;
     }
   }

@@ -6,6 +6,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -172,14 +173,28 @@ TEST_F(SafeSaveTest, AFolderOrFileThatMayNotBeWrittenStaysAsItIs) {
 }
 
 TEST_F(SafeSaveTest, PermissionsAndOwnerAreKeptAndNewFilesFollowTheMask) {
+  using namespace std::string_literals;
+  // User 12345 may write the file, the group only read it, which its mode does not tell.
+  const std::string list =
+      "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\6\0\x39\x30\0\0"
+      "\4\0\4\0\xFF\xFF\xFF\xFF\x10\0\6\0\xFF\xFF\xFF\xFF"
+      "\x20\0\0\0\xFF\xFF\xFF\xFF"s;
+  const auto accessList = [this] {
+    std::string found(99, '\0');
+    const auto size = getxattr(file.c_str(), "system.posix_acl_access", found.data(), found.size());
+    return found.substr(0, static_cast<std::size_t>(std::max(size, ssize_t{0})));
+  };
   for (const mode_t mode : {0600, 0664, 0640, 0755}) {
     WriteBytes(file, "");
     ASSERT_EQ(chmod(file.c_str(), mode), 0);
     if (geteuid() == 0) {
       ASSERT_EQ(chown(file.c_str(), 12345, 54321), 0);
     }
+    const bool hasList = mode == 0640 && setxattr(file.c_str(), "system.posix_acl_access",
+                                                  list.data(), list.size(), 0) == 0;
     const auto before = StatusOf(file);
     ASSERT_TRUE(Save("k", std::to_string(mode)));
+    EXPECT_EQ(accessList(), hasList ? list : "");
     EXPECT_EQ(StatusOf(file).st_mode, before.st_mode);
     EXPECT_EQ(StatusOf(file).st_uid, before.st_uid);
     EXPECT_EQ(StatusOf(file).st_gid, before.st_gid);
