@@ -30,8 +30,9 @@ std::string ReadProfileValue(std::string_view zSection, std::string_view zKey,
 ///
 /// `zValue` is stored in one line: each run of line breaks in it becomes one blank.
 /// Returns false, with the old file whole and nothing left behind, when a name cannot be held by
-/// the format (empty key, line break, an equals sign in the key, a closing bracket in the section)
-/// or the file cannot be written.
+/// the format (a key that is empty, holds an equals sign or begins with an opening bracket or a
+/// semicolon, a closing bracket in the section, a line break in either) or the file cannot be
+/// written. A value that stands there already is not written again.
 ///
 /// The write is atomic (new file beside the old one, flushed, swapped; permissions kept, symbolic
 /// links followed), and safe against other programs that write through this function at once.
