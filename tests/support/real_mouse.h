@@ -15,29 +15,26 @@ class RealMouse {
  public:
   RealMouse() : origin_(QTest::lastMouseTimestamp + 10'000) { clock_.start(); }
 
-  void Press(const QWidget* zWidget) {
-    QTest::lastMouseTimestamp = Now();
-    QTest::mousePress(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
-  }
-  void Release(const QWidget* zWidget) {
-    QTest::lastMouseTimestamp = Now();
-    QTest::mouseRelease(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
-  }
-  void Click(const QWidget* zWidget) {
-    Press(zWidget);
-    Release(zWidget);
-  }
+  void Click(const QWidget* zWidget) { ClickAt(Now(), zWidget); }
 
   /// Clicks, and once more `zMilliseconds` later, from whatever event loop runs then. Returns when
-  /// the first click has been handled.
+  /// the first click has been handled. Where the machine is late, the second one still carries the
+  /// time at which it was due.
   void ClickTwice(QWidget* zWidget, int zMilliseconds) {
+    const int due = Now() + zMilliseconds;
     QTimer::singleShot(zMilliseconds, Qt::PreciseTimer, zWidget,
-                       [this, zWidget] { Click(zWidget); });
+                       [=, this] { ClickAt(due, zWidget); });
     Click(zWidget);
   }
 
  private:
   int Now() const { return origin_ + static_cast<int>(clock_.elapsed()); }
+  void ClickAt(int zTime, const QWidget* zWidget) {
+    QTest::lastMouseTimestamp = zTime;
+    QTest::mousePress(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
+    QTest::lastMouseTimestamp = Now();
+    QTest::mouseRelease(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
+  }
   static QWindow* Window(const QWidget* zWidget) { return zWidget->window()->windowHandle(); }
   static QPoint Middle(const QWidget* zWidget) {
     return zWidget->mapTo(zWidget->window(), zWidget->rect().center());
