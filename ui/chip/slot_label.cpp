@@ -22,6 +22,15 @@ QString OneLine(const QString& zText) {
   return line;
 }
 
+/// As much of the text as a tooltip has room for: one that is higher than the screen loses its
+/// beginning, where the warning stands.
+QString FittingTooltip(const QString& zText) {
+  constexpr int MostLines = 25;
+  constexpr int MostCharacters = 2000;  // about as many lines of a tooltip
+  const QString shown = zText.section(u'\n', 0, MostLines - 1).left(MostCharacters);
+  return shown.size() < zText.size() ? shown + u'…' : shown;
+}
+
 /// As rich text, which tooltips break into lines; blanks and line breaks stay as they are.
 QString AsTooltip(const QString& zText) {
   return QStringLiteral("<p style='white-space:pre-wrap'>") + zText.toHtmlEscaped() +
@@ -76,7 +85,7 @@ void PhraseLabel::SetPhrase(std::string_view zPhrase, const QString& zWarning) {
                     (phrase.isEmpty() ? QStringLiteral("empty") : phrase));
   setAccessibleDescription(zWarning);
   setToolTip((isMarked_ ? AsTooltip(zWarning) : QString()) +
-             (phrase.isEmpty() ? QString() : AsTooltip(phrase)));
+             (phrase.isEmpty() ? QString() : AsTooltip(FittingTooltip(phrase))));
   SetBackground(isMarked_ ? QColor(WarningBackground) : QColor());
 }
 

@@ -20,7 +20,8 @@ class SlotLabel : public ClickLabel {
 };
 
 /// The row of one stored phrase. Its text is the whole Say Data; only its picture is one line,
-/// elided where the row ends, with line breaks as arrows. The whole text is its tooltip.
+/// elided where the row ends, with line breaks as arrows. The text is its tooltip, whole
+/// but for one that would not fit the screen.
 class PhraseLabel : public SlotLabel {
   Q_OBJECT
  public:
