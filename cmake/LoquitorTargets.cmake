@@ -1,6 +1,7 @@
 # Warnings, sanitizers and include root, the same for every target of the project.
 function(loquitor_configure target)
   target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_compile_features(${target} PUBLIC cxx_std_20)  # for projects that add this one to theirs
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
                                            -Woverloaded-virtual)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
