@@ -1,7 +1,6 @@
 #include "ui/chip/frm_buttons.h"
 
 #include <QLabel>
-#include <array>
 
 #include "sim/virtual_chip.h"
 #include "tests/support/window_test.h"
@@ -18,13 +17,7 @@ const std::string FirstUse =
 
 class EventWindow : public ToolWindowTest {
  protected:
-  void Stored(const std::string& zKey, std::string_view zValue) {
-    ASSERT_TRUE(settings.SaveIniValue("EEPROM", zKey, zValue));
-  }
-  void OpenEvents() { Open<frmButtons>(); }
-  void ClickCheck(const char* zStem, int zRow) {
-    QTest::mouseClick(Get(Indexed(zStem, zRow)), Qt::LeftButton);
-  }
+  void ClickRow(const char* zStem, int zRow) { Click(Indexed(zStem, zRow)); }
   void TypePhrase(int zRow, const QString& zText) { Type(Indexed("txtPhrase", zRow), zText); }
   std::string Written() {
     Click("btnWrite");
@@ -42,7 +35,7 @@ class EventWindow : public ToolWindowTest {
 };
 
 TEST_F(EventWindow, WritesTheDefaultsOnFirstUse) {
-  OpenEvents();
+  Open<frmButtons>();
   EXPECT_EQ(window->windowTitle(), "Orvatone Event Configuration");
   EXPECT_EQ(Get<QLabel>("Label1(16)")->text(), "Power up & Reset");
   EXPECT_TRUE(ChosenOptions().empty());
@@ -52,61 +45,60 @@ TEST_F(EventWindow, WritesTheDefaultsOnFirstUse) {
 }
 
 TEST_F(EventWindow, TheChipThenHoldsWhatWasClickedAndTyped) {
-  OpenEvents();
-  for (const char* stem : {"chPlay", "chClear", "chRestart"}) {
-    ClickCheck(stem, 0);
+  Open<frmButtons>();
+  for (const auto& [stem, row] : Rows<const char*, int>{
+           {"chPlay", 0}, {"chRestart", 0}, {"chInt", 1}, {"chClear", 2}, {"chPlay", 16}}) {
+    ClickRow(stem, row);
   }
-  ClickCheck("chInt", 1);
-  ClickCheck("chPlay", 16);
   TypePhrase(0, "5");
   TypePhrase(1, "20");
   TypePhrase(15, "7");
   TypePhrase(16, "-1");
   for (int index = 0; index < OptionCount; index += 2) {
-    Click(Indexed("optIO", index));
+    ClickRow("optIO", index);
   }
   Click("optIO(9)");
   Type("txtSCPNode", "5");
   VirtualChip chip;
   chip.Receive(Written());
   EXPECT_EQ(chip.Pending(), std::nullopt);
-  const std::array<int, 19> expected{0x7F, 0xFB, 0xDF, 0x05, 0xF4, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0,
-                                     0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD7};
-  for (std::size_t at = 0; at < expected.size(); ++at) {
-    EXPECT_EQ(chip.Eeprom(237 + static_cast<int>(at)), expected[at]) << at;
+  const int expected[] = {0x7F, 0xFB, 0xDF, 0x45, 0xF4, 0x90, 0xD0, 0xD0, 0xD0, 0xD0,
+                          0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD0, 0xD7};
+  int location = 237;
+  for (const int byte : expected) {
+    EXPECT_EQ(chip.Eeprom(location), byte) << location;
+    ++location;
   }
 }
 
 TEST_F(EventWindow, ShowsTheNextRunWhatThisOneHeld) {
-  OpenEvents();
+  Open<frmButtons>();
   for (int row = 0; row < InputEventCount; ++row) {
-    ClickCheck(row % 2 == 0 ? "chPlay" : "chClear", row);
-    ClickCheck(row % 3 == 0 ? "chInt" : "chRestart", row);
+    ClickRow(row % 2 == 0 ? "chPlay" : "chClear", row);
+    ClickRow(row % 3 == 0 ? "chInt" : "chRestart", row);
     TypePhrase(row, QString::number(15 - row));
   }
-  ClickCheck("chPlay", 16);
+  ClickRow("chPlay", 16);
   TypePhrase(16, "12.5");
   for (const int option : {1, 2, 5, 6, 9, 10, 15}) {
-    Click(Indexed("optIO", option));
+    ClickRow("optIO", option);
   }
   Click("chAutoSil");
   const std::string sent = Written();
   const std::vector<int> chosen = ChosenOptions();
   window->close();
   const std::string file = ReadBytes(folder / "Loquitor.ini");
-  EXPECT_TRUE(
-      file.starts_with("[EEPROM]\r\nPlay0=1\r\nClear0=0\r\nRestart0=0\r\nInterupt0=1\r\n"
-                       "PhraseToPlay0=15\r\nPlay1=0\r\nClear1=1\r\nRestart1=1\r\n"))
-      << file;
-  EXPECT_TRUE(
-      file.ends_with("Play16=1\r\nPhraseToPlay16=12.5\r\n"
-                     "In7RC=False\r\nIn7TTL=True\r\nIn6RC=True\r\nIn6TTL=False\r\n"
-                     "Out0Chip=False\r\nOut0Phrase=True\r\nOut1Chip=True\r\n"
-                     "Out1Phrase=False\r\nOut2Chip=False\r\nOut2Phrase=True\r\n"
-                     "Out0On=True\r\nOut0Off=False\r\nOut1On=False\r\nOut1Off=False\r\n"
-                     "Out2On=False\r\nOut2Off=True\r\nAutoSilence=0\r\n"))
-      << file;
-  OpenEvents();
+  EXPECT_THAT(
+      file, ::testing::StartsWith("[EEPROM]\r\nPlay0=1\r\nClear0=0\r\nRestart0=0\r\nInterupt0=1\r\n"
+                                  "PhraseToPlay0=15\r\nPlay1=0\r\nClear1=1\r\nRestart1=1\r\n"));
+  EXPECT_THAT(
+      file, ::testing::EndsWith("Play16=1\r\nPhraseToPlay16=12.5\r\n"
+                                "In7RC=False\r\nIn7TTL=True\r\nIn6RC=True\r\nIn6TTL=False\r\n"
+                                "Out0Chip=False\r\nOut0Phrase=True\r\nOut1Chip=True\r\n"
+                                "Out1Phrase=False\r\nOut2Chip=False\r\nOut2Phrase=True\r\n"
+                                "Out0On=True\r\nOut0Off=False\r\nOut1On=False\r\nOut1Off=False\r\n"
+                                "Out2On=False\r\nOut2Off=True\r\nAutoSilence=0\r\n"));
+  Open<frmButtons>();
   EXPECT_EQ(ChosenOptions(), chosen);
   EXPECT_EQ(Written(), sent);
   window->close();
@@ -118,18 +110,18 @@ TEST_F(EventWindow, ReadsStoredStatesAsTheyAreMeant) {
              "[eeprom]\nPLAY0=2\nClear0=-1\nRestart0=True\nInterupt0=junk\nAutoSilence=0\n"
              "In7RC=true\nIn7TTL=1\n"  // both of a pair: the later one
              "Out0Chip=-1\nOut0Phrase=0\nUnknown=kept\n");
-  OpenEvents();
+  Open<frmButtons>();
   EXPECT_EQ(ChosenOptions(), (std::vector<int>{1, 4}));
   const std::string sent = Written();
-  EXPECT_TRUE(sent.starts_with(R"(\0RX\0240J32H00N)")) << sent;
-  EXPECT_NE(sent.find(R"(\0238J32HC1N)"), std::string::npos) << sent;
+  EXPECT_THAT(sent, ::testing::StartsWith(R"(\0RX\0240J32H00N)"));
+  EXPECT_THAT(sent, ::testing::HasSubstr(R"(\0238J32HC1N)"));
   window->close();
   EXPECT_EQ(settings.GetIniValue("EEPROM", "Unknown", ""), "kept");
   EXPECT_EQ(settings.GetIniValue("EEPROM", "Play0", ""), "1");
 }
 
 TEST_F(EventWindow, NormalisesANumberThatIsLeft) {
-  OpenEvents();
+  Open<frmButtons>();
   for (const auto& [typed, left] : {std::pair("7x", "7"), {"12.5", "12.5"}, {"abc", "0"}}) {
     TypePhrase(2, typed);
     QTest::keyClick(Get("txtPhrase(2)"), Qt::Key_Tab);
@@ -138,13 +130,12 @@ TEST_F(EventWindow, NormalisesANumberThatIsLeft) {
 }
 
 TEST_F(EventWindow, NamesTheRowsWhoseNumbersCannotBeSent) {
-  Stored("PhraseToPlay0", "2147483648");
-  Stored("PhraseToPlay3", "abc");
-  Stored("PhraseToPlay16", "7x");
-  OpenEvents();
+  WriteBytes(folder / "Loquitor.ini",
+             "[EEPROM]\nPhraseToPlay0=2147483648\nPhraseToPlay3=abc\nPhraseToPlay16=7x\n");
+  Open<frmButtons>();
   Type("txtSCPNode", "99999999999");
   EXPECT_EQ(Written(), "");
-  EXPECT_EQ(prompts.asked.at(0).text,
+  EXPECT_EQ(Told().join("|"),
             "Nothing was sent, because this is no number that can be written:\r\n\r\n"
             "Input #0 - Goes High: \"2147483648\"\r\nInput #1 - Goes Low: \"abc\"\r\n"
             "Power up & Reset: \"7x\"\r\nSCP Node: \"99999999999\"\r\n\r\n"
@@ -153,22 +144,22 @@ TEST_F(EventWindow, NamesTheRowsWhoseNumbersCannotBeSent) {
   EXPECT_TRUE(Get("btnWrite")->isEnabled());
   Reopen<frmButtons>();
   EXPECT_EQ(Get<TextBox>("txtPhrase(3)")->text(), "abc") << "stored as it was shown";
-  for (const char* row : {"txtPhrase(0)", "txtPhrase(3)", "txtPhrase(16)"}) {
-    Type(row, "0");
+  for (const int row : {0, 3, 16}) {
+    TypePhrase(row, "0");
   }
   Type("txtSCPNode", "node");
   EXPECT_EQ(Written(), FirstUse) << "no number means node 0";
 }
 
 TEST_F(EventWindow, TabsFromRowToRow) {
-  OpenEvents();
-  const QString order = TabOrder("chPlay(0)");
-  EXPECT_TRUE(order.startsWith("chPlay(0) txtPhrase(0) chClear(0) chInt(0) chRestart(0) chPlay(1)"))
-      << order.toStdString();
-  EXPECT_TRUE(order.endsWith(
-      "chPlay(16) txtPhrase(16) txtSCPNode chAutoSil optIO(0) optIO(2) optIO(4) optIO(6) optIO(8) "
-      "optIO(10) optIO(12) optIO(14) btnWrite btnShutUp btnDone"))
-      << order.toStdString();
+  Open<frmButtons>();
+  const std::string order = TabOrder("chPlay(0)").toStdString();
+  EXPECT_THAT(order, ::testing::StartsWith("chPlay(0) txtPhrase(0) chClear(0) chInt(0) "
+                                           "chRestart(0) chPlay(1)"));
+  EXPECT_THAT(order, ::testing::EndsWith(
+                         "chPlay(16) txtPhrase(16) txtSCPNode chAutoSil optIO(0) optIO(2) "
+                         "optIO(4) optIO(6) optIO(8) optIO(10) optIO(12) optIO(14) btnWrite "
+                         "btnShutUp btnDone"));
 }
 
 }  // namespace

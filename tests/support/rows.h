@@ -10,6 +10,8 @@ namespace loquitor::testing {
 template <class... Columns>
 using Rows = std::vector<std::tuple<Columns...>>;
 
+using TextPairs = Rows<const char*, const char*>;
+
 /// All 256 bytes, in order.
 inline std::string EveryByte() {
   std::string bytes;

@@ -1,15 +1,21 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QApplication>
 #include <QTest>
+#include <QTimer>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
 
 #include "tests/support/program.h"
+#include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
+#include "ui/toolkit/check_box.h"
+#include "ui/toolkit/scroll_bar.h"
+#include "ui/toolkit/text_area.h"
 #include "ui/toolkit/text_box.h"
 #include "ui/toolkit/tool_window.h"
 
@@ -31,6 +37,15 @@ class WindowTest : public ::testing::Test, protected InFolder, protected Program
 
   /// What has gone out on the line since the last call.
   std::string Sent() { return port.TakeWritten(); }
+
+  /// What the boxes that have come up said.
+  QStringList Told() const {
+    QStringList texts;
+    for (const auto& asked : prompts.asked) {
+      texts.push_back(asked.text);
+    }
+    return texts;
+  }
 };
 
 /// A test of one window, with verbs for what its user does.
