@@ -153,7 +153,7 @@ TEST_F(EventWindow, NamesTheRowsWhoseNumbersCannotBeSent) {
 
 TEST_F(EventWindow, TabsFromRowToRow) {
   Open<frmButtons>();
-  const std::string order = TabOrder("chPlay(0)").toStdString();
+  const std::string order = TabOrder("chPlay(0)");
   EXPECT_THAT(order, ::testing::StartsWith("chPlay(0) txtPhrase(0) chClear(0) chInt(0) "
                                            "chRestart(0) chPlay(1)"));
   EXPECT_THAT(order, ::testing::EndsWith(

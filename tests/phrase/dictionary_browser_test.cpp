@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "tests/phrase/phrase_window.h"
 #include "ui/phrase/dictionary_words.h"
 

@@ -1,7 +1,5 @@
 #include "ui/phrase/frm_phrase.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 #include "tests/phrase/phrase_window.h"
@@ -12,28 +10,26 @@ namespace {
 
 class FrmPhraseTest : public PhraseWindowTest {
  protected:
-  /// The text of the codes viewer that pressing the button opens.
+  /// The text of the one codes viewer that a double click on the button opens.
   std::string CodesShownBy(const char* zButton) {
-    std::string shown = "no viewer";
+    std::vector<std::string> shown;
     QTimer whenOpen;
     QObject::connect(&whenOpen, &QTimer::timeout, window.get(), [&] {
       if (auto* viewer = qobject_cast<frmCodes*>(QApplication::activeModalWidget())) {
         EXPECT_EQ(viewer->parentWidget(), window.get());
-        shown = viewer->findChild<TextArea*>("txtCodes")->Text();
-        ++viewersShown;
+        shown.push_back(viewer->findChild<TextArea*>("txtCodes")->Text());
         viewer->close();
       }
     });
     whenOpen.start(1);
+    QTimer::singleShot(0, window.get(), [=, this] { Press(zButton); });
     Press(zButton);
-    return shown;
+    EXPECT_EQ(shown.size(), 1u) << zButton;
+    return shown.empty() ? "no viewer" : shown.back();
   }
-
-  int viewersShown = 0;
 };
 
 TEST_F(FrmPhraseTest, StartsWithTheTextsOfItsOpenerAndReturnsThemByDoneAlone) {
-  Open();
   EXPECT_EQ(SayData(), "|");
   EXPECT_EQ(Box("txtDict")->Text(), "");
   for (const bool isDone : {false, true}) {
@@ -54,7 +50,6 @@ TEST_F(FrmPhraseTest, StartsWithTheTextsOfItsOpenerAndReturnsThemByDoneAlone) {
 
 TEST_F(FrmPhraseTest, SaysTheWholeTextOrTheSelection) {
   GivenDictionary("hello=\\HE \\EH \\LO \\OW\r\n");
-  Open();
   for (const bool isApplied : {true, false}) {
     Tick("chkApplyControlsBeforeSayData", isApplied);
     Tick("chkApplyControlsBeforeSounds", !isApplied);
@@ -79,8 +74,7 @@ TEST_F(FrmPhraseTest, SaysTheWholeTextOrTheSelection) {
   EXPECT_EQ(Sent(), "");
 }
 
-TEST_F(FrmPhraseTest, ShowsTheCodesAndSendsNothing) {
-  Open();
+TEST_F(FrmPhraseTest, ShowsTheCodesInOneViewerAndSendsNothing) {
   GivenSayData("\\IY [\\P0]");
   EXPECT_EQ(CodesShownBy("btnCodes"), "20, 96, 21, 114, 22, 88, 23, 5, 128, 0");
   Tick("chkApplyControlsBeforeSayData", false);
@@ -88,16 +82,6 @@ TEST_F(FrmPhraseTest, ShowsTheCodesAndSendsNothing) {
   GivenSayData("|\\IY");
   EXPECT_EQ(CodesShownBy("Command2"), "");
   EXPECT_EQ(Sent(), "");
-}
-
-TEST_F(FrmPhraseTest, OpensOneViewerForADoubleClick) {
-  Open();
-  for (const char* button : {"btnCodes", "Command2"}) {
-    viewersShown = 0;
-    QTimer::singleShot(0, window.get(), [&] { Press(button); });
-    CodesShownBy(button);
-    EXPECT_EQ(viewersShown, 1) << button;
-  }
 }
 
 TEST_F(FrmPhraseTest, InsertsAtTheCaretOrOverTheSelectionAndTakesItBack) {
@@ -109,11 +93,10 @@ TEST_F(FrmPhraseTest, InsertsAtTheCaretOrOverTheSelectionAndTakesItBack) {
       {"a[b] c", "x", "ax | c"},
       {"[all]", "", " |"},
       {"a|\xA0z", "\xE9", "a\xE9 |\xA0z"}};
-  Open();
   for (const auto& [before, text, after] : rows) {
     GivenSayData(before);
     const std::string old = SayDataBox()->Text();
-    window->InsertIntoSayData(text);
+    Editor().InsertIntoSayData(text);
     EXPECT_EQ(SayData(), after) << before;
     Press("btnClear");
     EXPECT_EQ(SayData(), "|");
@@ -124,7 +107,6 @@ TEST_F(FrmPhraseTest, InsertsAtTheCaretOrOverTheSelectionAndTakesItBack) {
 }
 
 TEST_F(FrmPhraseTest, ShutsUpInMidPhrase) {
-  Open();
   GivenSayData("\\IY \\EH \\AX \\OW|");
   port.onByte = [this] {
     if (port.written.size() == 10) {
@@ -136,7 +118,6 @@ TEST_F(FrmPhraseTest, ShutsUpInMidPhrase) {
 }
 
 TEST_F(FrmPhraseTest, DisablesTheButtonThatIsAtWorkAndTakesKeysForTheSayData) {
-  Open();
   port.isHeldBack = true;
   WhileSending([this] {
     EXPECT_FALSE(Get<QPushButton>("bntSayIt")->isEnabled());
@@ -154,7 +135,6 @@ TEST_F(FrmPhraseTest, DisablesTheButtonThatIsAtWorkAndTakesKeysForTheSayData) {
 }
 
 TEST_F(FrmPhraseTest, ClosesWhileTheLineIsHeldBackForEver) {
-  Open();
   port.isHeldBack = true;
   GivenSayData("\\IY|");
   WhileSending([this] {
@@ -187,7 +167,6 @@ TEST_F(FrmPhraseTest, DoesNothingMoreWhenItIsClosedAsAnActionBegins) {
 }
 
 TEST_F(FrmPhraseTest, KeepsWhatLiesOutsideItsFrameOutOfReachAndNothingElse) {
-  Open();
   std::set<QString> hidden;
   for (const QWidget* control : window->findChildren<QWidget*>()) {
     if (control->isHidden() && !control->objectName().startsWith("qt_")) {

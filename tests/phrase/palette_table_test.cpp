@@ -1,21 +1,19 @@
 #include "ui/phrase/palette_table.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
 #include <set>
 
-#include "core/code_table.h"
-#include "tests/support/rows.h"
+#include "tests/support/window_test.h"
+#include "ui/phrase/neighbour.h"
 
 namespace loquitor::testing {
 namespace {
 
-class PaletteTableTest : public ::testing::Test {
- protected:
-  PaletteTableTest() { table.BuildCodeTable(); }
+using enum Direction;
 
-  CodeTable table;
+class PaletteTableTest : public WindowTest {
+ protected:
+  const CodeTable& table = codeTable;
 };
 
 TEST_F(PaletteTableTest, HoldsEveryMnemonicOfTheCodeTableOnceButTheVoiceSettings) {
@@ -40,10 +38,8 @@ TEST_F(PaletteTableTest, NumbersCodesAndIndexesOfTheGeneratedRowsAlike) {
   for (const auto& [index, code, caption, place, tooltip] :
        Rows<int, int, const char*, TwipRect, const char*>{
            {72, 200, "R0", {1050, 240, 525, 255}, ""},
-           {101, 229, "B9", {6180, 780, 525, 255}, ""},
            {123, 251, "D11", {7320, 1320, 525, 255}, ""},
            {125, 253, "M1", {7080, 690, 465, 255}, "Pistol Shot"},
-           {196, 301, "NTC1", {60, 630, 615, 255}, "Set the Pitch to the Frequency for C1"},
            {170, 342, "NTC#3", {1380, 900, 615, 255}, "Set the Pitch to the Frequency for C#3"},
            {180, 332, "NTB2", {720, 3600, 615, 255}, "Set the Pitch to the Frequency for B2"},
            {50, 178, "GE", {1440, 240, 585, 255}, "Get, Gate, Guest,"}}) {
@@ -66,6 +62,53 @@ TEST_F(PaletteTableTest, LaysNoTwoMembersOfAFrameOverEachOther) {
     frames[member.frame].push_back(place);
   }
   EXPECT_EQ(frames.size(), 14u);
+}
+
+/// The members of one frame.
+struct FrameMap {
+  explicit FrameMap(std::string_view zFrame) {
+    for (const PaletteMember& member : PaletteTable) {
+      if (member.frame == zFrame) {
+        captions.emplace_back(member.caption.Text());
+        places.push_back(member.place);
+      }
+    }
+  }
+
+  std::vector<std::string> captions;
+  std::vector<TwipRect> places;
+};
+
+TEST(Neighbour, FollowsRowsAndColumns) {
+  const Rows<const char*, const char*, Direction, const char*> rows = {
+      {"Frame1", "IY", Right, "UW"},     {"Frame1", "IY", Down, "IH"},
+      {"Frame1", "IY", Left, "IY"},      {"Frame1", "AX", Left, "EY"},
+      {"Frame1", "AY", Down, "AY"},      {"Frame4", "AXUW", Down, "EHLE"},
+      {"Frame4", "EHLE", Right, "IHWW"}, {"Frame8", "R9", Right, "M0"},
+      {"Frame8", "D11", Up, "M2"},       {"Frame13", "NTB3", Up, "NTA#3"},
+      {"Frame14", "P3", Right, "Delay"}, {"Frame14", "Wait", Left, "P4"}};
+  for (const auto& [frame, from, way, to] : rows) {
+    const FrameMap map(frame);
+    const auto at = std::find(map.captions.begin(), map.captions.end(), from);
+    const auto current = static_cast<std::size_t>(at - map.captions.begin());
+    EXPECT_EQ(map.captions.at(NeighbourOf(map.places, current, way)), to) << "from " << from;
+  }
+}
+
+TEST(Neighbour, LeadsFromEveryFramesFirstMemberToAllOfThem) {
+  for (const PaletteMember& member : PaletteTable) {
+    const FrameMap map(member.frame);
+    std::set<std::size_t> reached{0};
+    for (std::size_t before = 0; before != reached.size();) {
+      before = reached.size();
+      for (const std::size_t from : std::set(reached)) {
+        for (const Direction way : {Left, Right, Up, Down}) {
+          reached.insert(NeighbourOf(map.places, from, way));
+        }
+      }
+    }
+    EXPECT_EQ(reached.size(), map.places.size()) << member.frame;
+  }
 }
 
 }  // namespace

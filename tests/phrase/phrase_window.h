@@ -3,41 +3,24 @@
 #include <QDialog>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTimer>
-#include <algorithm>
-#include <functional>
-#include <memory>
-#include <string>
 
 #include "tests/support/real_mouse.h"
-#include "tests/support/rows.h"
 #include "tests/support/window_test.h"
 #include "ui/phrase/frm_phrase.h"
-#include "ui/toolkit/check_box.h"
 #include "ui/toolkit/click_label.h"
-#include "ui/toolkit/form.h"
-#include "ui/toolkit/scroll_bar.h"
-#include "ui/toolkit/text_area.h"
-#include "ui/toolkit/text_box.h"
 
 namespace loquitor::testing {
 
 /// The control-code prefix of the default voice settings.
 inline const std::string DefaultPrefix = "\x14\x60\x15\x72\x16\x58\x17\x05";
 
-/// The phrase editor, opened, with verbs for what its user does.
-class PhraseWindowTest : public WindowTest {
+/// The phrase editor, open, with verbs for what its user does.
+class PhraseWindowTest : public ToolWindowTest {
  protected:
-  void Open() {
-    window = std::make_unique<frmPhrase>(nullptr, context);
-    window->Open();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  }
+  void SetUp() override { Open(); }
+  void Open() { ToolWindowTest::Open<frmPhrase>(); }
+  frmPhrase& Editor() { return static_cast<frmPhrase&>(*window); }
 
-  template <class T>
-  T* Get(const char* zName) {
-    return Form(window.get()).Get<T>(zName);
-  }
   ClickLabel* Member(std::string_view zCaption) {
     for (ClickLabel* label : window->findChildren<ClickLabel*>()) {
       if (label->text() == QLatin1String(zCaption.data())) {
@@ -47,8 +30,6 @@ class PhraseWindowTest : public WindowTest {
     throw std::invalid_argument("no member " + std::string(zCaption));
   }
   TextArea* SayDataBox() { return Get<TextArea>("txtSayData"); }
-  TextBox* Box(const char* zName) { return Get<TextBox>(zName); }
-  ScrollBar* Bar(const char* zName) { return Get<ScrollBar>(zName); }
 
   void Press(const char* zButton) { QTest::mouseClick(Get<QPushButton>(zButton), Qt::LeftButton); }
   void Tick(const char* zCheckBox, bool zIsTicked) {
@@ -88,14 +69,6 @@ class PhraseWindowTest : public WindowTest {
     timer->start(1);
   }
 
-  /// Types a text into a box in place of what it holds; the focus stays there.
-  void Type(const char* zBox, const char* zText) {
-    Box(zBox)->setFocus();
-    Box(zBox)->selectAll();
-    QTest::keyClick(Box(zBox), Qt::Key_Delete);
-    QTest::keyClicks(Box(zBox), zText);
-  }
-
   /// The Say Data with the selection in brackets, or the caret as a bar.
   std::string SayData() {
     std::string text = SayDataBox()->Text();
@@ -117,8 +90,6 @@ class PhraseWindowTest : public WindowTest {
     SayDataBox()->SetText(zMarked);
     SayDataBox()->Select(static_cast<int>(start), static_cast<int>(length));
   }
-
-  std::unique_ptr<frmPhrase> window;
 };
 
 }  // namespace loquitor::testing

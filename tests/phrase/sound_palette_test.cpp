@@ -1,7 +1,5 @@
 #include "ui/phrase/sound_palette.h"
 
-#include <gmock/gmock.h>
-
 #include "tests/phrase/phrase_window.h"
 #include "ui/phrase/sound_command.h"
 
@@ -13,7 +11,11 @@ using ::testing::HasSubstr;
 
 class SoundPaletteTest : public PhraseWindowTest {
  protected:
-  void SetUp() override { Open(); }
+  void Focus(const char* zFrame) { Get(zFrame)->setFocus(Qt::TabFocusReason); }
+  void Key(Qt::Key zKey, Qt::KeyboardModifiers zModifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), zKey, zModifiers);
+  }
+  QImage Picture(const char* zCaption) { return Member(zCaption)->grab().toImage(); }
 };
 
 TEST(SoundCommand, ReadsAValueBoxAsAByte) {
@@ -140,16 +142,7 @@ TEST_F(SoundPaletteTest, AsksAboutWaitOnceAtAClickAndAtADoubleClick) {
   }
 }
 
-class PaletteKeysTest : public SoundPaletteTest {
- protected:
-  void Focus(const char* zFrame) { Get<QWidget>(zFrame)->setFocus(Qt::TabFocusReason); }
-  void Key(Qt::Key zKey, Qt::KeyboardModifiers zModifiers = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), zKey, zModifiers);
-  }
-  QImage Picture(const char* zCaption) { return Member(zCaption)->grab().toImage(); }
-};
-
-TEST_F(PaletteKeysTest, MovePlayAndInsert) {
+TEST_F(SoundPaletteTest, TheKeysMovePlayAndInsert) {
   Focus("Frame1");
   Key(Qt::Key_Space);
   EXPECT_EQ(Sent(), DefaultPrefix + "\x80");
@@ -160,7 +153,7 @@ TEST_F(PaletteKeysTest, MovePlayAndInsert) {
   Key(Qt::Key_Insert);
   Key(Qt::Key_End);
   Key(Qt::Key_Enter, Qt::ControlModifier);
-  EXPECT_TRUE(Get<QWidget>("Frame1")->hasFocus());
+  EXPECT_TRUE(Get("Frame1")->hasFocus());
   Focus("Frame9");
   Key(Qt::Key_Space);
   Key(Qt::Key_Insert);
@@ -174,9 +167,16 @@ TEST_F(PaletteKeysTest, MovePlayAndInsert) {
   Focus("Frame5");
   Key(Qt::Key_Enter);
   EXPECT_EQ(Sent(), DefaultPrefix + "\xAC") << "starts at the member clicked last";
+  Press("btnClear");
+  Type("txtCall", "1 2");
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Insert, Qt::Key_Down}) {
+    Key(key);
+  }
+  EXPECT_EQ(Box("txtCall")->Text() + Sent() + SayData(), "1 2|")
+      << "a value box has its keys alone";
 }
 
-TEST_F(PaletteKeysTest, MarkTheCurrentMemberVisiblyAndDescribeIt) {
+TEST_F(SoundPaletteTest, TheKeysMarkTheCurrentMemberVisiblyAndDescribeIt) {
   const QImage plain = Picture("IY");
   Focus("Frame1");
   EXPECT_NE(Picture("IY"), plain);
@@ -189,29 +189,14 @@ TEST_F(PaletteKeysTest, MarkTheCurrentMemberVisiblyAndDescribeIt) {
   EXPECT_EQ(Member("IY")->accessibleDescription(), "See, Even, Feed");
 }
 
-TEST_F(PaletteKeysTest, AreLeftAloneInAValueBox) {
-  Type("txtCall", "1 2");
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Insert, Qt::Key_Down}) {
-    Key(key);
-  }
-  EXPECT_EQ(Sent(), "");
-  EXPECT_EQ(SayData(), "|");
-  EXPECT_EQ(Box("txtCall")->Text(), "1 2");
-}
-
-TEST_F(PaletteKeysTest, StopOnceInEachFrameInTheOrderOfTheEye) {
-  std::string stops;
-  do {
-    stops += QApplication::focusWidget()->objectName().toStdString() + " ";
-    Key(Qt::Key_Tab);
-  } while (QApplication::focusWidget() != SayDataBox() && stops.size() < 2000);
-  EXPECT_EQ(stops,
+TEST_F(SoundPaletteTest, TheTabKeyStopsOnceInEachFrameInTheOrderOfTheEye) {
+  EXPECT_EQ(TabOrder("txtSayData"),
             "txtSayData bntSayIt btnSaySelection btnClear btnCodes Command2 "
             "txtDict cmdLoadOver cmdLoadInsert btnNextWord chkWith chkWithout cmdSave "
             "btnShutUp btnDone Frame14 TxtDelay Frame1 Frame4 Frame3 Frame12 "
             "Frame2 Frame5 Frame6 Frame7 Frame13 Frame8 Frame16 txtCall txtPlay txtPCtrl txtPOut "
             "Frame9 txtVolume scVolume txtSpeed scSpeed txtPitch scPitch txtBend scBend "
-            "chkApplyControlsBeforeSounds chkApplyControlsBeforeSayData Frame11 txtRepeat ");
+            "chkApplyControlsBeforeSounds chkApplyControlsBeforeSayData Frame11 txtRepeat");
 }
 
 }  // namespace

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "tests/phrase/phrase_window.h"
 #include "ui/phrase/voice_values.h"
 
@@ -8,8 +6,6 @@ namespace {
 
 class VoiceControlsTest : public PhraseWindowTest {
  protected:
-  void SetUp() override { Open(); }
-
   /// The bytes of the prefix as it would go out now.
   std::string Prefix() {
     Press("bntSayIt");
@@ -31,7 +27,7 @@ TEST(VoiceValues, CommitTypedTexts) {
   }
 }
 
-TEST_F(VoiceControlsTest, TakeTypedValuesWhenTheFocusLeaves) {
+TEST_F(VoiceControlsTest, TakeTypedValuesWhenTheFocusLeavesAndInsertThemAtADoubleClick) {
   const Rows<const char*, const char*, int> rows = {
       {"7.5", "8", 8}, {"7.5", "7.5", 8}, {"12abc", "12", 12}, {"300", "15", 15}};
   for (const auto& [typed, text, value] : rows) {
@@ -42,6 +38,12 @@ TEST_F(VoiceControlsTest, TakeTypedValuesWhenTheFocusLeaves) {
     EXPECT_EQ(Bar("scBend")->value(), value) << typed;
     EXPECT_EQ(Box("txtBend")->Text(), text);
   }
+  DoubleClick("Bend");
+  Type("txtPitch", "200");
+  DoubleClick("Pitch");
+  EXPECT_EQ(Bar("scPitch")->value(), 200);
+  EXPECT_EQ(SayData(), "\\BEND \\15 \\PITCH \\200 |");
+  EXPECT_EQ(Sent(), "") << "nothing is said";
   GivenBoxesThatSwallowClicks();
   Type("txtBend", "3");
   prompts.whileOpen();
@@ -74,15 +76,6 @@ TEST_F(VoiceControlsTest, MoveByArrowAndPage) {
     bar->triggerAction(QAbstractSlider::SliderToMaximum);
   }
   EXPECT_EQ(Prefix(), "\x14\x7F\x15\x7F\x16\xFF\x17\x0F");
-}
-
-TEST_F(VoiceControlsTest, InsertTheSettingAtADoubleClickOnTheLabel) {
-  Type("txtPitch", "200");
-  DoubleClick("Pitch");
-  EXPECT_EQ(Bar("scPitch")->value(), 200);
-  DoubleClick("Bend");
-  EXPECT_EQ(SayData(), "\\PITCH \\200 \\BEND \\5 |");
-  EXPECT_EQ(Sent(), "") << "nothing is said";
 }
 
 }  // namespace

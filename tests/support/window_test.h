@@ -77,24 +77,27 @@ class ToolWindowTest : public WindowTest {
     auto* control = Get(zName);
     QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
   }
-  /// Types over what a box holds; the focus stays there.
+  TextBox* Box(const QString& zName) { return Get<TextBox>(zName); }
+  ScrollBar* Bar(const QString& zName) { return Get<ScrollBar>(zName); }
+
+  /// Types a text in place of what a box holds; the focus stays there.
   void Type(const QString& zBox, const QString& zText) {
-    auto* box = Get<TextBox>(zBox);
-    box->setFocus();
-    box->selectAll();
-    QTest::keyClicks(box, zText);
+    Box(zBox)->setFocus();
+    Box(zBox)->selectAll();
+    QTest::keyClick(Box(zBox), Qt::Key_Delete);
+    QTest::keyClicks(Box(zBox), zText);
   }
 
-  /// The names of all Tab stops, from the given one on.
-  QString TabOrder(const QString& zFirst) {
+  /// The names of all Tab stops that can be reached, from the given one on.
+  std::string TabOrder(const QString& zFirst) {
     QWidget* first = Get(zFirst);
     QString order = zFirst;
     for (QWidget* at = first->nextInFocusChain(); at != first; at = at->nextInFocusChain()) {
-      if ((at->focusPolicy() & Qt::TabFocus) != 0 && at != window.get()) {
+      if ((at->focusPolicy() & Qt::TabFocus) != 0 && at->isVisible() && at != window.get()) {
         order += ' ' + at->objectName();
       }
     }
-    return order;
+    return order.toStdString();
   }
 
   std::unique_ptr<ToolWindow> window;

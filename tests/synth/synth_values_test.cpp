@@ -15,7 +15,7 @@ TEST_F(SynthTest, OpeningSendsTheResetAndEveryRegisterOnce) {
   EXPECT_EQ(Box("txtVol(5)")->text(), "0");
   EXPECT_EQ(Value("scFreqAdjTone"), 100);
   EXPECT_EQ(Bar("scVol(2)")->accessibleName(), "Oscillator #2 Volume");
-  EXPECT_EQ(TabOrder("txtLevel(1)").toStdString(),
+  EXPECT_EQ(TabOrder("txtLevel(1)"),
             "txtLevel(1) txtEnvFreq txtFreq(1) txtVol(1) txtFreq(2) txtVol(2) txtFreq(3) txtVol(3) "
             "txtLevel(0) txtFreq(4) txtVol(4) txtFreq(5) txtVol(5) scLevel(1) scEnvolopeFreq "
             "scFreq(1) scVol(1) scFreq(2) scVol(2) scFreq(3) scVol(3) scLevel(0) scFreq(4) "
