@@ -146,8 +146,7 @@ TEST_F(SynthTest, TheWindowOpensWorksAndClosesOnALineThatNeverTakesAByte) {
   EXPECT_EQ(Sent(), "");
 }
 
-TEST_F(SynthTest, ClosingGoesOnWhenTheLineIsFreeAgain) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, ClosingGoesOnWhenTheLineIsFreeAgain) {
   Given("scVol", {5});
   port.isHeldBack = true;
   After(0, [this] { Press("btnDone"); });
@@ -204,8 +203,7 @@ TEST_F(SynthTest, AWriterThatGivesUpLeavesTheSendOfAnotherWindowAlone) {
   EXPECT_EQ(Sent(), "\x1f");
 }
 
-TEST_F(SynthTest, ShutUpStopsALoadUnderWay) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, ShutUpStopsALoadUnderWay) {
   GivenSounds("Loud", LoudSound);
   port.onByte = [this] {
     if (port.written.size() == 12) {  // the first whole write and the beginning of the next
@@ -231,8 +229,7 @@ TEST_F(SynthTest, APortThatVanishesOrDoesNotOpenLeavesTheWindowWorking) {
   EXPECT_EQ(Sent(), Reset + Writes({{1, 0}, {8, 0}}));
 }
 
-TEST_F(SynthTest, AClickAwayFromABoxArrivesThoughItsWriteLetsTheReleaseIn) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, AClickAwayFromABoxArrivesThoughItsWriteLetsTheReleaseIn) {
   Type("txtFreq(1)", "44");
   auto* box = Get<CheckBox>("Check2(1)");
   const QPoint place = box->mapTo(window.get(), box->rect().center());

@@ -6,17 +6,41 @@
 #include <QCompleter>
 #include <QWheelEvent>
 #include <csignal>
-#include <filesystem>
+#include <limits>
 
 #include "tests/synth/synth_test.h"
+#include "ui/synth/sound_name.h"
+#include "ui/synth/synth_registers.h"
 
 namespace loquitor::testing {
 namespace {
 
 using ::testing::ElementsAre;
 
-TEST_F(SynthTest, HarmoniseMovesTheToneGeneratorsAlone) {
-  GivenOpenWindow();
+TEST(SynthRegisters, HarmoniseFindsTheNearestMultipleThatFits) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const Rows<int, double, int> rows = {{54, 110, 0},       {55, 110, 110},    {3999, 110, 3960},
+                                       {0, 110, 0},        {3999, 1, 3999},   {7, 2.5, 8},
+                                       {6, 2.5, 5},        {9, 2.5, 10},      {3600, 1000, 3000},
+                                       {2500, 4000, 0},    {1999, 3999, 0},   {2000, 3999, 3999},
+                                       {3999, 3999.5, 0},  {3999, 0.3, 3999}, {440, 1e-300, 440},
+                                       {440, 5e-324, 440}, {3999, 1e300, 0},  {3999, infinity, 0}};
+  for (const auto& [frequency, base, expected] : rows) {
+    EXPECT_EQ(HarmonisedFrequency(frequency, base), expected) << frequency << " by " << base;
+  }
+}
+
+TEST(SoundName, SaysWhichNamesASectionCannotHold) {
+  for (const char* good : {"Bell", "Big Ben", "[", "a[b", ";x", "a=b", "\xC4ol", "\"q\"", "'"}) {
+    EXPECT_EQ(FaultOfSoundName(good), "") << good;
+  }
+  for (const char* bad : {"", " ", "\t ", " Bell", "Bell ", "a]b", "]", "a\nb", "a\rb", "a\tb"}) {
+    EXPECT_NE(FaultOfSoundName(bad), "") << bad;
+  }
+  EXPECT_NE(FaultOfSoundName(std::string_view("a\0b", 3)), "");
+}
+
+TEST_F(OpenSynthTest, HarmoniseMovesTheToneGeneratorsAlone) {
   Given("scFreq", {100, 170, 3999, 100, 170});
   Click("Command1");
   EXPECT_EQ(Sent(), Writes({{1, 110}, {2, 220}, {3, 3960}}));
@@ -35,8 +59,7 @@ TEST_F(SynthTest, HarmoniseMovesTheToneGeneratorsAlone) {
   EXPECT_EQ(Sent(), Writes({{1, 0}, {2, 0}, {3, 3000}}));
 }
 
-TEST_F(SynthTest, TheAdjustToolsScaleFromTheirBases) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, TheAdjustToolsScaleFromTheirBases) {
   Given("scVol", {10, 20, 31, 9, 9});
   Given("scFreq", {2000, 3999, 3, 9, 9});
   Press("Command2");
@@ -54,8 +77,7 @@ TEST_F(SynthTest, TheAdjustToolsScaleFromTheirBases) {
   EXPECT_THAT(Values("scFreq"), ElementsAre(2000, 3999, 3, 9, 9));
 }
 
-TEST_F(SynthTest, AnAdjustBarRebasesBeforeThePressThatBringsTheFocusMovesIt) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, AnAdjustBarRebasesBeforeThePressThatBringsTheFocusMovesIt) {
   for (const auto& [bar, stem] :
        {std::pair{"scVolAdjTone", "scVol"}, std::pair{"scFreqAdjTone", "scFreq"}}) {
     Bar(bar)->setValue(170);
@@ -67,8 +89,7 @@ TEST_F(SynthTest, AnAdjustBarRebasesBeforeThePressThatBringsTheFocusMovesIt) {
   }
 }
 
-TEST_F(SynthTest, ASoundIsSavedUnderItsNameAndNothingIsSent) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, ASoundIsSavedUnderItsNameAndNothingIsSent) {
   Given("scFreq", {440, 0, 3999});
   Given("scVol", {20, 31});
   GivenSounds("Bell", "; mine\r\n[Other]\r\nFreq1=5\r\n");
@@ -90,8 +111,7 @@ TEST_F(SynthTest, ASoundIsSavedUnderItsNameAndNothingIsSent) {
   EXPECT_EQ(ReadBytes(Library()), first) << "no half of a sound on a full disk";
 }
 
-TEST_F(SynthTest, LoadingWritesOnlyWhatDiffersOscillatorByOscillator) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, LoadingWritesOnlyWhatDiffersOscillatorByOscillator) {
   Given("scVol", {20, 5, 5});
   GivenSounds("bell",
               "[Bell]\nFreq1=440\nVol1=20\nFreq2=9999\nVol2=-3\nFreq3=2.5\nVol3=x\nVol4=1e9\n");
@@ -103,8 +123,7 @@ TEST_F(SynthTest, LoadingWritesOnlyWhatDiffersOscillatorByOscillator) {
   EXPECT_TRUE(prompts.asked.empty());
 }
 
-TEST_F(SynthTest, AWrongNameIsRefusedAndALibraryThatCannotBeUsedIsPassedOver) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, AWrongNameIsRefusedAndALibraryThatCannotBeUsedIsPassedOver) {
   Given("scFreq", {440});
   for (const char* button : {"btnSave", "btnLoad"}) {
     prompts.asked.clear();
@@ -124,8 +143,7 @@ TEST_F(SynthTest, AWrongNameIsRefusedAndALibraryThatCannotBeUsedIsPassedOver) {
   EXPECT_TRUE(prompts.asked.empty());
 }
 
-TEST_F(SynthTest, TheSoundBoxOffersTheNamesThatAreThereNow) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, TheSoundBoxOffersTheNamesThatAreThereNow) {
   GivenSounds("", "[Bell]\nFreq1=1\n[Siren]\n[bird \xE9]\nFreq1=2\n");
   TextBox* box = Box("txtSound");
   QAbstractItemView* list = box->completer()->popup();
@@ -198,8 +216,7 @@ TEST_F(SynthTest, APieceIsPlayedByteForByte) {
   expectSent(Reset + Writes({{8, 0}}));
 }
 
-TEST_F(SynthTest, TheWheelRebasesBeforeItTurns) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, TheWheelRebasesBeforeItTurns) {
   Given("scFreq", {1000, 2000, 3000});
   Box("txtVol(4)")->setFocus();
   QTest::keyClicks(Box("txtVol(4)"), "9");

@@ -5,8 +5,7 @@
 namespace loquitor::testing {
 namespace {
 
-TEST_F(SynthTest, OpeningSendsTheResetAndEveryRegisterOnce) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, OpeningSendsTheResetAndEveryRegisterOnce) {
   EXPECT_EQ(opening, Reset +
                          Writes({{11, 0}, {12, 0}, {13, 0}, {14, 0}, {15, 0}, {0, 88}, {1, 0}}) +
                          Writes({{2, 0}, {3, 0}, {4, 0}, {5, 0}, {6, 0}, {7, 96}, {8, 0}}));
@@ -23,21 +22,16 @@ TEST_F(SynthTest, OpeningSendsTheResetAndEveryRegisterOnce) {
             "btnLoad btnSave Command2 scVolAdjTone Command1 txtHFreq Command3 scFreqAdjTone");
 }
 
-TEST_F(SynthTest, EveryBarShowsAndWritesItsValue) {
-  GivenOpenWindow();
-  const struct {
-    const char* bar;
-    const char* box;
-    int number;
-    int maximum;
-    int page;
-  } rows[] = {
-      {"scVol(1)", "txtVol(1)", 11, 31, 4},         {"scVol(5)", "txtVol(5)", 15, 31, 4},
-      {"scFreq(1)", "txtFreq(1)", 1, 3999, 22},     {"scFreq(5)", "txtFreq(5)", 5, 3999, 22},
-      {"scLevel(1)", "txtLevel(1)", 7, 127, 4},     {"scLevel(0)", "txtLevel(0)", 6, 255, 16},
-      {"scEnvolopeFreq", "txtEnvFreq", 0, 255, 22},
-  };
-  for (const auto& [name, box, number, maximum, page] : rows) {
+TEST_F(OpenSynthTest, EveryBarShowsAndWritesItsValue) {
+  using Bars = Rows<const char*, const char*, int, int, int>;
+  for (const auto& [name, box, number, maximum, page] :
+       Bars{{"scVol(1)", "txtVol(1)", 11, 31, 4},
+            {"scVol(5)", "txtVol(5)", 15, 31, 4},
+            {"scFreq(1)", "txtFreq(1)", 1, 3999, 22},
+            {"scFreq(5)", "txtFreq(5)", 5, 3999, 22},
+            {"scLevel(1)", "txtLevel(1)", 7, 127, 4},
+            {"scLevel(0)", "txtLevel(0)", 6, 255, 16},
+            {"scEnvolopeFreq", "txtEnvFreq", 0, 255, 22}}) {
     ScrollBar* bar = Bar(name);
     bar->setValue(maximum + 1);
     bar->setValue(maximum);
@@ -56,8 +50,7 @@ TEST_F(SynthTest, EveryBarShowsAndWritesItsValue) {
   }
 }
 
-TEST_F(SynthTest, EnvelopeTypesAndBoxesWriteTheControlByte) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, EnvelopeTypesAndBoxesWriteTheControlByte) {
   for (const char* button : {"Option1(3)", "Check2(0)", "Check2(1)", "Option1(1)", "Option1(2)"}) {
     Click(button);
   }
@@ -67,15 +60,10 @@ TEST_F(SynthTest, EnvelopeTypesAndBoxesWriteTheControlByte) {
 }
 
 TEST_F(SynthTest, ShutUpAndClosingWriteTheResetAndWhatMoves) {
-  const struct {
-    const char* how;
-    std::function<void()> act;
-    std::string envelope;
-  } rows[] = {
+  const Rows<const char*, std::function<void()>, std::string> rows = {
       {"Shut Up", [&] { Click("btnShutUp"); }, ""},
       {"Done", [&] { Click("btnDone"); }, Writes({{8, 0}})},
-      {"close box", [&] { window->close(), window->close(); }, Writes({{8, 0}})},
-  };
+      {"close box", [&] { window->close(), window->close(); }, Writes({{8, 0}})}};
   for (const auto& [how, act, envelope] : rows) {
     GivenOpenWindow();
     Bar("scVolAdjTone")->setValue(120);
@@ -88,14 +76,8 @@ TEST_F(SynthTest, ShutUpAndClosingWriteTheResetAndWhatMoves) {
   }
 }
 
-TEST_F(SynthTest, TextIsEnteredWhenItsBoxIsLeft) {
-  GivenOpenWindow();
-  const struct {
-    const char* box;
-    const char* typed;
-    const char* shown;
-    std::string sent;
-  } rows[] = {
+TEST_F(OpenSynthTest, TextIsEnteredWhenItsBoxIsLeft) {
+  const Rows<const char*, const char*, const char*, std::string> rows = {
       {"txtFreq(1)", "4500", "3999", Writes({{1, 3999}})},
       {"txtFreq(1)", "1e400", "3999", ""},
       {"txtFreq(2)", "12.7", "13", Writes({{2, 13}})},
@@ -108,20 +90,17 @@ TEST_F(SynthTest, TextIsEnteredWhenItsBoxIsLeft) {
       {"txtVol(5)", "31.4", "31", Writes({{15, 31}})},
       {"txtLevel(1)", "200", "127", Writes({{7, 127}})},
       {"txtLevel(0)", "200", "200", Writes({{6, 200}})},
-      {"txtEnvFreq", "256", "255", Writes({{0, 255}})},
-  };
-  for (const auto& row : rows) {
-    Box(row.box)->clear();
-    Type(row.box, row.typed);
-    QTest::keyClick(Box(row.box), Qt::Key_Tab);
+      {"txtEnvFreq", "256", "255", Writes({{0, 255}})}};
+  for (const auto& [box, typed, shown, sent] : rows) {
+    Type(box, typed);
+    QTest::keyClick(Box(box), Qt::Key_Tab);
     LetRun();
-    EXPECT_EQ(Box(row.box)->text(), row.shown) << row.box << " " << row.typed;
-    EXPECT_EQ(Sent(), row.sent) << row.box << " " << row.typed;
+    EXPECT_EQ(Box(box)->Text(), shown) << box << " " << typed;
+    EXPECT_EQ(Sent(), sent) << box << " " << typed;
   }
 }
 
-TEST_F(SynthTest, TextLeftByAPressOnItsBarIsWrittenBeforeThePressActs) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, TextLeftByAPressOnItsBarIsWrittenBeforeThePressActs) {
   Type("txtFreq(3)", "300");
   const ScrollBar* bar = Bar("scFreq(3)");
   const QPoint besideThumb = bar->mapTo(window.get(), QPoint(bar->width() - 40, 8));
@@ -130,20 +109,17 @@ TEST_F(SynthTest, TextLeftByAPressOnItsBarIsWrittenBeforeThePressActs) {
   EXPECT_EQ(Sent(), Writes({{3, 300}, {3, 322}}));
 }
 
-TEST_F(SynthTest, ToneVolumesColourTheirBoxesReadably) {
-  GivenOpenWindow();
+TEST_F(OpenSynthTest, ToneVolumesColourTheirBoxesReadably) {
   const QColor face = window->palette().color(QPalette::Button);
   const QColor yellow(255, 255, 0);
   const QColor red(255, 0, 0);
-  const struct {
-    std::initializer_list<int> volumes;
-    QColor colour;
-  } rows[] = {{{21, 21, 21}, yellow}, {{21, 22, 21}, red},       {{20, 20, 19}, face},
-              {{20, 20, 20}, yellow}, {{0, 0, 0, 31, 31}, face}, {{31, 31, 31}, red}};
-  for (const auto& row : rows) {
-    Given("scVol", row.volumes);
+  const std::pair<std::initializer_list<int>, QColor> rows[] = {
+      {{21, 21, 21}, yellow}, {{21, 22, 21}, red},       {{20, 20, 19}, face},
+      {{20, 20, 20}, yellow}, {{0, 0, 0, 31, 31}, face}, {{31, 31, 31}, red}};
+  for (const auto& [volumes, colour] : rows) {
+    Given("scVol", volumes);
     for (const char* box : {"txtVol(1)", "txtVol(2)", "txtVol(3)"}) {
-      EXPECT_EQ(Colour(box), row.colour) << box;
+      EXPECT_EQ(Colour(box), colour) << box;
       const QPalette shown = Box(box)->palette();
       EXPECT_GT(std::abs(qGray(shown.color(QPalette::Base).rgb()) -
                          qGray(shown.color(QPalette::Text).rgb())),
