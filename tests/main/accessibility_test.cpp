@@ -1,7 +1,6 @@
 #include <QAccessible>
 #include <QRadioButton>
-#include <functional>
-#include <memory>
+#include <set>
 
 #include "tests/support/window_test.h"
 #include "ui/chip/frm_baud_rate.h"
@@ -27,48 +26,34 @@ class EveryWindow : public WindowTest {
     frmUtility mainWindow(port, settings, dictionary, prompts);
     mainWindow.Open();
     zVisit(&mainWindow);
-    VisitEditor<frmPhrase>(zVisit);
-    VisitEditor<frmCodes>(zVisit);
-    VisitEditor<frmEEPROM>(zVisit);
-    VisitEditor<frmButtons>(zVisit);
-    VisitEditor<frmBaudRate>(zVisit);
-    VisitEditor<FrmSynthCtrl>(zVisit);
-    VisitEditor<frmDictEdit>(zVisit);
+    VisitEditors<frmPhrase, frmCodes, frmEEPROM, frmButtons, frmBaudRate, FrmSynthCtrl,
+                 frmDictEdit>(zVisit);
   }
 
  private:
-  template <class Editor>
-  void VisitEditor(const Visit& zVisit) {
-    Editor editor(nullptr, context);
-    editor.Open();
-    zVisit(&editor);
-    editor.close();
+  template <class... Editors>
+  void VisitEditors(const Visit& zVisit) {
+    const auto visit = [&](auto zEditor) {
+      zEditor->Open();
+      zVisit(zEditor.get());
+      zEditor->close();
+    };
+    (visit(std::make_unique<Editors>(nullptr, context)), ...);
   }
 };
 
 /// What a screen reader announces as something to act on.
-bool IsControl(QAccessible::Role zRole) {
-  switch (zRole) {
-    case QAccessible::PushButton:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::EditableText:
-    case QAccessible::ScrollBar:
-    case QAccessible::Slider:
-    case QAccessible::ComboBox:
-    case QAccessible::ListItem:
-      return true;
-    default:
-      return false;
-  }
-}
+const std::set<QAccessible::Role> Controls = {QAccessible::PushButton,  QAccessible::CheckBox,
+                                              QAccessible::RadioButton, QAccessible::EditableText,
+                                              QAccessible::ScrollBar,   QAccessible::Slider,
+                                              QAccessible::ComboBox,    QAccessible::ListItem};
 
 int CheckNames(QAccessibleInterface* zItem, const QWidget* zWindow) {
   if (zItem == nullptr || zItem->state().invisible) {
     return 0;
   }
   int controls = 0;
-  if (IsControl(zItem->role())) {
+  if (Controls.contains(zItem->role())) {
     const QObject* object = zItem->object();
     controls = 1;
     EXPECT_FALSE(zItem->text(QAccessible::Name).trimmed().isEmpty())

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 
 #include "tests/support/window_test.h"
-#include "ui/toolkit/text_area.h"
 
 namespace loquitor::testing {
 namespace {

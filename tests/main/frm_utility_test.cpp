@@ -1,66 +1,40 @@
 #include "ui/main/frm_utility.h"
 
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
-#include <QApplication>
 #include <QHelpEvent>
-#include <QTest>
-#include <QTimer>
-#include <functional>
 
-#include "tests/support/scripted_port.h"
-#include "tests/support/scripted_prompts.h"
-#include "tests/support/temp_folder.h"
-#include "ui/toolkit/check_box.h"
-#include "ui/toolkit/text_box.h"
-#include "ui/toolkit/tool_window.h"
+#include "tests/support/window_test.h"
 
-namespace loquitor {
+namespace loquitor::testing {
 namespace {
-
-using testing::ReadBytes;
-using testing::WriteBytes;
 
 constexpr const char* Ports = "[Ports]\r\n1=/scripted/one\r\n7=/scripted/seven\r\n";
 const std::string TestBytes = "\x1F\\0VX";
 
-class MainWindow : public ::testing::Test {
+class MainWindow : public ToolWindowTest {
  protected:
   void TearDown() override { QApplication::closeAllWindows(); }
 
   /// The program starts; its settings file holds two devices and `zSettings`.
   void Start(const std::string& zSettings = "") {
     WriteBytes(folder / "Loquitor.ini", Ports + zSettings);
-    window.emplace(port, settings, dictionary, prompts);
-    window->Open();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&*window));
+    main.emplace(port, settings, dictionary, prompts);
+    main->Open();
+    Front(&*main);
   }
-
-  template <class T = QWidget>
-  T* Get(const char* zName) {
-    return window->findChild<T*>(QLatin1String(zName));
+  QColor BoxColour() { return Box("txtComPort")->Background(); }
+  void LeavePortBox() {
+    Box("txtComPort")->setFocus();
+    QTest::keyClick(Box("txtComPort"), Qt::Key_Tab);
   }
-  void Click(const char* zButton) { QTest::mouseClick(Get(zButton), Qt::LeftButton); }
-  void Type(const QString& zPort) {
-    Get<TextBox>("txtComPort")->setFocus();
-    Get<TextBox>("txtComPort")->clear();
-    QTest::keyClicks(Get("txtComPort"), zPort);
-  }
-  QColor BoxColour() { return Get<TextBox>("txtComPort")->Background(); }
 
   /// Runs when the handler under test has come to its first wait for events.
-  void Meanwhile(std::function<void()> zAct) { QTimer::singleShot(0, &*window, std::move(zAct)); }
+  void Meanwhile(std::function<void()> zAct) { QTimer::singleShot(0, &*main, std::move(zAct)); }
   static ToolWindow* Modal() {
     return qobject_cast<ToolWindow*>(QApplication::activeModalWidget());
   }
 
-  testing::TempFolder folder;
-  SettingsFile settings{folder.Path()};
-  DictionaryStore dictionary{folder.Path()};
-  testing::ScriptedPort port;
-  testing::ScriptedPrompts prompts;
-  std::optional<frmUtility> window;
+  std::optional<frmUtility> main;
 };
 
 const QColor White(255, 255, 255);
@@ -68,21 +42,19 @@ const QColor Green(0, 255, 0);
 const QColor Red(255, 0, 0);
 
 TEST_F(MainWindow, LoadsTheStoredSettingsOrTheDefaultsAndOpensNoPort) {
-  struct Row {
-    const char* stored;
-    const char* port;
-    int flow;
-  };
-  for (const Row& row : {Row{"", "1", 1}, Row{"[Serial]\r\nPort=7\r\nFlowControl=0\r\n", "7", 0},
-                         Row{"[serial]\r\nport=abc\r\nflowcontrol=1\r\n", "abc", 1},
-                         Row{"[Serial]\r\nPort=\r\nFlowControl=2\r\n", "1", 0},
-                         Row{"[Serial]\r\nFlowControl=7\r\n", "1", 1},
-                         Row{"[Serial]\r\nFlowControl=yes\r\n", "1", 1}}) {
-    Start(row.stored);
-    EXPECT_EQ(Get<TextBox>("txtComPort")->Text(), row.port) << row.stored;
-    EXPECT_EQ(Get<CheckBox>("chkFlow")->Value(), row.flow) << row.stored;
+  const Rows<const char*, const char*, int> rows = {
+      {"", "1", 1},
+      {"[Serial]\r\nPort=7\r\nFlowControl=0\r\n", "7", 0},
+      {"[serial]\r\nport=abc\r\nflowcontrol=1\r\n", "abc", 1},
+      {"[Serial]\r\nPort=\r\nFlowControl=2\r\n", "1", 0},
+      {"[Serial]\r\nFlowControl=7\r\n", "1", 1},
+      {"[Serial]\r\nFlowControl=yes\r\n", "1", 1}};
+  for (const auto& [stored, number, flow] : rows) {
+    Start(stored);
+    EXPECT_EQ(Box("txtComPort")->Text(), number) << stored;
+    EXPECT_EQ(Get<CheckBox>("chkFlow")->Value(), flow) << stored;
     EXPECT_EQ(BoxColour(), White);
-    EXPECT_EQ(window->Context().codeTable.GetCodeIndex("\\IY"), 128);
+    EXPECT_EQ(main->Context().codeTable.GetCodeIndex("\\IY"), 128);
   }
   EXPECT_TRUE(port.opened.empty());
 }
@@ -90,18 +62,14 @@ TEST_F(MainWindow, LoadsTheStoredSettingsOrTheDefaultsAndOpensNoPort) {
 TEST_F(MainWindow, StoresItsSettingsOnceHoweverItIsClosed) {
   for (const bool isByButton : {true, false}) {
     Start();
-    Type("7");
+    Type("txtComPort", "7");
     Get<CheckBox>("chkFlow")->SetValue(0);
-    if (isByButton) {
-      Click("btnDone");
-    } else {
-      window->close();
-    }
-    EXPECT_FALSE(window->isVisible());
+    isByButton ? Click("btnDone") : static_cast<void>(main->close());
+    EXPECT_FALSE(main->isVisible());
     const std::string stored = std::string(Ports) + "[Serial]\r\nPort=7\r\nFlowControl=0\r\n";
     EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"), stored);
     WriteBytes(folder / "Loquitor.ini", "untouched");
-    window->close();
+    main->close();
     EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"), "untouched");
   }
 }
@@ -127,11 +95,10 @@ TEST_F(MainWindow, TheTestTurnsTheBoxGreenAndTheTimerWhiteAgain) {
 TEST_F(MainWindow, APortThatCannotBeOpenedTurnsRedUntilTheBoxIsLeft) {
   for (const char* number : {"0", "-1", "abc", "", "200", "99999999999", "1e300"}) {
     Start();
-    Type(number);
+    Type("txtComPort", number);
     Click("cmdTestSerialPort");
     EXPECT_EQ(BoxColour(), Red) << number;
-    Get("txtComPort")->setFocus();
-    QTest::keyClick(Get("txtComPort"), Qt::Key_Tab);
+    LeavePortBox();
     EXPECT_EQ(BoxColour(), White) << number;
   }
   EXPECT_TRUE(port.opened.empty());
@@ -145,9 +112,9 @@ TEST_F(MainWindow, APortThatCannotBeOpenedTurnsRedUntilTheBoxIsLeft) {
 TEST_F(MainWindow, LeavingThePortBoxClosesThePortAndTheNextSendOpensTheNewOne) {
   Start();
   Click("cmdTestSerialPort");
-  Type(" 7 ");
+  Type("txtComPort", " 7 ");
   EXPECT_TRUE(port.IsOpen());
-  QTest::keyClick(Get("txtComPort"), Qt::Key_Tab);
+  LeavePortBox();
   EXPECT_FALSE(port.IsOpen());
   EXPECT_EQ(BoxColour(), White);
   Click("cmdTestSerialPort");
@@ -165,11 +132,11 @@ TEST_F(MainWindow, ThePortBoxTellsThePortsThatExistNow) {
 
 TEST_F(MainWindow, AsksBeforeALongPhraseWithoutFlowControl) {
   Start("[Serial]\r\nFlowControl=0\r\n");
-  CodeSender& sender = window->Context().sender;
+  CodeSender& its = main->Context().sender;
   prompts.answers = {PromptAnswer::No, PromptAnswer::Yes};
-  sender.SendCodesToOrvatone(std::string(65, '\x05'), true);
+  its.SendCodesToOrvatone(std::string(65, '\x05'), true);
   EXPECT_EQ(port.TakeWritten(), "");
-  sender.SendCodesToOrvatone(std::string(65, '\x05'), true);
+  its.SendCodesToOrvatone(std::string(65, '\x05'), true);
   EXPECT_EQ(port.TakeWritten().size(), 65U);
   ASSERT_EQ(prompts.asked.size(), 2U);
   EXPECT_EQ(prompts.asked[0].title, "Notice");
@@ -180,47 +147,44 @@ TEST_F(MainWindow, AsksBeforeALongPhraseWithoutFlowControl) {
             "This will result in some of the codes after the 64th one to not being played.\r\n\r\n"
             "Do you still want to send it to the Orvatone.");
   Get<CheckBox>("chkFlow")->SetValue(1);
-  sender.CloseSerialPort();
-  sender.SendCodesToOrvatone(std::string(65, '\x05'), true);
+  its.CloseSerialPort();
+  its.SendCodesToOrvatone(std::string(65, '\x05'), true);
   EXPECT_EQ(prompts.asked.size(), 2U);
   EXPECT_TRUE(port.opened.back().hardwareHandshaking);
 }
 
-TEST_F(MainWindow, TabVisitsTheControlsInTheirOrderAndEnterPressesNothing) {
+TEST_F(MainWindow, TabVisitsTheControlsInTheirOrderAndEnterAndEscapePressNothing) {
   Start();
-  Get("EditPhrases")->setFocus();
-  QStringList visited;
-  for (int at = 0; at < 10; ++at) {
-    visited += window->focusWidget()->objectName();
-    QTest::keyClick(window->focusWidget(), Qt::Key_Return);
-    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
-  }
-  EXPECT_EQ(visited.join(' '),
+  EXPECT_EQ(TabOrder("EditPhrases"),
             "EditPhrases EditEEPROM btnSetSerialPort txtComPort cmdTestSerialPort btnSynth "
             "Command1 btnDictEdit btnDone chkFlow");
+  for (QWidget* control : front->findChildren<QWidget*>()) {
+    QTest::keyClick(control, Qt::Key_Return);
+    QTest::keyClick(control, Qt::Key_Escape);
+  }
   EXPECT_EQ(Modal(), nullptr);
-  EXPECT_TRUE(window->isVisible());
+  EXPECT_TRUE(main->isVisible());
   EXPECT_TRUE(port.opened.empty());
 }
 
 TEST_F(MainWindow, EachButtonOpensItsEditorOnce) {
   Start();
-  SharedState& shared = window->Context().shared;
+  SharedState& its = main->Context().shared;
   for (const auto& [button, editor] : {std::pair("EditPhrases", "loquitor::frmPhrase"),
                                        {"EditEEPROM", "loquitor::frmEEPROM"},
                                        {"btnSetSerialPort", "loquitor::frmButtons"},
                                        {"btnSynth", "loquitor::FrmSynthCtrl"},
                                        {"Command1", "loquitor::frmBaudRate"},
                                        {"btnDictEdit", "loquitor::frmDictEdit"}}) {
-    shared.PhraseToMove = shared.WordToMove = "left over";
+    its.PhraseToMove = its.WordToMove = "left over";
     int opened = 0;
     Meanwhile([&, zButton = button, zEditor = editor] {
       ASSERT_NE(Modal(), nullptr) << zButton;
       ++opened;
       EXPECT_STREQ(Modal()->metaObject()->className(), zEditor);
-      EXPECT_EQ(Modal()->parentWidget(), &*window);
-      EXPECT_EQ(shared.PhraseToMove.empty(), zButton == std::string("EditPhrases"));
-      EXPECT_EQ(shared.WordToMove, shared.PhraseToMove);
+      EXPECT_EQ(Modal()->parentWidget(), &*main);
+      EXPECT_EQ(its.PhraseToMove.empty(), zButton == std::string("EditPhrases"));
+      EXPECT_EQ(its.WordToMove, its.PhraseToMove);
       const ToolWindow* first = Modal();
       Get<QAbstractButton>(zButton)->click();  // as a second click that came while it opened
       EXPECT_EQ(Modal(), first);
@@ -248,7 +212,7 @@ TEST_F(MainWindow, StaysUsableWhileASendOfAClosedEditorWaitsForTheLine) {
       Click("btnDictEdit");
       steps += "closed ";
     });
-    window->Context().sender.SendCodesToOrvatone("abc", false);
+    main->Context().sender.SendCodesToOrvatone("abc", false);
     steps += "sent ";
   });
   Click("Command1");
@@ -259,11 +223,11 @@ TEST_F(MainWindow, StaysUsableWhileASendOfAClosedEditorWaitsForTheLine) {
 TEST_F(MainWindow, ClosingEndsASendThatWaitsAndOpensThePortNoMore) {
   Start();
   port.isHeldBack = true;
-  Meanwhile([&] { window->close(); });
+  Meanwhile([&] { main->close(); });
   Click("cmdTestSerialPort");
-  EXPECT_FALSE(window->isVisible());
+  EXPECT_FALSE(main->isVisible());
   EXPECT_FALSE(port.IsOpen());
-  window->Context().sender.SendCodesToOrvatone("more of the same handler", false);
+  main->Context().sender.SendCodesToOrvatone("more of the same handler", false);
   EXPECT_EQ(port.opened.size(), 1U);
   EXPECT_EQ(port.TakeWritten(), "");
 }
@@ -273,26 +237,14 @@ TEST_F(MainWindow, ASessionThatEndsUnloadsTheEditorsFirst) {
   bool isEditorUnloaded = false;
   Meanwhile([&] {
     ToolWindow* editor = Modal();
-    window->close();
+    main->close();
     isEditorUnloaded = editor->IsUnloaded();
   });
   Click("btnSetSerialPort");
   EXPECT_TRUE(isEditorUnloaded);
-  EXPECT_FALSE(window->isVisible());
+  EXPECT_FALSE(main->isVisible());
   EXPECT_NE(ReadBytes(folder / "Loquitor.ini").find("Port=1"), std::string::npos);
 }
 
-TEST_F(MainWindow, LooksAsItShould) {
-  Start();
-  EXPECT_EQ(window->windowTitle(), "Quenlith Phrase Translator for Orvatone  V.1.4");
-  EXPECT_EQ(window->size(), QSize(423, 151));
-  EXPECT_FALSE(window->windowFlags() & Qt::WindowMaximizeButtonHint);
-  EXPECT_LT(window->minimumWidth(), 423);
-  EXPECT_GT(window->maximumWidth(), 423);
-  EXPECT_EQ(Get("txtComPort")->geometry(), QRect(80, 22, 29, 21));
-  EXPECT_EQ(Get("Command1")->geometry(), QRect(284, 46, 133, 33));
-  EXPECT_EQ(Get("chkFlow")->accessibleName(), "Use Flow Control");
-}
-
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing

@@ -1,17 +1,11 @@
-#include <gmock/gmock.h>
-
 #include <QRegularExpression>
-#include <QTimer>
 #include <QWheelEvent>
-#include <functional>
-#include <memory>
 #include <random>
 
 #include "link/qt/qt_serial_port.h"
 #include "tests/support/pseudo_terminal.h"
 #include "tests/support/window_test.h"
 #include "ui/main/frm_utility.h"
-#include "ui/toolkit/tool_window.h"
 
 namespace loquitor::testing {
 namespace {
@@ -156,20 +150,16 @@ class RashPrompts : public Prompts {
   PromptAnswer Ask(QWidget*, const QString&, const QString& zText,
                    PromptButtons zButtons) override {
     asked.push_back(zText);
-    switch (zButtons) {
-      case PromptButtons::Ok:
-        return PromptAnswer::Ok;
-      case PromptButtons::OkCancel:
-        return luck_.Chance(2) ? PromptAnswer::Ok : PromptAnswer::Cancel;
-      case PromptButtons::YesNoCancel:
-        if (luck_.Chance(3)) {
-          return PromptAnswer::Cancel;
-        }
-        [[fallthrough]];
-      case PromptButtons::YesNo:
-        break;
+    if (zButtons == PromptButtons::Ok) {
+      return PromptAnswer::Ok;
     }
-    return luck_.Chance(2) ? PromptAnswer::Yes : PromptAnswer::No;
+    const bool canCancel = zButtons != PromptButtons::YesNo;
+    if (canCancel && luck_.Chance(3)) {
+      return PromptAnswer::Cancel;
+    }
+    return zButtons == PromptButtons::OkCancel ? PromptAnswer::Ok
+           : luck_.Chance(2)                   ? PromptAnswer::Yes
+                                               : PromptAnswer::No;
   }
 
   std::optional<QString> AskText(QWidget*, const QString&, const QString& zPrompt,

@@ -55,7 +55,12 @@ class ToolWindowTest : public WindowTest {
   void Open() {
     window = std::make_unique<Window>(nullptr, context);
     window->Open();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    Front(window.get());
+  }
+  /// Waits until `zWindow` is in front: the verbs act on it from now on.
+  void Front(QWidget* zWindow) {
+    front = zWindow;
+    ASSERT_TRUE(QTest::qWaitForWindowActive(front));
   }
   template <class Window>
   void Reopen() {
@@ -66,7 +71,7 @@ class ToolWindowTest : public WindowTest {
   /// A control of the window; throws when there is none.
   template <class T = QWidget>
   T* Get(const QString& zName) {
-    T* control = window->findChild<T*>(zName);
+    T* control = front->findChild<T*>(zName);
     if (control == nullptr) {
       throw std::invalid_argument("no control " + zName.toStdString());
     }
@@ -93,13 +98,14 @@ class ToolWindowTest : public WindowTest {
     QWidget* first = Get(zFirst);
     QString order = zFirst;
     for (QWidget* at = first->nextInFocusChain(); at != first; at = at->nextInFocusChain()) {
-      if ((at->focusPolicy() & Qt::TabFocus) != 0 && at->isVisible() && at != window.get()) {
+      if ((at->focusPolicy() & Qt::TabFocus) != 0 && at->isVisible() && at != front) {
         order += ' ' + at->objectName();
       }
     }
     return order.toStdString();
   }
 
+  QWidget* front = nullptr;
   std::unique_ptr<ToolWindow> window;
 };
 
