@@ -20,8 +20,9 @@ class MainWindow : public ToolWindowTest {
     WriteBytes(folder / "Loquitor.ini", Ports + zSettings);
     main.emplace(port, settings, dictionary, prompts);
     main->Open();
-    Front(&*main);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&*main));
   }
+  QWidget* Front() override { return &*main; }
   QColor BoxColour() { return Box("txtComPort")->Background(); }
   void LeavePortBox() {
     Box("txtComPort")->setFocus();
@@ -158,7 +159,7 @@ TEST_F(MainWindow, TabVisitsTheControlsInTheirOrderAndEnterAndEscapePressNothing
   EXPECT_EQ(TabOrder("EditPhrases"),
             "EditPhrases EditEEPROM btnSetSerialPort txtComPort cmdTestSerialPort btnSynth "
             "Command1 btnDictEdit btnDone chkFlow");
-  for (QWidget* control : front->findChildren<QWidget*>()) {
+  for (QWidget* control : main->findChildren<QWidget*>()) {
     QTest::keyClick(control, Qt::Key_Return);
     QTest::keyClick(control, Qt::Key_Escape);
   }

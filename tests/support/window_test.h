@@ -51,16 +51,14 @@ class WindowTest : public ::testing::Test, protected InFolder, protected Program
 /// A test of one window, with verbs for what its user does.
 class ToolWindowTest : public WindowTest {
  protected:
+  /// The window that the verbs act on.
+  virtual QWidget* Front() { return window.get(); }
+
   template <class Window>
   void Open() {
     window = std::make_unique<Window>(nullptr, context);
     window->Open();
-    Front(window.get());
-  }
-  /// Waits until `zWindow` is in front: the verbs act on it from now on.
-  void Front(QWidget* zWindow) {
-    front = zWindow;
-    ASSERT_TRUE(QTest::qWaitForWindowActive(front));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
   template <class Window>
   void Reopen() {
@@ -71,7 +69,7 @@ class ToolWindowTest : public WindowTest {
   /// A control of the window; throws when there is none.
   template <class T = QWidget>
   T* Get(const QString& zName) {
-    T* control = front->findChild<T*>(zName);
+    T* control = Front()->findChild<T*>(zName);
     if (control == nullptr) {
       throw std::invalid_argument("no control " + zName.toStdString());
     }
@@ -98,14 +96,13 @@ class ToolWindowTest : public WindowTest {
     QWidget* first = Get(zFirst);
     QString order = zFirst;
     for (QWidget* at = first->nextInFocusChain(); at != first; at = at->nextInFocusChain()) {
-      if ((at->focusPolicy() & Qt::TabFocus) != 0 && at->isVisible() && at != front) {
+      if ((at->focusPolicy() & Qt::TabFocus) != 0 && at->isVisible() && at != Front()) {
         order += ' ' + at->objectName();
       }
     }
     return order.toStdString();
   }
 
-  QWidget* front = nullptr;
   std::unique_ptr<ToolWindow> window;
 };
 
