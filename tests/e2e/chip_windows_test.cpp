@@ -15,11 +15,6 @@ class ChipWindows : public LoquitorSession {
     return events;
   }
 
-  void ExpectSound(int zFrequency, int zVolume) {
-    EXPECT_EQ(orvatone.Register(1), zFrequency);
-    EXPECT_EQ(orvatone.Register(11), zVolume);
-  }
-
   VirtualChip orvatone;
 };
 
@@ -45,7 +40,7 @@ TEST_F(ChipWindows, StoredPhrasesPlayWithTheCodesThatTheirEditorShowed) {
     Open(phrase, PhraseTitle);
     desktop.Type(sayData);
     shown[slot] = ViewedCodes();
-    Leave("Done of the phrase");
+    CloseByDone("Done of the phrase");
   }
   Click("Write the phrases");
   EXPECT_THAT(Receive("\\0VX"), ::testing::SizeIs(16 + 5 + 10 + 8 + 1));
@@ -57,7 +52,7 @@ TEST_F(ChipWindows, StoredPhrasesPlayWithTheCodesThatTheirEditorShowed) {
     EXPECT_EQ(played[0].kind, ChipEventKind::Play);
     EXPECT_EQ(AsNumbers(Prefix + played[0].codes), shown[slot]) << sayData;
   }
-  Leave("Done of the phrases");
+  CloseByDone("Done of the phrases");
   Finish();
   EXPECT_THAT(ReadBytes(folder / "Loquitor.ini"), ::testing::HasSubstr("Phrase7=hello,world\r\n"));
 }
@@ -90,33 +85,7 @@ TEST_F(ChipWindows, TheEventConfigurationReachesLocations237To255) {
   for (int location = 236; location <= 255; ++location) {
     EXPECT_EQ(orvatone.Eeprom(location), expected.at(location - 236)) << location;
   }
-  Leave("Done of the events");
-  Finish();
-}
-
-TEST_F(ChipWindows, ASynthSoundIsPlayedKeptShutUpAndPlayedAgain) {
-  Start();
-  Open(At("Synth Control"), SynthTitle);
-  FillIn("Master Volume", "100");
-  FillIn("Frequency 1", "440");
-  FillIn("Volume 1", "20");
-  Click("Sine");
-  Receive("\\08J 1NX");
-  EXPECT_EQ(orvatone.Register(7), 100);
-  ExpectSound(440, 20);
-
-  FillIn("Sound", "Bell");
-  Click("Save");
-  Click("Shut Up of the synth");
-  Receive("\\08J 0NX");
-  EXPECT_EQ(orvatone.Register(7), 96);
-  ExpectSound(0, 0);
-
-  Click("Load");
-  Receive("\\011J 20NX");
-  ExpectSound(440, 20);
-  Leave("Done of the synth");
-  Receive("\\08J 0NX");
+  CloseByDone("Done of the events");
   Finish();
 }
 

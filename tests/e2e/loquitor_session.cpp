@@ -37,14 +37,7 @@ const std::map<std::string, Spot> Spots = {
     {"Output 2 on at first", {EventTitle, 649, 264}},
     {"Write the events", {EventTitle, 655, 407}},
     {"Done of the events", {EventTitle, 655, 481}},
-    {"Master Volume", {SynthTitle, 142, 33}},
-    {"Sine", {SynthTitle, 508, 62}},
     {"Frequency 1", {SynthTitle, 226, 125}},
-    {"Volume 1", {SynthTitle, 226, 145}},
-    {"Sound", {SynthTitle, 150, 507}},
-    {"Load", {SynthTitle, 242, 508}},
-    {"Save", {SynthTitle, 322, 508}},
-    {"Shut Up of the synth", {SynthTitle, 498, 508}},
     {"Done of the synth", {SynthTitle, 582, 508}},
 };
 
@@ -103,7 +96,7 @@ void LoquitorSession::Open(const Spot& zOpener, const std::string& zTitle) {
   desktop.MoveTo(windows[zTitle], 10, 300);
 }
 
-void LoquitorSession::Leave(const std::string& zDone) {
+void LoquitorSession::CloseByDone(const std::string& zDone) {
   Click(zDone);
   EXPECT_TRUE(desktop.AwaitGone(At(zDone).title)) << zDone;
 }
@@ -119,7 +112,7 @@ std::string LoquitorSession::ViewedCodes() {
   const std::string before = desktop.Clipboard();
   Click("Copy to Clipboard");
   Await([&] { return desktop.Clipboard() != before; });
-  Leave("Done of the codes");
+  CloseByDone("Done of the codes");
   return desktop.Clipboard();
 }
 

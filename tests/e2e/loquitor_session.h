@@ -50,7 +50,6 @@ class LoquitorSession : public ::testing::Test {
   /// Adds to the settings file, whose last section is that of the ports.
   void GivenSettings(const std::string& zSettings);
 
-  /// Starts the program and waits for its main window.
   void Start();
 
   /// A control of an open window by the name that the tests give it.
@@ -60,15 +59,12 @@ class LoquitorSession : public ::testing::Test {
   void Click(const std::string& zName) { Click(At(zName)); }
   void DoubleClick(const std::string& zName) { Click(At(zName), 2); }
 
-  /// Opens an editor by a click and moves it below the main window.
   void Open(const Spot& zOpener, const std::string& zTitle);
   void OpenPhraseEditor() { Open(At("Phrase Editor"), PhraseTitle); }
 
-  /// Closes a window by a click on its Done, or by the keyboard.
-  void Leave(const std::string& zDone);
+  void CloseByDone(const std::string& zDone);
   void CloseByKey(const std::string& zTitle);
 
-  /// Presses View Codes and reads the list by way of the clipboard.
   std::string ViewedCodes();
 
   /// Puts a text into a text box in place of its own and leaves the box.
@@ -85,7 +81,6 @@ class LoquitorSession : public ::testing::Test {
   /// Waits for a colour of the port box: "FFFFFF", "00FF00" or "FF0000".
   bool AwaitPortColour(const std::string& zColour);
 
-  /// Presses Done of the main window and expects that the program ends well.
   void Finish();
 
   Desktop desktop;

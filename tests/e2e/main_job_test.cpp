@@ -23,7 +23,7 @@ TEST_F(LoquitorSession, SaysAPhraseShowsItsCodesAndClosesThePort) {
   EXPECT_TRUE(AwaitPortColour("00FF00"));
   EXPECT_EQ(ViewedCodes(), AsNumbers(codes));
   EXPECT_TRUE(AwaitPortColour("FFFFFF")) << "the port closes a second after the last byte";
-  Leave("Done of the phrase");
+  CloseByDone("Done of the phrase");
   Finish();
   EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"),
             "[Ports]\r\n1=" + chip->Path() + "\r\n[Serial]\r\nPort=1\r\nFlowControl=1\r\n");
