@@ -1,25 +1,17 @@
 #include "ui/dictedit/frm_dict_edit.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QTimer>
-#include <algorithm>
-#include <filesystem>
 #include <random>
-#include <string>
 
 #include "core/dictionary_text.h"
 #include "tests/support/window_test.h"
 
-namespace loquitor {
+namespace loquitor::testing {
 namespace {
 
-using testing::ReadBytes;
-using testing::WriteBytes;
-
 /// The editor over a dictionary in a folder of the test's own, which is also the working directory.
-class DictionaryEditor : public testing::ToolWindowTest {
+class DictionaryEditor : public ToolWindowTest {
  protected:
   DictionaryEditor() { std::filesystem::current_path(folder.Path()); }
   ~DictionaryEditor() override { std::filesystem::current_path("/"); }
@@ -43,14 +35,6 @@ class DictionaryEditor : public testing::ToolWindowTest {
     prompts.asked.clear();
     prompts.texts.push_back(zText);
     Click("btnFind");
-  }
-  /// What the boxes that have come up said.
-  QStringList Told() const {
-    QStringList texts;
-    for (const auto& asked : prompts.asked) {
-      texts.push_back(asked.text);
-    }
-    return texts;
   }
   bool HasTold(const char* zWords) const { return Told().join('\n').contains(zWords); }
 
@@ -98,16 +82,11 @@ TEST_F(DictionaryEditor, RandomFilesOfAllBytesAreSavedAsTheyWere) {
 }
 
 TEST_F(DictionaryEditor, EachButtonSavesThenShowsWhatItMakesOfTheText) {
-  const struct {
-    const char* button;
-    std::string shown;
-    std::string end;
-  } rows[] = {
+  const Rows<const char*, std::string, std::string> rows = {
       {"btnSaveChanges", BoxTextFromFile(Unsorted), "\r\n"},
       {"btnSort", "[words]\nant=\\AY\nbee=\ncat=\\KE \\AX \\TT\n", "\r\n"},
       {"btnEraseBlank", "[words]\ncat=\\KE \\AX \\TT\nant=\\AY\n", "\r\n"},
-      {"btnDone", BoxTextFromFile(Unsorted), ""},
-  };
+      {"btnDone", BoxTextFromFile(Unsorted), ""}};
   for (const auto& [button, shown, end] : rows) {
     OpenOn(Unsorted);
     Click(button);
@@ -220,8 +199,7 @@ TEST_F(DictionaryEditor, ClosingTheWindowEndsAnImport) {
     words += "same words again ";
   }
   WriteBytes(WordList(), words);
-  QTimer::singleShot(0, window.get(),
-                     [this] { QTimer::singleShot(0, window.get(), [this] { Click("btnDone"); }); });
+  After(0, [this] { After(0, [this] { Click("btnDone"); }); });
   Click("btnReadTerms");
   EXPECT_TRUE(window->IsUnloaded());
   EXPECT_EQ(Box().Text(), BoxTextFromFile(Unsorted));
@@ -232,16 +210,13 @@ TEST_F(DictionaryEditor, EachActionIsOneUndoStep) {
   OpenOn("[words]\r\nb=1\r\na=\r\n");
   WriteBytes(WordList(), "new");
   std::vector<std::string> texts = {Box().Text()};
-  const auto remember = [&] { texts.push_back(Box().Text()); };
   Box().moveCursor(QTextCursor::End);
   QTest::keyClicks(&Box(), "C=typed");
-  remember();
-  Click("btnSort");
-  remember();
-  Click("btnEraseBlank");
-  remember();
-  Click("btnReadTerms");
-  remember();
+  texts.push_back(Box().Text());
+  for (const char* button : {"btnSort", "btnEraseBlank", "btnReadTerms"}) {
+    Click(button);
+    texts.push_back(Box().Text());
+  }
   EXPECT_EQ(texts.back(), "[words]\nb=1\nc=typed\nnew=\n");
   for (std::size_t i = texts.size() - 1; i-- > 0;) {
     Press(&Box(), QKeySequence::Undo);
@@ -277,15 +252,10 @@ TEST_F(DictionaryEditor, WhatCannotBeReadOrDrawnIsNotReplacedUnasked) {
   OpenOn(longLine);
   EXPECT_EQ(Told(), QStringList());
   EXPECT_EQ(Box().Text(), BoxTextFromFile(longLine));
-  const struct {
-    std::string file;
-    std::size_t size;
-    const char* told;
-  } rows[] = {
+  const Rows<std::string, std::size_t, const char*> rows = {
       {longLine + "x\r\n", longLine.size() + 3, "Line 2 of"},
       {std::string(frmDictEdit::MaximumLines, '\n'), frmDictEdit::MaximumLines, "too large"},
-      {"[words]\r\n", frmDictEdit::MaximumBytes + 1, "too large"},
-  };
+      {"[words]\r\n", frmDictEdit::MaximumBytes + 1, "too large"}};
   for (const auto& [file, size, told] : rows) {
     WriteBytes(Dictionary(), file);
     std::filesystem::resize_file(Dictionary(), size);
@@ -321,4 +291,4 @@ TEST_F(DictionaryEditor, AnImportEndsAtAWordThatTheBoxCannotDraw) {
 }
 
 }  // namespace
-}  // namespace loquitor
+}  // namespace loquitor::testing
