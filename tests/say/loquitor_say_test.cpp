@@ -6,6 +6,7 @@
 
 #include "tests/e2e/child_process.h"
 #include "tests/e2e/pty_chip.h"
+#include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
 namespace loquitor::testing {
@@ -56,10 +57,7 @@ class LoquitorSayTest : public ::testing::Test {
 };
 
 TEST_F(LoquitorSayTest, PrintsCodesALineForEachLine) {
-  const struct {
-    const char* arguments;
-    std::string input, output;
-  } rows[] = {
+  const Rows<const char*, std::string, std::string> rows = {
       {R"(--codes 'hello, world  \PITCH \100')", "",
        "183, 131, 146, 164, 2, 147, 151, 6, 22, 100\n"},
       {"--codes hello world", "ignored", "183, 131, 146, 164, 147, 151\n"},
@@ -70,11 +68,10 @@ TEST_F(LoquitorSayTest, PrintsCodesALineForEachLine) {
       {"--codes", "", ""},
       {"--codes", "hello\n\nnothing\n\\1\\255\n\\0", "183, 131, 146, 164\n\n\n1, 255\n0\n"},
       {"--codes", "\\IY\r\n\\E\0H\n"s, "128\n131\n"},
-      {"--codes", "h\xC3\xA9llo h\xE9llo hello\n", "183, 131, 146, 164\n"},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(Run(row.arguments, row.input), 0) << row.output;
-    EXPECT_EQ(Output(), row.output);
+      {"--codes", "h\xC3\xA9llo h\xE9llo hello\n", "183, 131, 146, 164\n"}};
+  for (const auto& [arguments, input, output] : rows) {
+    EXPECT_EQ(Run(arguments, input), 0) << output;
+    EXPECT_EQ(Output(), output);
     EXPECT_EQ(Errors(), "");
   }
 }
@@ -90,30 +87,24 @@ TEST_F(LoquitorSayTest, SendsItsArgumentsOrItsInput) {
 }
 
 TEST_F(LoquitorSayTest, AsksBeforeALongPhraseOnlyWithoutFlowControl) {
-  const struct {
-    const char* settings;
-    std::string option;
-    int codes, status;
-  } rows[] = {
+  const char* const off = "[Serial]\r\nFlowControl=0\r\n";
+  const Rows<const char*, std::string, int, int> rows = {
       {"", "", 65, 0},
       {"[Serial]\r\nFlowControl=1\r\n", "", 65, 0},
-      {"[Serial]\r\nFlowControl=0\r\n", "", 64, 0},
-      {"[Serial]\r\nFlowControl=0\r\n", "", 65, 1},
-      {"[Serial]\r\nFlowControl=0\r\n", "--force ", 1000, 0},
-  };
-  for (const auto& row : rows) {
-    GivenPort(row.settings);
+      {off, "", 64, 0},
+      {off, "", 65, 1},
+      {off, "--force ", 1000, 0}};
+  for (const auto& [moreSettings, option, codes, status] : rows) {
+    GivenPort(moreSettings);
     chip.Forget();
-    EXPECT_EQ(Run(row.option + "'" + Sounds(row.codes) + "'"), row.status) << row.settings;
-    EXPECT_EQ(chip.Received(), std::string(row.status == 0 ? row.codes : 0, '\x80'));
-    EXPECT_EQ(Errors().find("--force") != std::string::npos, row.status == 1) << Errors();
+    EXPECT_EQ(Run(option + "'" + Sounds(codes) + "'"), status) << moreSettings;
+    EXPECT_EQ(chip.Received(), std::string(status == 0 ? codes : 0, '\x80'));
+    EXPECT_EQ(Errors().find("--force") != std::string::npos, status == 1) << Errors();
   }
-}
-
-TEST_F(LoquitorSayTest, StopsAtTheLineThatCannotBeSentAndSendsThoseBefore) {
-  GivenPort("[Serial]\r\nFlowControl=0\r\n");
+  GivenPort(off);
+  chip.Forget();
   EXPECT_EQ(Run("", "\\EH\n" + Sounds(65) + "\n\\EH\n"), 1);
-  EXPECT_EQ(chip.Received(), "\x83");
+  EXPECT_EQ(chip.Received(), "\x83") << "the lines before the one that cannot be sent";
 }
 
 TEST_F(LoquitorSayTest, SaysWhatIsWrongWithThePort) {
@@ -154,18 +145,16 @@ TEST_F(LoquitorSayTest, TellsWhenItsInputOrOutputFails) {
 }
 
 TEST_F(LoquitorSayTest, ExplainsItself) {
-  const struct {
-    const char* arguments;
-    int status;
-    std::string output, errors;  // how they begin
-  } rows[] = {{"--help", 0, "Usage: loquitor-say ", ""},
-              {"-h hello", 0, "Usage: loquitor-say ", ""},
-              {"--code", 2, "", "loquitor-say: unknown option --code"},
-              {"hello -x", 2, "", "loquitor-say: unknown option -x"}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(Run(row.arguments), row.status);
-    EXPECT_TRUE(Output().starts_with(row.output) && Output().empty() == row.output.empty());
-    EXPECT_TRUE(Errors().starts_with(row.errors) && Errors().empty() == row.errors.empty());
+  const Rows<const char*, int, std::string, std::string> rows = {
+      // how output and errors begin
+      {"--help", 0, "Usage: loquitor-say ", ""},
+      {"-h hello", 0, "Usage: loquitor-say ", ""},
+      {"--code", 2, "", "loquitor-say: unknown option --code"},
+      {"hello -x", 2, "", "loquitor-say: unknown option -x"}};
+  for (const auto& [arguments, status, output, errors] : rows) {
+    EXPECT_EQ(Run(arguments), status);
+    EXPECT_TRUE(Output().starts_with(output) && Output().empty() == output.empty());
+    EXPECT_TRUE(Errors().starts_with(errors) && Errors().empty() == errors.empty());
   }
 }
 
