@@ -26,7 +26,7 @@ class EepromEditor : public ToolWindowTest {
   std::string Edit(int zSlot, std::string_view zText,
                    const std::function<void(ToolWindow*)>& zLeave = &PressDone) {
     std::string shown;
-    QTimer::singleShot(0, window.get(), [&] {
+    After(0, [&] {
       auto* editor = qobject_cast<frmPhrase*>(QApplication::activeModalWidget());
       ASSERT_NE(editor, nullptr);
       auto* box = editor->findChild<TextArea*>("txtSayData");
@@ -199,15 +199,13 @@ TEST_F(EepromEditor, StoresEveryPhraseAndKeepsUnknownKeys) {
 
 TEST_F(EepromEditor, LocksThePhrasesDuringAWrite) {
   Open<frmEEPROM>();
-  port.onByte = [this] {
-    if (port.written.size() == 100) {
-      Click("lbs(4)");
-      Click("Phrase(0)");
-      QTest::keyClick(window.get(), Qt::Key_Tab);
-      EXPECT_TRUE(Get("btnShutUp")->hasFocus()) << "the one control but Done that is left";
-      QTest::keyClick(Get("btnShutUp"), Qt::Key_Space);
-    }
-  };
+  AfterBytes(100, [this] {
+    Click("lbs(4)");
+    Click("Phrase(0)");
+    QTest::keyClick(window.get(), Qt::Key_Tab);
+    EXPECT_TRUE(Get("btnShutUp")->hasFocus()) << "the one control but Done that is left";
+    QTest::keyClick(Get("btnShutUp"), Qt::Key_Space);
+  });
   Click("btnWrite");
   EXPECT_EQ(Sent().size(), 100U + 6U);
   EXPECT_TRUE(PhraseLabel(0)->isEnabled());

@@ -1,5 +1,3 @@
-#include <QTimer>
-#include <functional>
 #include <memory>
 #include <ostream>
 #include <vector>
@@ -42,13 +40,6 @@ class AWrite : public ToolWindowTest, public ::testing::WithParamInterface<Writi
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     QObject::connect(window.get(), &ToolWindow::Closed, [this] { ++closings; });
   }
-  void AfterBytes(std::size_t zCount, std::function<void()> zStep) {
-    port.onByte = [=, this] {
-      if (port.written.size() == zCount) {
-        zStep();
-      }
-    };
-  }
   std::string Written() {
     Click("btnWrite");
     EXPECT_TRUE(Get("btnWrite")->isEnabled());
@@ -83,15 +74,15 @@ TEST_P(AWrite, IsStoppedByClosingWhichStoresOnce) {
 }
 
 TEST_P(AWrite, SendsNothingWhenItsWindowIsClosedAsItBegins) {
-  QTimer::singleShot(0, window.get(), [this] { window->close(); });
+  After(0, [this] { window->close(); });
   EXPECT_EQ(Written(), "");
 }
 
 TEST_P(AWrite, LeavesItsShutUpToALineHeldBackWhenItsWindowIsClosed) {
   port.isHeldBack = true;
-  QTimer::singleShot(20, window.get(), [this] { Click("btnShutUp"); });
-  QTimer::singleShot(40, window.get(), [this] { Click("btnDone"); });
-  QTimer::singleShot(60, window.get(), [this] { port.isHeldBack = false; });
+  After(20, [this] { Click("btnShutUp"); });
+  After(40, [this] { Click("btnDone"); });
+  After(60, [this] { port.isHeldBack = false; });
   EXPECT_EQ(Written(), StopSequence());
   EXPECT_EQ(closings, 1);
 }

@@ -29,8 +29,6 @@ class MainWindow : public ToolWindowTest {
     QTest::keyClick(Box("txtComPort"), Qt::Key_Tab);
   }
 
-  /// Runs when the handler under test has come to its first wait for events.
-  void Meanwhile(std::function<void()> zAct) { QTimer::singleShot(0, &*main, std::move(zAct)); }
   static ToolWindow* Modal() {
     return qobject_cast<ToolWindow*>(QApplication::activeModalWidget());
   }
@@ -179,7 +177,7 @@ TEST_F(MainWindow, EachButtonOpensItsEditorOnce) {
                                        {"btnDictEdit", "loquitor::frmDictEdit"}}) {
     its.PhraseToMove = its.WordToMove = "left over";
     int opened = 0;
-    Meanwhile([&, zButton = button, zEditor = editor] {
+    After(0, [&, zButton = button, zEditor = editor] {
       ASSERT_NE(Modal(), nullptr) << zButton;
       ++opened;
       EXPECT_STREQ(Modal()->metaObject()->className(), zEditor);
@@ -201,11 +199,11 @@ TEST_F(MainWindow, StaysUsableWhileASendOfAClosedEditorWaitsForTheLine) {
   Start();
   port.isHeldBack = true;
   std::string steps;
-  Meanwhile([&] {
-    Meanwhile([&] {  // the test of the editor waits for the line: it is closed, another opened
+  After(0, [&] {
+    After(0, [&] {  // the test of the editor waits for the line: it is closed, another opened
       Modal()->close();
       EXPECT_EQ(Modal(), nullptr);
-      Meanwhile([&] {
+      After(0, [&] {
         steps += Modal() == nullptr ? "none " : "second ";
         Modal()->close();
         port.isHeldBack = false;
@@ -224,7 +222,7 @@ TEST_F(MainWindow, StaysUsableWhileASendOfAClosedEditorWaitsForTheLine) {
 TEST_F(MainWindow, ClosingEndsASendThatWaitsAndOpensThePortNoMore) {
   Start();
   port.isHeldBack = true;
-  Meanwhile([&] { main->close(); });
+  After(0, [&] { main->close(); });
   Click("cmdTestSerialPort");
   EXPECT_FALSE(main->isVisible());
   EXPECT_FALSE(port.IsOpen());
@@ -236,7 +234,7 @@ TEST_F(MainWindow, ClosingEndsASendThatWaitsAndOpensThePortNoMore) {
 TEST_F(MainWindow, ASessionThatEndsUnloadsTheEditorsFirst) {
   Start();
   bool isEditorUnloaded = false;
-  Meanwhile([&] {
+  After(0, [&] {
     ToolWindow* editor = Modal();
     main->close();
     isEditorUnloaded = editor->IsUnloaded();

@@ -22,7 +22,7 @@ class FrmPhraseTest : public PhraseWindowTest {
       }
     });
     whenOpen.start(1);
-    QTimer::singleShot(0, window.get(), [=, this] { Press(zButton); });
+    After(0, [=, this] { Press(zButton); });
     Press(zButton);
     EXPECT_EQ(shown.size(), 1u) << zButton;
     return shown.empty() ? "no viewer" : shown.back();
@@ -59,19 +59,13 @@ TEST_F(FrmPhraseTest, SaysTheWholeTextOrTheSelection) {
              {"|hello,  \\PITCH\n \\100", "bntSayIt", "\xB7\x83\x92\x89\x02\x06\x16\x64"},
              {"\\IY [\\EH ]\\AX", "btnSaySelection", "\x83"},
              {"\\IY |\\EH", "btnSaySelection", ""}}) {
-      QTimer::singleShot(0, window.get(), [&] { GivenSayData(sayData); });  // still pending
+      After(0, [&] { GivenSayData(sayData); });  // still pending
       Press(button);
       EXPECT_EQ(Sent(), (isApplied ? DefaultPrefix : "") + codes) << sayData;
       EXPECT_EQ(SayData(), sayData) << "the text, caret and selection stay";
       EXPECT_TRUE(SayDataBox()->hasFocus());
     }
   }
-  host.isFlowControlTicked = false;
-  host.sendsLongPhrases = false;
-  SayDataBox()->SetText(std::string(65, ','));
-  Press("bntSayIt");
-  EXPECT_EQ(host.longPhraseQuestions, 1);
-  EXPECT_EQ(Sent(), "");
 }
 
 TEST_F(FrmPhraseTest, ShowsTheCodesInOneViewerAndSendsNothing) {
@@ -108,11 +102,7 @@ TEST_F(FrmPhraseTest, InsertsAtTheCaretOrOverTheSelectionAndTakesItBack) {
 
 TEST_F(FrmPhraseTest, ShutsUpInMidPhrase) {
   GivenSayData("\\IY \\EH \\AX \\OW|");
-  port.onByte = [this] {
-    if (port.written.size() == 10) {
-      QTimer::singleShot(0, window.get(), [this] { Press("btnShutUp"); });
-    }
-  };
+  AfterBytes(10, [this] { After(0, [this] { Press("btnShutUp"); }); });
   Press("bntSayIt");
   EXPECT_EQ(Sent(), DefaultPrefix + "\x80\x83" + std::string("\\0RX\x1F\0", 6));
 }
@@ -153,7 +143,7 @@ TEST_F(FrmPhraseTest, DoesNothingMoreWhenItIsClosedAsAnActionBegins) {
   for (const char* button :
        {"bntSayIt", "btnSaySelection", "btnCodes", "Command2", "btnNextWord"}) {
     Open();
-    QTimer::singleShot(0, window.get(), [this] { window->close(); });
+    After(0, [this] { window->close(); });
     Press(button);
     EXPECT_EQ(Sent(), "") << button;
   }

@@ -38,6 +38,19 @@ class WindowTest : public ::testing::Test, protected InFolder, protected Program
   /// What has gone out on the line since the last call.
   std::string Sent() { return port.TakeWritten(); }
 
+  /// Runs `zStep` when so many bytes have gone out since the last call of Sent().
+  void AfterBytes(std::size_t zCount, std::function<void()> zStep) {
+    port.onByte = [=, this] {
+      if (port.written.size() == zCount) {
+        zStep();
+      }
+    };
+  }
+  /// Runs `zStep` from the event loop that runs then.
+  void After(int zMilliseconds, std::function<void()> zStep) {
+    QTimer::singleShot(zMilliseconds, &steps_, std::move(zStep));
+  }
+
   /// What the boxes that have come up said.
   QStringList Told() const {
     QStringList texts;
@@ -46,6 +59,9 @@ class WindowTest : public ::testing::Test, protected InFolder, protected Program
     }
     return texts;
   }
+
+ private:
+  QObject steps_;  // those that are still to come end with the test
 };
 
 /// A test of one window, with verbs for what its user does.

@@ -205,11 +205,8 @@ TEST_F(SynthTest, AWriterThatGivesUpLeavesTheSendOfAnotherWindowAlone) {
 
 TEST_F(OpenSynthTest, ShutUpStopsALoadUnderWay) {
   GivenSounds("Loud", LoudSound);
-  port.onByte = [this] {
-    if (port.written.size() == 12) {  // the first whole write and the beginning of the next
-      QTimer::singleShot(0, window.get(), [this] { Press("btnShutUp"); });
-    }
-  };
+  // The first whole write and the beginning of the next.
+  AfterBytes(12, [this] { After(0, [this] { Press("btnShutUp"); }); });
   Press("btnLoad");
   EXPECT_EQ(Sent(), Writes({{1, 1}}) + "\\011\\0RX" + Writes({{11, 0}, {1, 0}}));
   EXPECT_EQ(Value("scVol(5)"), 0);
@@ -233,7 +230,7 @@ TEST_F(OpenSynthTest, AClickAwayFromABoxArrivesThoughItsWriteLetsTheReleaseIn) {
   Type("txtFreq(1)", "44");
   auto* box = Get<CheckBox>("Check2(1)");
   const QPoint place = box->mapTo(window.get(), box->rect().center());
-  DuringNextByte([&] { QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, place); });
+  AfterBytes(1, [&] { QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, place); });
   QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, place);
   LetRun();
   EXPECT_TRUE(box->isChecked());

@@ -45,19 +45,6 @@ class SynthTest : public ToolWindowTest {
     Box("txtSound")->setText(zName);
   }
 
-  /// Runs `zStep` while the next byte goes out.
-  void DuringNextByte(std::function<void()> zStep) {
-    port.onByte = [step = std::move(zStep), hasRun = false]() mutable {
-      if (!std::exchange(hasRun, true)) {
-        step();
-      }
-    };
-  }
-
-  void After(int zMilliseconds, std::function<void()> zStep) {
-    QTimer::singleShot(zMilliseconds, &steps_, std::move(zStep));
-  }
-
   static void LetRun() {
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
@@ -97,9 +84,6 @@ class SynthTest : public ToolWindowTest {
   }
 
   std::string opening;
-
- private:
-  QObject steps_;  // those that are still to come end with the test
 };
 
 class OpenSynthTest : public SynthTest {

@@ -227,7 +227,7 @@ TEST_F(OpenSynthTest, TheWheelRebasesBeforeItTurns) {
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(bar, &event);
   };
-  DuringNextByte(turnWheel);
+  AfterBytes(1, turnWheel);
   turnWheel();
   LetRun();
   EXPECT_THAT(Values("scFreq"), ElementsAre(1020, 2040, 3060, 0, 0));
