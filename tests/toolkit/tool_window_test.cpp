@@ -181,9 +181,26 @@ TEST_F(ToolWindowTest, BusyLetsEventsRunAtBothEndsAndSurvivesItsWindow) {
   auto busy = std::make_unique<Busy>(window.get(), &window->button);
   EXPECT_EQ(runs, 1);
   post();
-  window.reset();
   busy.reset();
   EXPECT_EQ(runs, 2);
+  busy = std::make_unique<Busy>(window.get(), &window->button);
+  window.reset();
+}
+
+TEST_F(ToolWindowTest, BusyDoesNotNestWithoutEnd) {
+  int handlers = 0;
+  int deepest = 0;
+  std::function<void()> handler = [&, depth = 0]() mutable {
+    deepest = std::max(deepest, ++depth);
+    if (++handlers < 100) {
+      QTimer::singleShot(0, &owner, [&] { handler(); });  // as a click that came meanwhile
+    }
+    { const Busy busy(&owner); }
+    --depth;
+  };
+  handler();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return handlers == 100; }));
+  EXPECT_LT(deepest, 20);
 }
 
 }  // namespace

@@ -8,6 +8,10 @@
 namespace loquitor {
 namespace {
 
+/// Events run within each other. Clicks that come faster than they are handled would otherwise nest
+/// until the stack is full.
+constexpr int DeepestTurn = 8;
+
 /// The hourglass over one window: how many Busy objects ask for it and what was there before.
 class Hourglass : public QObject {
  public:
@@ -51,6 +55,18 @@ class Hourglass : public QObject {
     }
   }
 
+  void LetEventsRun() {
+    if (turns_ == DeepestTurn) {
+      return;  // those that run around this one go on to what is pending
+    }
+    const QPointer<Hourglass> self = this;
+    ++turns_;
+    QCoreApplication::processEvents();
+    if (self) {
+      --turns_;
+    }
+  }
+
  private:
   struct Covered {
     QPointer<QWidget> widget;
@@ -64,6 +80,7 @@ class Hourglass : public QObject {
   }
 
   int depth_ = 0;
+  int turns_ = 0;
   std::vector<Covered> covered_;
 };
 
@@ -79,14 +96,14 @@ Busy::Busy(QWidget* zWindow, QWidget* zButton) : window_(zWindow) {
     }
     zButton->setEnabled(false);
   }
-  QCoreApplication::processEvents();
+  Hourglass::Of(zWindow)->LetEventsRun();
 }
 
 Busy::~Busy() {
   if (window_) {
     Hourglass::Of(window_)->Hide();
+    Hourglass::Of(window_)->LetEventsRun();
   }
-  QCoreApplication::processEvents();
   if (button_) {
     button_->setEnabled(true);
     if (hadFocus_ && button_->window()->focusWidget() == nullptr) {
