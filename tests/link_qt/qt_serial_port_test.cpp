@@ -1,6 +1,7 @@
 #include "link/qt/qt_serial_port.h"
 
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 
@@ -137,6 +138,19 @@ TEST_F(QtSerialPortTest, ADeviceWithoutPermissionOrInUseByAnyOtherProgramIsRefus
   ::close(other);
   EXPECT_LT(::open(terminal.Path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC), 0);  // now it is ours
   EXPECT_TRUE(Open());  // and opens again for us
+}
+
+TEST_F(QtSerialPortTest, ADeviceThatAnotherProgramHasLockedIsRefusedEvenToTheSuperuser) {
+  const int other = ::open(terminal.Path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+  const auto isLocked = [other] { return ::flock(other, LOCK_EX | LOCK_NB) != 0; };
+  ASSERT_FALSE(isLocked());
+  EXPECT_FALSE(Open());
+  ASSERT_EQ(::flock(other, LOCK_UN), 0);
+  EXPECT_TRUE(Open());
+  EXPECT_TRUE(isLocked()) << "now it is ours";
+  port.Close();
+  EXPECT_FALSE(isLocked());
+  ::close(other);
 }
 
 TEST_F(QtSerialPortTest, AHeldBackLineNeitherBlocksNorFails) {
