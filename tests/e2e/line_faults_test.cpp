@@ -38,15 +38,33 @@ class LineFaults : public LoquitorSession {
     EXPECT_TRUE(chip->LetPass(50));
   }
 
-  /// The chip gets a beginning of the endless phrase and then `zEnd`, nothing else.
-  void ExpectCutBy(const std::string& zEnd) {
+  /// The chip gets a beginning of `zWhole` and then `zEnd`, nothing else.
+  void ExpectCutBy(const std::string& zEnd, const std::string& zWhole) {
     chip->Release();
     ExpectEnd(zEnd);
-    const std::string phrase = Prefix + std::string(EndlessCount, '\x80');
     const std::size_t cutAt = chip->Received().size() - zEnd.size();
-    EXPECT_EQ(chip->Received(), phrase.substr(0, cutAt) + zEnd);
-    EXPECT_LT(cutAt, phrase.size()) << "nothing was cut";
+    EXPECT_EQ(chip->Received(), zWhole.substr(0, cutAt) + zEnd);
+    EXPECT_LT(cutAt, zWhole.size()) << "nothing was cut";
     chip->Forget();
+  }
+  void ExpectCutBy(const std::string& zEnd) {
+    ExpectCutBy(zEnd, Prefix + std::string(EndlessCount, '\x80'));
+  }
+
+  void PlugInAnother() {
+    chip = std::make_unique<PtyChip>();
+    WriteBytes(folder / "Loquitor.ini",
+               "[Ports]\r\n1=" + chip->Path() + "\r\n" + ManyStoredPhrases());
+  }
+
+  /// Opens the EEPROM editor and writes, until the line is held back after so many bytes.
+  void WritePhrasesUntil(std::size_t zCount) {
+    EXPECT_TRUE(AwaitPortColour("FFFFFF"));
+    PlugInAnother();
+    chip->HoldBackAfter(zCount);
+    Open(At("EEPROM Editor"), EepromTitle);
+    Click("Write the phrases");
+    EXPECT_TRUE(Await([&] { return chip->IsFull(); }));
   }
 };
 
@@ -107,14 +125,40 @@ TEST_F(LineFaults, ShutUpAndClosingTheWindowCutAPhraseInMidSend) {
   Finish();
 }
 
+TEST_F(LineFaults, ShutUpAndClosingTheWindowCutAWriteOfTheEepromWhereverItIs) {
+  GivenSettings(ManyStoredPhrases());
+  Start();
+  Open(At("EEPROM Editor"), EepromTitle);
+  Click("Write the phrases");
+  ExpectEnd("\\0VX");
+  const std::string whole = chip->Received();
+  EXPECT_GT(whole.size(), 2000u);
+  chip->Forget();
+  Leave("Done of the phrases");
+  for (std::size_t at = 1; at < whole.size(); at += 401) {
+    WritePhrasesUntil(at);
+    Click("Shut Up of the phrases");
+    Leave("Done of the phrases");  // so that Shut Up has been at work before the chip goes on
+    ExpectCutBy(StopBytes, whole);
+  }
+  WritePhrasesUntil(whole.size() / 2);
+  CloseByKey(EepromTitle);
+  Click("Test Serial Connection");
+  ExpectCutBy(TestBytes, whole);
+  OpenPhraseEditor();
+  Say("\\IY");
+  ExpectBytes(Prefix + "\x80");
+  Leave("Done of the phrase");
+  Finish();
+}
+
 TEST_F(LineFaults, ALineThatIsPulledAwayInMidSendShowsRedAndLeavesEverythingUsable) {
   GivenLongWords();
   Start();
   BreakOffEndlessPhrase();
   chip->HangUp();
   EXPECT_TRUE(AwaitPortColour("FF0000"));
-  chip = std::make_unique<PtyChip>();
-  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Path() + "\r\n");
+  PlugInAnother();
   Click("Shut Up of the phrase");
   ExpectBytes(StopBytes);
   EXPECT_TRUE(AwaitPortColour("00FF00"));

@@ -29,6 +29,7 @@ const std::map<std::string, Spot> Spots = {
     {"Done of the codes", {CodesTitle, 446, 332}},
     {"Save Changes", {DictionaryTitle, 645, 414}},
     {"Write the phrases", {EepromTitle, 552, 238}},
+    {"Shut Up of the phrases", {EepromTitle, 680, 238}},
     {"Done of the phrases", {EepromTitle, 770, 238}},
     {"SCP Node", {EventTitle, 112, 478}},
     {"Auto Silence", {EventTitle, 222, 478}},

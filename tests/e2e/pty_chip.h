@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 #include <string>
 
@@ -12,8 +13,17 @@ namespace loquitor::testing {
 /// line's own buffer is full.
 class PtyChip : public PseudoTerminal {
  public:
-  /// Everything received so far.
-  const std::string& Received() { return received_ += PseudoTerminal::Received(); }
+  /// Everything received so far of the program.
+  const std::string& Received() {
+    received_ += PseudoTerminal::Received();
+    const std::size_t fillers = std::min(fillers_, received_.size());
+    received_.erase(0, fillers);
+    fillers_ -= fillers;
+    return received_;
+  }
+
+  /// Holds the line back as soon as the program has sent so many bytes.
+  void HoldBackAfter(std::size_t zCount) { fillers_ = LeaveRoom(zCount); }
 
   /// Forgets what has been received.
   void Forget() { received_.clear(); }
@@ -32,6 +42,7 @@ class PtyChip : public PseudoTerminal {
 
  private:
   std::string received_;
+  std::size_t fillers_ = 0;
 };
 
 }  // namespace loquitor::testing

@@ -59,12 +59,38 @@ class PseudoTerminal {
   /// The chip takes back its "clear to send": nothing passes, whatever the program writes. To be
   /// called for the first time while the program does not have the line open.
   void HoldBack() {
-    if (line_ < 0 && (line_ = ::open(path_.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC)) < 0) {
-      throw std::runtime_error("no end of the pseudo-terminal for the program");
-    }
+    OpenLine();
     ::tcflow(line_, TCOOFF);
   }
   void Release() { ::tcflow(line_, TCOON); }
+
+  /// Fills the line with bytes of no meaning, so that just `zRoom` more fit until the chip is asked
+  /// for some: however slow the machine, the program gets so far and no farther. Returns how many
+  /// bytes the chip receives before the program's. For a line that nothing has passed over yet.
+  std::size_t LeaveRoom(std::size_t zRoom) {
+    constexpr std::size_t grain = 512;  // Linux frees so many places at once
+    OpenLine();
+    std::size_t count = 0;
+    for (; !IsFull(20); ++count) {
+      Put();
+    }
+    const std::size_t freed = (zRoom + grain - 1) / grain * grain;
+    std::string taken(freed, ' ');
+    for (std::size_t done = 0; done < freed;) {
+      const ssize_t size = ::read(chip_, taken.data(), freed - done);
+      done += size > 0 ? static_cast<std::size_t>(size) : 0;
+    }
+    for (std::size_t left = freed; left > zRoom; --left) {
+      Put();
+    }
+    return count - zRoom;
+  }
+
+  /// Whether the line takes no more now, nor within that time.
+  bool IsFull(int zMilliseconds = 0) const {
+    pollfd line{.fd = line_, .events = POLLOUT, .revents = 0};
+    return ::poll(&line, 1, zMilliseconds) == 0;
+  }
 
   /// The adapter is unplugged.
   void HangUp() {
@@ -77,8 +103,25 @@ class PseudoTerminal {
   }
 
  private:
+  void OpenLine() {
+    if (line_ < 0 &&
+        (line_ = ::open(path_.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) < 0) {
+      throw std::runtime_error("no end of the pseudo-terminal for the program");
+    }
+  }
+
+  /// Writes a byte from the program's end.
+  void Put() {
+    for (int tries = 0; ::write(line_, ".", 1) != 1; ++tries) {
+      const bool isFull = IsFull(10);  // waits: what was taken off makes room in its own time
+      if (isFull && tries == 100) {
+        throw std::runtime_error("the line takes nothing");
+      }
+    }
+  }
+
   int chip_ = -1;
-  int line_ = -1;  // the program's end, for its flow alone
+  int line_ = -1;  // the program's end, for its flow and what fills it
   std::string path_;
 };
 
