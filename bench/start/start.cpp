@@ -1,6 +1,10 @@
 // From the start of a program to its first window on the screen, and the memory that it then holds,
-// for Loquitor and for a bare Qt window, empty and with one line of text. Needs Xvfb.
+// for Loquitor and for a bare Qt window, empty and with one line of text; and what Loquitor holds
+// when it has looked words up in a dictionary. Needs what the end-to-end tests need.
 
+#include "tests/e2e/loquitor_session.h"
+
+// Behind GoogleTest, whose names are macros here.
 #include <X11/Xlib.h>
 #include <benchmark/benchmark.h>
 
@@ -81,21 +85,48 @@ void WindowWithText(benchmark::State& zState) {
   StartToFirstWindow(zState, {BARE_WINDOW, "Text"});
 }
 
+void WriteDictionary(const std::filesystem::path& zFolder, int zEntries) {
+  std::ofstream dictionary(zFolder / "Loquitor.Dic");
+  dictionary << "[words]\r\n";
+  for (int word = 0; word < zEntries; ++word) {
+    dictionary << "word" << word << "=\\HE \\EH \\LO \\OWWW\r\n";
+  }
+}
+
 void Loquitor(benchmark::State& zState) {
   TempFolder folder;
   std::filesystem::copy_file(LOQUITOR_PROGRAM, folder / "Loquitor");
-  std::ofstream dictionary(folder / "Loquitor.Dic");
-  dictionary << "[words]\r\n";
-  for (int word = 0; word < 130000; ++word) {
-    dictionary << "word" << word << "=\\HE \\EH \\LO \\OWWW\r\n";
-  }
-  dictionary.close();
+  WriteDictionary(folder.Path(), 130000);
   StartToFirstWindow(zState, {folder / "Loquitor"});
+}
+
+/// Someone who opens the phrase editor, types words of the dictionary and looks at their codes.
+class LookingUp : public LoquitorSession {
+ public:
+  void TestBody() override {}
+  double Megabytes(int zEntries) {
+    SetUp();
+    WriteDictionary(folder.Path(), zEntries);
+    Start();
+    OpenPhraseEditor();
+    desktop.Type("word1 word9");
+    if (ViewedCodes().find("183, 131, 146, 164") == std::string::npos) {
+      throw std::runtime_error("the words were not found");
+    }
+    return ResidentMegabytes(loquitor->Pid());
+  }
+};
+
+void LoquitorAfterLookingUp(benchmark::State& zState) {
+  for (auto _ : zState) {
+    zState.counters["resident_MB"] = LookingUp().Megabytes(static_cast<int>(zState.range(0)));
+  }
 }
 
 BENCHMARK(BareWindow)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(WindowWithText)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(Loquitor)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(LoquitorAfterLookingUp)->Arg(10)->Arg(130000)->Iterations(1);
 
 }  // namespace
 }  // namespace loquitor::testing
