@@ -44,7 +44,8 @@ struct PaletteMember {
 
 inline constexpr std::size_t PaletteMemberCount = 183;
 
-/// The palette, frame by frame; within a frame in reading order.
+/// The palette, frame by frame; within a frame from its top left to its bottom right corner, row by
+/// row or column by column.
 extern const std::array<PaletteMember, PaletteMemberCount> PaletteTable;
 
 /// The member of that index, or null for an index that is not used.
