@@ -26,9 +26,10 @@ bool DictionaryStore::SaveDictionaryValue(std::string_view zSection, std::string
   return WriteProfileValue(zSection, zWord, zValue, file_);
 }
 
-std::string_view DictionaryStore::EntryIn(const ProfileIndex& zIndex, std::string_view zWord) {
+std::string_view DictionaryStore::EntryIn(const ProfileIndex& zIndex, std::string_view zWord,
+                                          std::string_view zDefault) {
   const auto entry = zIndex.Find(Section, zWord);
-  return TrimSpacesAndNuls(entry.value_or(std::string_view()).substr(0, BufferLength - 1));
+  return TrimSpacesAndNuls(entry.value_or(zDefault).substr(0, BufferLength - 1));
 }
 
 }  // namespace loquitor

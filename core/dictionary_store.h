@@ -29,9 +29,10 @@ class DictionaryStore {
   bool SaveDictionaryValue(std::string_view zSection, std::string_view zWord,
                            std::string_view zValue) const;
 
-  /// GetDictionaryValue for `zIndex`, the dictionary file as a caller has it at hand; the empty
-  /// text for a missing word. The view lives as long as the index.
-  static std::string_view EntryIn(const ProfileIndex& zIndex, std::string_view zWord);
+  /// GetDictionaryValue for `zIndex`, the dictionary file as a caller has it at hand. The view
+  /// lives as long as the index and `zDefault`.
+  static std::string_view EntryIn(const ProfileIndex& zIndex, std::string_view zWord,
+                                  std::string_view zDefault = {});
 
   /// The path of the dictionary file.
   const std::filesystem::path& File() const { return file_; }

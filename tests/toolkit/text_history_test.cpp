@@ -71,6 +71,10 @@ class TextHistoryTest : public ::testing::Test {
     area.setTextCursor(cursor);
   }
 
+  void ReplaceAll(const std::string& zText) {
+    history.ReplaceAll([&zText] { return zText; });
+  }
+
   /// The text with one stretch of it replaced, or none; now and then nearly all of it.
   std::string Varied(std::string zText) {
     const std::size_t start = random() % (zText.size() + 1);
@@ -107,7 +111,7 @@ TEST_F(TextHistoryTest, RunsOfTypingAndErasingAreStepsOfTheirOwn) {
   area.Select(0, 4);
   area.ReplaceSelection("1\n");
   done("1\ntwo\nthree!");
-  history.ReplaceAll("other");
+  ReplaceAll("other");
   done("other");
   for (std::size_t i = texts.size() - 1; i-- > 0;) {
     Press(QKeySequence::Undo);
@@ -126,7 +130,7 @@ TEST_F(TextHistoryTest, FollowsRandomEditsAndTakesThemAllBack) {
     std::string start(random() % 40, 'x');
     history.Load(start);
     for (int edit = 0; edit < 30; ++edit) {
-      random() % 4 == 0 ? history.ReplaceAll(Varied(history.Text())) : EditAtRandom();
+      random() % 4 == 0 ? ReplaceAll(Varied(history.Text())) : EditAtRandom();
       ASSERT_EQ(history.Text(), area.Text()) << "round " << round << ", edit " << edit;
       if (random() % 4 == 0) {
         history.Undo();
@@ -151,7 +155,7 @@ TEST_F(TextHistoryTest, TheSameTextAgainIsNoStepAndANewOneForgetsWhatWasTakenBac
   area.moveCursor(QTextCursor::End);
   Type("!");
   history.Undo();
-  history.ReplaceAll("one\ntwo");
+  ReplaceAll("one\ntwo");
   EXPECT_EQ(area.SelectionStart(), 0);
   EXPECT_FALSE(history.CanUndo());
   history.Redo();
@@ -166,7 +170,7 @@ TEST_F(TextHistoryTest, TakingBackAReplacementPutsTheCaretWhereItWas) {
   for (const char* other : {"one\ntwo\n3\nfour", "all else"}) {
     history.Load("one\ntwo\nthree\nfour");
     area.Select(5, 0);
-    history.ReplaceAll(other);
+    ReplaceAll(other);
     EXPECT_EQ(area.SelectionStart(), 0);
     area.Select(3, 0);
     history.Undo();
@@ -182,7 +186,7 @@ TEST_F(TextHistoryTest, OldStepsGiveWayWhenTheyHoldTooMuch) {
   std::vector<std::string> texts;
   for (int i = 0; i < 6; ++i) {
     texts.push_back(Lines(Size));
-    i == 0 ? history.Load(texts[0]) : history.ReplaceAll(texts.back());
+    i == 0 ? history.Load(texts[0]) : ReplaceAll(texts.back());
     EXPECT_LE(history.BytesHeld(), Bound);
   }
   for (const int i : {4, 3, 2}) {
@@ -195,7 +199,7 @@ TEST_F(TextHistoryTest, OldStepsGiveWayWhenTheyHoldTooMuch) {
   EXPECT_TRUE(area.Text() == texts[3]);
   const std::string large = Lines(Bound * 5 / 4);
   history.Load(large);
-  history.ReplaceAll("");
+  ReplaceAll("");
   history.Undo();
   EXPECT_TRUE(history.Text() == large) << "the newest step is kept whatever its size";
 }

@@ -12,6 +12,7 @@
 
 #include "core/dictionary_text.h"
 #include "link/file_bytes.h"
+#include "link/fresh_profile.h"
 #include "ui/dictedit/word_list.h"
 #include "ui/toolkit/busy.h"
 #include "ui/toolkit/code_page.h"
@@ -166,14 +167,16 @@ void frmDictEdit::SaveAndRewrite(QWidget* zButton, std::string (*zRewrite)(std::
   if (IsUnloaded() || !SaveText()) {
     return;
   }
-  std::optional<std::string> bytes = ReadWholeFile(context_.dictionary.File());
+  std::optional<std::string> bytes;
+  history_->ReplaceAll([&] {
+    bytes = ReadWholeFile(context_.dictionary.File());
+    return bytes ? zRewrite(std::move(*bytes)) : history_->Text();
+  });
   if (!bytes) {
     context_.prompts.Tell(this, QStringLiteral("The dictionary was saved, but cannot be read back:"
                                                "\r\n%1")
                                     .arg(Shown(context_.dictionary.File())));
-    return;
   }
-  history_->ReplaceAll(zRewrite(std::move(*bytes)));
 }
 
 bool frmDictEdit::SaveText() {
@@ -238,14 +241,17 @@ void frmDictEdit::ShowSelection() {
 }
 
 void frmDictEdit::btnReadTerms_Click() {
-  WordImport import([this](std::string_view zWord) {
-    return context_.dictionary.GetDictionaryValue(DictionaryStore::Section, zWord, NoEntry) ==
-           NoEntry;
+  // An index of its own, because one that is remembered would take more memory than the file.
+  std::optional<FreshProfile> words(context_.dictionary.File());
+  WordImport import([&words](std::string_view zWord) {
+    const auto index = words->Index();
+    return !index || DictionaryStore::EntryIn(*index, zWord, NoEntry) == NoEntry;
   });
   QString failure;
   {
     const Busy busy(this, form_.Get<QPushButton>(QStringLiteral("btnReadTerms")));
     failure = ImportFailure(import);
+    words.reset();
     if (!IsUnloaded()) {
       history_->Append(import.AddedText());
     }

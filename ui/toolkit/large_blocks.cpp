@@ -15,4 +15,10 @@ void ReturnLargeBlocksAtOnce() {
 #endif
 }
 
+void ReturnSmallBlocks() {
+#ifdef __GLIBC__
+  static_cast<void>(malloc_trim(0));  // whether there was anything does not matter
+#endif
+}
+
 }  // namespace loquitor

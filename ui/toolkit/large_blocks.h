@@ -8,4 +8,9 @@ namespace loquitor {
 /// of the program; does nothing where the C library has no such setting.
 void ReturnLargeBlocksAtOnce();
 
+/// Gives what has been freed in small blocks back to the system, in a few milliseconds for tens of
+/// megabytes. For the moment when a large structure is gone and large blocks come next, which
+/// cannot use its place. Does nothing where the C library cannot do that.
+void ReturnSmallBlocks();
+
 }  // namespace loquitor

@@ -7,12 +7,16 @@
 #include <utility>
 
 #include "ui/toolkit/code_page.h"
+#include "ui/toolkit/large_blocks.h"
 
 namespace loquitor {
 namespace {
 
 /// How many characters of the document are looked at in one piece.
 constexpr int PieceLength = 1 << 16;
+
+/// From how many bytes on the memory of what the box has shown is given back before it shows more.
+constexpr std::size_t LargeText = 1 << 20;
 
 /// From how many bytes on a step is compressed, and how hard (1 to 9, see zlib).
 constexpr std::size_t PackedFrom = 1 << 16;
@@ -92,18 +96,18 @@ void TextHistory::Load(std::string zText) {
   Show();
 }
 
-void TextHistory::ReplaceAll(std::string zText) {
-  const Stretch changed = ChangedStretch(text_, zText);
-  if (changed.before.empty() && changed.after.empty()) {
-    area_->moveCursor(QTextCursor::Start);
-    return;
+void TextHistory::ReplaceAll(const std::function<std::string()>& zRewrite) {
+  const int caret = area_->textCursor().position();
+  ClearArea();
+  std::string rewritten = zRewrite();
+  const Stretch changed = ChangedStretch(text_, rewritten);
+  if (!changed.before.empty() || !changed.after.empty()) {
+    Step step{changed.start, changed.after.size(), std::string(changed.before), caret};
+    text_ = std::move(rewritten);
+    ForgetRedo();
+    Push(undo_, std::move(step));
   }
-  Step step{changed.start, changed.before.size(), {}, 0};
-  const std::size_t end = changed.start + changed.after.size();
-  zText.erase(end).erase(0, changed.start);
-  step.other = std::move(zText);
-  ForgetRedo();
-  Push(undo_, Apply(std::move(step)));
+  Show();
 }
 
 void TextHistory::Append(std::string_view zText) {
@@ -187,6 +191,9 @@ void TextHistory::ShowChange(std::size_t zStart, std::size_t zRemoved, std::size
 void TextHistory::ClearArea() {
   const FlagRaised ownChange(isOwnChange_);
   area_->SetText("");
+  if (text_.size() >= LargeText) {
+    ReturnSmallBlocks();
+  }
 }
 
 void TextHistory::Show() {

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -31,9 +32,11 @@ class TextHistory : public QObject {
   /// Shows `zText` and forgets all steps. The caret stands at the start.
   void Load(std::string zText);
 
-  /// Replaces the whole text, which is one step; none when it is the same. The caret stands at the
-  /// start. What the two have in common at their beginning and their end costs nothing.
-  void ReplaceAll(std::string zText);
+  /// Replaces the whole text by what `zRewrite` makes, which is one step; none when it is the same.
+  /// The box is emptied before `zRewrite` runs, because it holds several times the text, and shown
+  /// afresh, the caret at the start. The step holds nothing of what the two have in common at their
+  /// beginning and their end.
+  void ReplaceAll(const std::function<std::string()>& zRewrite);
 
   /// Adds `zText` behind the last character, which is one step. The caret ends behind it, in view.
   void Append(std::string_view zText);
