@@ -61,7 +61,7 @@ class SenderHost {
 /// bytes go out, after those of a command string that has begun. So while the bar moves the chip
 /// gets as many whole commands as the line carries, each with the latest value.
 ///
-/// A line that stands still, or a phrase that takes long, must not lock the user out: after a tenth
+/// A line that stands still, or a phrase that takes long, must not lock the user out: after a fifth
 /// of a second the send beyond the depth leaves what remains to the innermost send that lets him
 /// in. What is left so in one turn of the event loop stays together in order, and takes the place
 /// of what was left earlier and has not begun; a command string that has begun is finished first.
