@@ -53,8 +53,8 @@ class SerialPort {
   /// Hands one byte over. False when the port refused it or has failed.
   virtual bool WriteByte(std::uint8_t zByte) = 0;
 
-  /// How many of the bytes handed over have not left for the line. 0 where the system does not
-  /// tell, and when not open.
+  /// How many of the bytes handed over have not left for the line; 1 for any number of them that
+  /// only the adapter still holds. 0 where the system does not tell, and when not open.
   virtual int UnsentBytes() const = 0;
 
   /// `zHandler` is called when an open port fails: once for each successful Open at most, from the

@@ -12,9 +12,8 @@ const std::string_view SayHelpText =
     "  --force  send phrases of more than 64 codes also while flow control is off\n"
     "  --help   this text\n"
     "  --       what follows is text, even if it begins with a hyphen\n"
-    "Exit status: 0 done; 1 the port cannot be opened or failed or has taken no byte for a "
-    "minute,\n"
-    "a phrase is too long, or the input cannot be read; 2 wrong usage.\n"
+    "Exit status: 0 done; 1 the port cannot be opened or failed or has taken no byte for five\n"
+    "minutes, a phrase is too long, or the input cannot be read; 2 wrong usage.\n"
     "Example: loquitor-say 'hello, world  \\PITCH \\100'\n";
 
 namespace {

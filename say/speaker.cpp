@@ -1,6 +1,7 @@
 #include "say/speaker.h"
 
 #include <optional>
+#include <utility>
 
 #include "core/number_text.h"
 #include "link/port_numbers.h"
@@ -30,13 +31,13 @@ std::size_t Speaker::BytesLeft() const {
 void Speaker::WaitForEvents(UserInput zInput) {
   turns_.WaitForEvents(zInput);
   const auto now = std::chrono::steady_clock::now();
-  if (BytesLeft() != bytesLeft_) {
-    bytesLeft_ = BytesLeft();
+  const std::size_t left = BytesLeft();
+  if (left != std::exchange(bytesLeft_, left)) {
     lastProgress_ = now;
-  } else if (bytesLeft_ > 0 && now - lastProgress_ > longestStandstill_) {
-    complaint_ = "the chip holds the line back; the last " + std::to_string(bytesLeft_) +
-                 " bytes were not sent (for a cable without CTS set FlowControl=0 in section "
-                 "[Serial] of Loquitor.ini)";
+  } else if (left > 0 && now - lastProgress_ > longestStandstill_) {
+    complaint_ =
+        "the chip holds the line back; the last codes were not sent (for a cable without CTS set "
+        "FlowControl=0 in section [Serial] of Loquitor.ini)";
     sender_.CloseSerialPort();
   }
 }

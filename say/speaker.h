@@ -16,9 +16,10 @@ namespace loquitor {
 class Speaker : private SenderHost {
  public:
   /// `zSettings` outlives the speaker. `zIsForced`: the answer to the long-phrase question.
-  /// `zLongestStandstill`: how long it waits for a line that takes no byte.
+  /// `zLongestStandstill`: how long it waits for a line that takes no byte. An adapter does not
+  /// tell how its own buffer empties while the chip speaks, some hundred codes: minutes.
   Speaker(const SettingsFile& zSettings, bool zIsForced,
-          std::chrono::milliseconds zLongestStandstill = std::chrono::minutes(1));
+          std::chrono::milliseconds zLongestStandstill = std::chrono::minutes(5));
 
   /// Sends a code string and waits until it has left for the line. False when it could not be sent,
   /// or the line stood still for too long and the rest was discarded; Complaint then says why.

@@ -33,6 +33,8 @@ bool QtSerialPort::Open(const SerialPortSettings& zSettings) {
   if (!isOpen_) {
     lock_.Release();
   }
+  // A driver to which an unused transmitter is not empty does not know.
+  tellsTransmitter_ = isOpen_ && IsTransmitterEmpty(port_);
   return isOpen_;
 }
 
@@ -89,7 +91,11 @@ bool QtSerialPort::WriteByte(std::uint8_t zByte) {
 }
 
 int QtSerialPort::UnsentBytes() const {
-  return isOpen_ ? static_cast<int>(port_.bytesToWrite()) + BytesInSystemQueue(port_) : 0;
+  if (!isOpen_) {
+    return 0;
+  }
+  const int queued = static_cast<int>(port_.bytesToWrite()) + BytesInSystemQueue(port_);
+  return queued == 0 && tellsTransmitter_ && !IsTransmitterEmpty(port_) ? 1 : queued;
 }
 
 void QtSerialPort::CloseWhenSent() {

@@ -43,7 +43,8 @@ class QtSerialPort : public SerialPort {
   LineLock lock_;
   std::function<void()> failureHandler_;
   bool isOpen_ = false;
-  bool hasFailed_ = false;  // failed, but the layer below is not closed yet
+  bool tellsTransmitter_ = false;  // the driver knows whether the transmitter is empty
+  bool hasFailed_ = false;         // failed, but the layer below is not closed yet
 };
 
 }  // namespace loquitor

@@ -28,6 +28,10 @@ int BytesInSystemQueue(const QSerialPort& zPort) {
   return ClearCommError(zPort.handle(), &errors, &status) ? static_cast<int>(status.cbOutQue) : 0;
 }
 
+bool IsTransmitterEmpty(const QSerialPort&) {
+  return true;
+}
+
 bool TakesByteNow(const QSerialPort&) {
   return true;
 }
@@ -58,6 +62,15 @@ QString ResolveDevice(const std::string& zDevice) {
 int BytesInSystemQueue(const QSerialPort& zPort) {
   int count = 0;
   return ::ioctl(zPort.handle(), TIOCOUTQ, &count) == 0 ? count : 0;
+}
+
+bool IsTransmitterEmpty([[maybe_unused]] const QSerialPort& zPort) {
+#ifdef TIOCSERGETLSR
+  unsigned int status = 0;
+  return ::ioctl(zPort.handle(), TIOCSERGETLSR, &status) != 0 || (status & TIOCSER_TEMT) != 0;
+#else
+  return true;
+#endif
 }
 
 bool TakesByteNow(const QSerialPort& zPort) {

@@ -15,6 +15,10 @@ QString ResolveDevice(const std::string& zDevice);
 /// How many bytes wait in the system's own queue for the line. 0 where the system does not tell.
 int BytesInSystemQueue(const QSerialPort& zPort);
 
+/// Whether the line has also taken what the system's queue no longer holds: the bytes in the
+/// transmitter and in the adapter's own buffer. True where the driver does not tell.
+bool IsTransmitterEmpty(const QSerialPort& zPort);
+
 /// Whether the system's queue takes a byte at once.
 bool TakesByteNow(const QSerialPort& zPort);
 

@@ -21,9 +21,7 @@ TEST(SpeakerTest, GivesUpOnALineThatIsHeldBackAndStartsAfresh) {
   for (const std::size_t length : {2U, 60U}) {  // less than a port's queue takes, and more
     chip.HoldBack();
     EXPECT_FALSE(speaker.Say(std::string(length, 'a')));
-    EXPECT_TRUE(speaker.Complaint().starts_with("the chip holds the line back; the last " +
-                                                std::to_string(length) + " bytes"))
-        << speaker.Complaint();
+    EXPECT_TRUE(speaker.Complaint().starts_with("the chip holds the line back"));
     chip.Release();
     EXPECT_TRUE(speaker.Say("b"));
     EXPECT_EQ(chip.Received(), "b");
