@@ -134,11 +134,11 @@ TEST_F(LineFaults, ShutUpAndClosingTheWindowCutAWriteOfTheEepromWhereverItIs) {
   const std::string whole = chip->Received();
   EXPECT_GT(whole.size(), 2000u);
   chip->Forget();
-  Leave("Done of the phrases");
+  CloseByDone("Done of the phrases");
   for (std::size_t at = 1; at < whole.size(); at += 401) {
     WritePhrasesUntil(at);
     Click("Shut Up of the phrases");
-    Leave("Done of the phrases");  // so that Shut Up has been at work before the chip goes on
+    CloseByDone("Done of the phrases");  // so that Shut Up has been at work before the chip goes on
     ExpectCutBy(StopBytes, whole);
   }
   WritePhrasesUntil(whole.size() / 2);
@@ -148,7 +148,7 @@ TEST_F(LineFaults, ShutUpAndClosingTheWindowCutAWriteOfTheEepromWhereverItIs) {
   OpenPhraseEditor();
   Say("\\IY");
   ExpectBytes(Prefix + "\x80");
-  Leave("Done of the phrase");
+  CloseByDone("Done of the phrase");
   Finish();
 }
 
