@@ -6,17 +6,22 @@
 #include <iostream>
 #include <string>
 
+#include "fuzz/plain_profile.h"
 #include "link/profile_edit.h"
 #include "link/profile_index.h"
-#include "tests/support/plain_profile.h"
+#include "tests/support/loaded_text.h"
 
 namespace {
 
 using loquitor::EditForValue;
 using loquitor::ProfileIndex;
 using loquitor::testing::AsLoaded;
-using loquitor::testing::Edited;
 using loquitor::testing::PlainProfile;
+
+/// `zText` after `zEdit`.
+std::string Edited(std::string zText, const loquitor::ProfileEdit& zEdit) {
+  return zText.replace(zEdit.begin, zEdit.end - zEdit.begin, zEdit.replacement);
+}
 
 std::string TakeField(std::string& zInput) {
   const std::size_t end = std::min(zInput.find('\0'), zInput.size());

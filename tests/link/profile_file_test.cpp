@@ -10,7 +10,7 @@
 #include "link/letter_case.h"
 #include "link/profile_edit.h"
 #include "link/profile_index.h"
-#include "tests/support/plain_profile.h"
+#include "tests/support/loaded_text.h"
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
@@ -38,8 +38,8 @@ class ProfileFileTest : public ::testing::Test {
   std::filesystem::path file = folder / "words.ini";
 };
 
-/// These rows and those of the writes tell the rules; a random comparison with a plain reference
-/// tries them in every combination.
+/// These rows and those of the writes tell the rules; the fuzz target tries them in every
+/// combination against a plain reference.
 TEST_F(ProfileFileTest, ReadsTheFirstKeyOfTheFirstSectionThatMatches) {
   for (const auto& [text, section, key, value] : Rows<Text, Text, Text, Text>{
            {"[a]\r\nk=1\r\n", "a", "k", "1"},
@@ -181,47 +181,6 @@ TEST(LetterCase, CapitalsOfTheCodePageBecomeSmallAndAllElseStays) {
     EXPECT_EQ(LowerCase(lower), lower) << int{character};
   }
   EXPECT_EQ(capitals, 26 + 30 + 4);
-}
-
-/// Makes texts of pieces that mean something in a profile.
-struct TextMaker {
-  std::string Name() {
-    return Pick({"a", "A", "key", "KEY", " k e y ", "\xE4\x9C", "\xC4\x8C", "", "\t",
-                 "nine\xDE char", "NINE\xFE char", "b]", ";c", "[d", "e=f", "\n"});
-  }
-  std::string Value() {
-    return Pick({"", "1", " x ", "\"q\"", "' q '", "\"", "'\"", "a=b", "\r\n", "a\nb", "[s]", ";"});
-  }
-  std::string Text() {
-    std::string text = Pick({"", "", "", "\xEF\xBB\xBF"});
-    for (auto lines = random() % 24; lines > 0; --lines) {
-      text += Pick({"", "", "\t", "; ", "[a]\n", "[KEY\r\n", " [ \xC4\x8C ] x=1\r", "["}) + Name() +
-              Pick({"=", "=", " = ", "]", ""}) + Value() + Pick({"\r\n", "\n", "\r", "\n\r"});
-    }
-    return text.substr(0, text.size() - random() % 2);
-  }
-  std::string Pick(std::initializer_list<const char*> zTexts) {
-    return zTexts.begin()[random() % zTexts.size()];
-  }
-
-  std::mt19937 random{20260722};
-};
-
-TEST(ProfileIndexTest, FindsAndEditsLikeAPlainReference) {
-  TextMaker make;
-  for (int round = 0; round < 10'000; ++round) {
-    const std::string text = make.Text(), section = make.Name(), key = make.Name(),
-                      value = make.Value();
-    SCOPED_TRACE(::testing::PrintToString(text) + " [" + section + "] " + key);
-    PlainProfile plain(text);
-    ASSERT_EQ(plain.Text(), text);
-    ASSERT_EQ(ProfileIndex(AsLoaded(text)).Find(section, key), plain.Read(section, key));
-    const auto edit = EditForValue(text, section, key, value);
-    ASSERT_EQ(edit.has_value(), plain.Write(section, key, value));
-    const std::string after = edit ? Edited(text, *edit) : text;
-    ASSERT_EQ(after, plain.Text());
-    ASSERT_EQ(ProfileIndex(AsLoaded(after)).Find(section, key), plain.Read(section, key));
-  }
 }
 
 TEST(ProfileIndexTest, FindsEveryKeyOfALargeFile) {

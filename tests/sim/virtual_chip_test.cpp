@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "link/scp.h"
 #include "tests/support/rows.h"
 
@@ -135,34 +133,6 @@ TEST(VirtualChipTest, ShowsWhatIsNotCompleteWithoutGivingItUp) {
   EXPECT_EQ(Lines(chip, "\x05\\07J 9"), "control 22 \\PITCH 5\n");
   EXPECT_EQ(chip.Describe(chip.Pending().value()), "incomplete: 5C 30 37 4A 20 39  \\07J 9");
   EXPECT_EQ(Lines(chip, "6NX"), "SCP register write: register 7 = 96 (master volume)\n");
-}
-
-TEST(VirtualChipTest, AnyBytesGiveTheSameEventsInAnyPortionsAndNoneIsLost) {
-  const std::string likely = "\\0123JHNRVWX U-AF\x16\x1d\x1c\x80"s + '\0';
-  std::mt19937 random(7);
-  for (int round = 0; round < 300; ++round) {
-    std::string bytes;
-    for (int i = 0; i < 200; ++i) {
-      const bool isLikely = random() % 8 != 0;
-      bytes += isLikely ? likely[random() % likely.size()] : static_cast<char>(random() % 256);
-    }
-    VirtualChip portions;
-    std::vector<ChipEvent> events;
-    std::string shown;
-    for (const char byte : bytes) {
-      for (const ChipEvent& event : portions.Receive({&byte, 1})) {
-        shown += event.bytes;
-        EXPECT_NE(portions.Describe(event), "");
-        events.push_back(event);
-      }
-    }
-    ASSERT_EQ(events, VirtualChip().Receive(bytes)) << ::testing::PrintToString(bytes);
-    shown += portions.Pending() ? portions.Pending()->bytes : "";
-    // Only an X that ends a sequence belongs to no event.
-    std::erase(shown, 'X');
-    std::erase(bytes, 'X');
-    ASSERT_EQ(shown, bytes);
-  }
 }
 
 }  // namespace

@@ -7,12 +7,11 @@
 #include <vector>
 
 #include "link/letter_case.h"
-#include "link/platform_files.h"
 
 namespace loquitor::testing {
 
 /// A profile text in the plainest form: all lines in a list, everything found by walking it. The
-/// tests hold the real code, which is quick, against this, which is obvious.
+/// fuzz target holds the real code, which is quick, against this, which is obvious.
 class PlainProfile {
  public:
   explicit PlainProfile(const std::string& zText)
@@ -128,20 +127,5 @@ class PlainProfile {
   std::string mark_;
   std::vector<Line> lines_;
 };
-
-/// `zText` as if it had been read from a file.
-inline LoadedFile AsLoaded(std::string_view zText) {
-  LoadedFile file;
-  file.bytes = std::make_unique<char[]>(zText.size());
-  std::copy(zText.begin(), zText.end(), file.bytes.get());
-  file.size = zText.size();
-  return file;
-}
-
-/// `zText` after `zEdit`.
-template <typename Edit>
-std::string Edited(std::string zText, const Edit& zEdit) {
-  return zText.replace(zEdit.begin, zEdit.end - zEdit.begin, zEdit.replacement);
-}
 
 }  // namespace loquitor::testing
