@@ -11,13 +11,12 @@
 
 #include "link/code_sender.h"
 #include "link/scp.h"
-#include "tests/support/simulated_line.h"
+#include "sim/simulated_line.h"
 #include "tests/support/temp_folder.h"
 
 namespace loquitor {
 namespace {
 
-using testing::SimulatedLine;
 using testing::TempFolder;
 
 /// An event loop on the line's clock. Each turn takes 10 us, a wait for the port 2 ms as the real

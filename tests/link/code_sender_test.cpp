@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "link/scp.h"
+#include "sim/simulated_line.h"
 #include "tests/support/rows.h"
 #include "tests/support/scripted_port.h"
-#include "tests/support/simulated_line.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/turn_host.h"
 

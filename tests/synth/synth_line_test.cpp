@@ -3,7 +3,7 @@
 #include <random>
 
 #include "link/scp.h"
-#include "tests/support/simulated_line.h"
+#include "sim/simulated_line.h"
 #include "tests/support/turn_host.h"
 #include "tests/synth/synth_test.h"
 

@@ -6,7 +6,7 @@
 
 #include "link/serial_port.h"
 
-namespace loquitor::testing {
+namespace loquitor {
 
 /// A serial line with a clock of its own: bytes leave the port's queue at the speed that it was
 /// opened with, ten bits each.
@@ -66,4 +66,4 @@ class SimulatedLine : public SerialPort {
   double busy_ = 0;
 };
 
-}  // namespace loquitor::testing
+}  // namespace loquitor
