@@ -31,7 +31,7 @@ class SynthTest : public ToolWindowTest {
   }
 
   /// Sets the bars 1, 2 and so on of a kind and forgets what that sent.
-  void Given(const char* zStem, std::initializer_list<int> zValues) {
+  void Given(const char* zStem, const std::vector<int>& zValues) {
     int index = 1;
     for (const int value : zValues) {
       Bar(Indexed(zStem, index++))->setValue(value);

@@ -113,9 +113,9 @@ TEST_F(OpenSynthTest, ToneVolumesColourTheirBoxesReadably) {
   const QColor face = window->palette().color(QPalette::Button);
   const QColor yellow(255, 255, 0);
   const QColor red(255, 0, 0);
-  const std::pair<std::initializer_list<int>, QColor> rows[] = {
-      {{21, 21, 21}, yellow}, {{21, 22, 21}, red},       {{20, 20, 19}, face},
-      {{20, 20, 20}, yellow}, {{0, 0, 0, 31, 31}, face}, {{31, 31, 31}, red}};
+  const Rows<std::vector<int>, QColor> rows = {{{21, 21, 21}, yellow},    {{21, 22, 21}, red},
+                                               {{20, 20, 19}, face},      {{20, 20, 20}, yellow},
+                                               {{0, 0, 0, 31, 31}, face}, {{31, 31, 31}, red}};
   for (const auto& [volumes, colour] : rows) {
     Given("scVol", volumes);
     for (const char* box : {"txtVol(1)", "txtVol(2)", "txtVol(3)"}) {
