@@ -162,7 +162,7 @@ TEST_F(SynthTest, AWriterThatGivesUpWaitsForNoByteInThePortsQueue) {
   RegisterWriter writer(sender, [](int) { return 0; });
   port.unsentBytes = 4;
   bool isStuck = false;
-  After(10, [&] { writer.GiveUp(); });
+  After(200, [&] { writer.GiveUp(); });  // when all bytes are in the queue
   After(2'000, [&] {
     isStuck = true;
     port.unsentBytes = 0;
