@@ -135,7 +135,7 @@ TEST_F(ClickLabelTest, ClicksWhenReleasedInsideWithTheLeftButton) {
 TEST_F(ClickLabelTest, ASecondPressInTimeIsADoubleClickEvenWhileTheFirstIsStillAtWork) {
   whenClicked = [] { QTest::qWait(350); };
   for (const auto& [interval, expected] :
-       Rows<int, const char*>{{50, "cd"}, {300, "cd"}, {600, "cc"}}) {
+       Rows<int, const char*>{{150, "cd"}, {300, "cd"}, {600, "cc"}}) {
     mouse.ClickTwice(label, interval);
     QTest::qWait(750);  // the next press is no second one
     EXPECT_EQ(Events(), expected) << interval;
