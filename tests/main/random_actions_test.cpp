@@ -181,7 +181,8 @@ bool MayBeAsked(const QString& zText) {
   static const QRegularExpression boxes(
       "^(Find:|“.*” was not found|\\d+ Words added|Must select either With Data|No word |Every "
       "word of the dictionary has data|The dictionary holds no words|"
-      "Cannot save mutil-word|This control code will cause|Nothing was (sent|written)|"
+      "Cannot save mutil-word|A dictionary word cannot|This control code will cause|Nothing was "
+      "(sent|written)|"
       "If you do not know|Do you want|The detune value|EEPROM Phrases too large|"
       "Type the name of the sound|Flow Control is currently disabled)",
       QRegularExpression::DotMatchesEverythingOption);
