@@ -28,6 +28,9 @@ class WordImport {
   /// What to add to the box: for each new word the word, an equals sign and a line break (LF).
   const std::string& AddedText() const { return addedText_; }
 
+  /// The same, handed over when all is read; AddedText is empty from then on.
+  std::string TakeAddedText() { return std::exchange(addedText_, {}); }
+
   /// How many words that is.
   std::size_t Count() const { return count_; }
 

@@ -253,7 +253,7 @@ void frmDictEdit::btnReadTerms_Click() {
     failure = ImportFailure(import);
     words.reset();
     if (!IsUnloaded()) {
-      history_->Append(import.AddedText());
+      history_->Append(import.TakeAddedText());
     }
   }
   if (IsUnloaded()) {

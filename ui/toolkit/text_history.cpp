@@ -110,24 +110,25 @@ void TextHistory::ReplaceAll(const std::function<std::string()>& zRewrite) {
   Show();
 }
 
-void TextHistory::Append(std::string_view zText) {
+void TextHistory::Append(std::string zText) {
   if (zText.empty()) {
     return;
   }
-  Step step{text_.size(), zText.size(), {}};
-  text_.append(zText);
+  const std::size_t start = text_.size();
+  text_.append(std::exchange(zText, {}));  // not kept twice while the box takes several times it
+  const std::string_view added = std::string_view(text_).substr(start);
   area_->moveCursor(QTextCursor::End);
   {
     const FlagRaised ownChange(isOwnChange_);
     QTextCursor cursor = area_->textCursor();
     cursor.beginEditBlock();
-    InsertPieces(cursor, zText);
+    InsertPieces(cursor, added);
     cursor.endEditBlock();
     area_->setTextCursor(cursor);
   }
   area_->ensureCursorVisible();
   ForgetRedo();
-  Push(undo_, std::move(step));
+  Push(undo_, {start, added.size(), {}});
 }
 
 void TextHistory::Undo() {

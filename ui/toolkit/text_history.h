@@ -39,7 +39,7 @@ class TextHistory : public QObject {
   void ReplaceAll(const std::function<std::string()>& zRewrite);
 
   /// Adds `zText` behind the last character, which is one step. The caret ends behind it, in view.
-  void Append(std::string_view zText);
+  void Append(std::string zText);
 
   bool CanUndo() const { return !undo_.empty(); }
   bool CanRedo() const { return !redo_.empty(); }
