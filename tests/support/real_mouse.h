@@ -22,17 +22,24 @@ class RealMouse {
   /// time at which it was due.
   void ClickTwice(QWidget* zWidget, int zMilliseconds) {
     const int due = Now() + zMilliseconds;
-    QTimer::singleShot(zMilliseconds, Qt::PreciseTimer, zWidget,
-                       [=, this] { ClickAt(due, zWidget); });
+    ClickLater(zMilliseconds, due, zWidget);
     Click(zWidget);
   }
 
  private:
   int Now() const { return origin_ + static_cast<int>(clock_.elapsed()); }
+  void ClickLater(int zMilliseconds, int zTime, QWidget* zWidget) {
+    QTimer::singleShot(zMilliseconds, Qt::PreciseTimer, zWidget, [=, this] {
+      // QTest lets timers run between a press and its release, too.
+      isDown_ ? ClickLater(1, zTime, zWidget) : ClickAt(zTime, zWidget);
+    });
+  }
   void ClickAt(int zTime, const QWidget* zWidget) {
     QTest::lastMouseTimestamp = zTime;
+    isDown_ = true;
     QTest::mousePress(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
     QTest::lastMouseTimestamp = Now();
+    isDown_ = false;
     QTest::mouseRelease(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
   }
   static QWindow* Window(const QWidget* zWidget) { return zWidget->window()->windowHandle(); }
@@ -42,6 +49,7 @@ class RealMouse {
 
   int origin_;
   QElapsedTimer clock_;
+  bool isDown_ = false;
 };
 
 }  // namespace loquitor::testing
