@@ -61,6 +61,8 @@ class Hourglass : public QObject {
     }
     const QPointer<Hourglass> self = this;
     ++turns_;
+    // The dispatcher alone may leave what was posted for a later turn when it has something else.
+    QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
     if (self) {
       --turns_;
