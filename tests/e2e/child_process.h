@@ -1,10 +1,11 @@
 #pragma once
 
 #include <sys/types.h>
-#include <time.h>
 
+#include <chrono>
 #include <map>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace loquitor::testing {
@@ -44,12 +45,15 @@ std::string RunCommand(const std::vector<std::string>& zCommand);
 
 /// Asks `zCondition` every few milliseconds until it holds; false after `zSeconds`.
 template <class Condition>
-bool Await(Condition zCondition, double zSeconds = 30) {
-  constexpr timespec step{0, 10'000'000};
-  for (double waited = 0; waited < zSeconds && !zCondition(); waited += 0.01) {
-    nanosleep(&step, nullptr);
+bool Await(Condition zCondition, int zSeconds = 30) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(zSeconds);
+  while (!zCondition()) {
+    if (std::chrono::steady_clock::now() > end) {
+      return false;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
-  return zCondition();
+  return true;
 }
 
 }  // namespace loquitor::testing

@@ -17,7 +17,9 @@ class Desktop {
   /// Waits for a visible window with exactly that title and brings it to the front; its number.
   /// Throws when none comes.
   std::string AwaitWindow(const std::string& zTitle);
-  bool AwaitGone(const std::string& zTitle);
+
+  /// Waits until that window has closed. Throws when it stays, for what follows would miss its aim.
+  void AwaitGone(const std::string& zTitle);
 
   /// Mouse and keyboard, on a point of a window's client area in pixels.
   void Click(const std::string& zWindow, int zX, int zY, int zTimes = 1);
@@ -40,6 +42,8 @@ class Desktop {
   std::string Property(const std::string& zWindow, const std::string& zName);
 
  private:
+  /// Asks the window manager for so many desktops, until it has handled all that came before.
+  static void AwaitWindowManager(const std::string& zDesktopCount);
   static std::string FindWindow(const std::string& zTitle);
 
   TempFolder runtimeFolder_;

