@@ -192,7 +192,7 @@ TEST_F(QtSerialPortTest, AHangUpIsToldOnceWhileIdleOrAfterTheByteThatFails) {
     ASSERT_TRUE(QTest::qWaitFor([this] { return failures > 0; }));
     QTest::qWait(50);
     EXPECT_EQ(std::exchange(failures, 0), 1);
-    EXPECT_FALSE(port.IsOpen() || port.WriteByte('A') || Open(another.Path()));
+    EXPECT_FALSE(port.IsOpen() || port.WriteByte('A'));
   }
 }
 
