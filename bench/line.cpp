@@ -9,9 +9,9 @@
 
 #include <algorithm>
 
-#include "link/code_sender.h"
-#include "link/scp.h"
-#include "sim/simulated_line.h"
+#include "line/code_sender.h"
+#include "line/scp.h"
+#include "tests/support/simulated_line.h"
 #include "tests/support/temp_folder.h"
 
 namespace loquitor {
@@ -95,8 +95,7 @@ std::size_t BytesBeforeShutUp(const Speed& zSpeed, double zWork, std::size_t zPr
     if (!isPressed && write.size() - bench.sender.PendingOutput().size() >= zPressedAfter) {
       isPressed = true;
       onTheLine = bench.line.onTheLine.size();
-      bench.sender.ClearPendingOutput();
-      bench.sender.SendCodesToOrvatone(StopSequence(), false);
+      bench.sender.ShutUp();
     }
   };
   bench.sender.SendCodesToOrvatone(write, false);

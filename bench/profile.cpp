@@ -12,8 +12,7 @@
 #include "bench/support/sample_dictionary.h"
 #include "core/dictionary_store.h"
 #include "core/next_word.h"
-#include "link/fresh_profile.h"
-#include "link/profile_file.h"
+#include "files/profile_file.h"
 
 namespace loquitor::bench {
 namespace {
@@ -31,26 +30,27 @@ void FirstLookup(benchmark::State& zState) {
   const SampleDictionary sample(zState.range(0));
   const std::string word = sample.Word(sample.Size() / 2);
   for (auto _ : zState) {
-    FreshProfile profile(sample.File());
-    benchmark::DoNotOptimize(profile.Index()->Find("Words", word));
+    benchmark::DoNotOptimize(ReadProfileValue("Words", word, "", 2560, sample.File()));
   }
 }
 
 void LaterLookup(benchmark::State& zState) {
   const SampleDictionary sample(zState.range(0));
   sample.LetItSettle();
+  const ProfileFile file(sample.File());
   int i = 0;
   for (auto _ : zState) {
     i = (i + 7919) % sample.Size();
-    benchmark::DoNotOptimize(ReadProfileValue("Words", sample.Word(i), "", 2560, sample.File()));
+    benchmark::DoNotOptimize(file.Read("Words", sample.Word(i), "", 2560));
   }
 }
 
 void LookupOfMissingWord(benchmark::State& zState) {
   const SampleDictionary sample(zState.range(0));
   sample.LetItSettle();
+  const ProfileFile file(sample.File());
   for (auto _ : zState) {
-    benchmark::DoNotOptimize(ReadProfileValue("Words", "missing", "", 2560, sample.File()));
+    benchmark::DoNotOptimize(file.Read("Words", "missing", "", 2560));
   }
 }
 
@@ -65,11 +65,12 @@ void WriteOneWord(benchmark::State& zState) {
 
 void WriteAndReadBack(benchmark::State& zState) {
   const SampleDictionary sample(zState.range(0));
+  const ProfileFile file(sample.File());
   const std::string word = sample.Word(sample.Size() / 2);
   int i = 0;
   for (auto _ : zState) {
-    benchmark::DoNotOptimize(WriteProfileValue("Words", word, std::to_string(++i), sample.File()));
-    benchmark::DoNotOptimize(ReadProfileValue("Words", word, "", 2560, sample.File()));
+    benchmark::DoNotOptimize(file.Write("Words", word, std::to_string(++i)));
+    benchmark::DoNotOptimize(file.Read("Words", word, "", 2560));
   }
 }
 

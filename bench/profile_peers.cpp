@@ -17,8 +17,7 @@
 #include <string>
 
 #include "bench/support/sample_dictionary.h"
-#include "link/fresh_profile.h"
-#include "link/profile_file.h"
+#include "files/profile_file.h"
 
 namespace loquitor::bench {
 namespace {
@@ -26,24 +25,25 @@ namespace {
 /// What the measurements need of a library: a loaded file that finds words, and a write.
 
 struct Ours {
-  explicit Ours(const std::filesystem::path& zFile) : profile(zFile) {}
+  explicit Ours(const std::filesystem::path& zFile) : file(zFile) {}
   std::size_t Find(const std::string& zWord) {
-    return profile.Index()->Find("words", zWord).value_or("").size();
+    return file.Snapshot()->Find("words", zWord).value_or("").size();
   }
   static bool Write(const std::filesystem::path& zFile, const std::string& zWord,
                     const std::string& zValue) {
     return WriteProfileValue("words", zWord, zValue, zFile);
   }
-  FreshProfile profile;
+  ProfileFile file;
 };
 
 /// Ours on the terms of the others, which never look whether the file has changed.
 struct OursUnproved : Ours {
-  explicit OursUnproved(const std::filesystem::path& zFile) : Ours(zFile), index(profile.Index()) {}
+  explicit OursUnproved(const std::filesystem::path& zFile)
+      : Ours(zFile), snapshot(file.Snapshot()) {}
   std::size_t Find(const std::string& zWord) {
-    return index->Find("words", zWord).value_or("").size();
+    return snapshot->Find("words", zWord).value_or("").size();
   }
-  std::shared_ptr<const ProfileIndex> index;
+  std::shared_ptr<const ProfileSnapshot> snapshot;
 };
 
 struct GLib {

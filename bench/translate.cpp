@@ -88,6 +88,30 @@ void BM_DoublingDictionary(benchmark::State& zState) {
 }
 BENCHMARK(BM_DoublingDictionary)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
+/// A million words or more whose entry is ignored characters only.
+void BM_EntriesThatAddNothing(benchmark::State& zState) {
+  const Library library(1);
+  WriteBytes(library.folder / "Loquitor.Dic", "[words]\r\nw=" + std::string(2'558, '.') + "x\r\n");
+  std::string text;
+  for (std::int64_t i = 0; i < zState.range(0); ++i) {
+    text += "w ";
+  }
+  for (auto _ : zState) {
+    benchmark::DoNotOptimize(library.translator.ExpandSayData(text));
+  }
+}
+BENCHMARK(BM_EntriesThatAddNothing)->Arg(2'000'000)->Arg(10'000'000)->Unit(benchmark::kMillisecond);
+
+/// As the phrase editor asks after every key: a phrase of 20 words.
+void BM_FindSilentParts(benchmark::State& zState) {
+  const Library library(zState.range(0));
+  const std::string text = Text(zState.range(0)).substr(0, 200);
+  for (auto _ : zState) {
+    benchmark::DoNotOptimize(library.translator.FindSilentParts(text));
+  }
+}
+BENCHMARK(BM_FindSilentParts)->Arg(1'000)->Arg(130'000)->Unit(benchmark::kMicrosecond);
+
 }  // namespace
 }  // namespace loquitor
 

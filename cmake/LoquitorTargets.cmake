@@ -1,6 +1,6 @@
 # Warnings, sanitizers and include root, the same for every target of the project.
 function(loquitor_configure target)
-  target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_compile_features(${target} PUBLIC cxx_std_20)  # for projects that add this one to theirs
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
                                            -Woverloaded-virtual)
@@ -36,6 +36,8 @@ function(loquitor_program target)
   add_executable(${target} ${ARG_SOURCES})
   target_link_libraries(${target} PRIVATE ${ARG_LINK})
   set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${LOQUITOR_BIN}")
+  target_compile_definitions(${target} PRIVATE
+    LOQUITOR_VERSION="${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
   loquitor_configure(${target})
 endfunction()
 

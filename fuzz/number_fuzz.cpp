@@ -7,7 +7,7 @@
 #include <iostream>
 #include <string>
 
-#include "core/number_text.h"
+#include "text/number_text.h"
 
 namespace {
 
@@ -42,10 +42,8 @@ double PlainNumber(std::string zText) {
   const char letter = static_cast<char>(at(next) | 0x20);
   if (letter == 'e' || letter == 'd') {
     ++next;
-    const std::string sign =
-        at(next) == '-' || at(next) == '+' ? std::string(1, zText[next++]) : "";
     const std::string digits = TakeDigits(zText, next);
-    number += digits.empty() ? "" : "e" + sign + digits;
+    number += digits.empty() ? "" : "e" + digits;
   }
   return std::strtod(number.c_str(), nullptr);
 }

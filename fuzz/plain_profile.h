@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "link/letter_case.h"
+#include "text/letters.h"
 
 namespace loquitor::testing {
 
@@ -80,11 +80,8 @@ class PlainProfile {
   }
 
   static std::string JoinLines(std::string zValue) {
-    const auto isBreak = [](char zCharacter) { return zCharacter == '\r' || zCharacter == '\n'; };
-    std::replace_if(zValue.begin(), zValue.end(), isBreak, '\n');
-    const auto isSameBreak = [](char zOne, char zNext) { return zOne == '\n' && zNext == '\n'; };
-    zValue.erase(std::unique(zValue.begin(), zValue.end(), isSameBreak), zValue.end());
-    std::replace(zValue.begin(), zValue.end(), '\n', ' ');
+    std::erase(zValue, '\r');
+    std::erase(zValue, '\n');
     return zValue;
   }
 

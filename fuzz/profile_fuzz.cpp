@@ -6,15 +6,15 @@
 #include <iostream>
 #include <string>
 
+#include "files/profile_edit.h"
+#include "files/profile_snapshot.h"
 #include "fuzz/plain_profile.h"
-#include "link/profile_edit.h"
-#include "link/profile_index.h"
 #include "tests/support/loaded_text.h"
 
 namespace {
 
 using loquitor::EditForValue;
-using loquitor::ProfileIndex;
+using loquitor::ProfileSnapshot;
 using loquitor::testing::AsLoaded;
 using loquitor::testing::PlainProfile;
 
@@ -38,8 +38,8 @@ void Require(bool zHolds, const char* zWhat) {
 }
 
 void CompareRead(const std::string& zText, const std::string& zSection, const std::string& zKey) {
-  const ProfileIndex index(AsLoaded(zText));
-  const auto found = index.Find(zSection, zKey);
+  const ProfileSnapshot snapshot(AsLoaded(zText));
+  const auto found = snapshot.Find(zSection, zKey);
   const auto expected = PlainProfile(zText).Read(zSection, zKey);
   Require(found.has_value() == expected.has_value() && found.value_or("") == expected.value_or(""),
           "read");
@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* zData, std::size_t zSi
     const std::string written = Edited(text, *edit);
     Require(written == expected.Text(), "written text");
     CompareRead(written, section, key);
-    Require(ProfileIndex(AsLoaded(written)).Find(section, key).has_value(), "own write found");
+    Require(ProfileSnapshot(AsLoaded(written)).Find(section, key).has_value(), "own write found");
   }
   return 0;
 }

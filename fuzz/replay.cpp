@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "link/file_bytes.h"
+#include "files/file_bytes.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* zData, std::size_t zSize);
 

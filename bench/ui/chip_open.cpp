@@ -24,8 +24,7 @@ struct FullProgram {
       for (int word = 0; phrase.size() < 240; ++word) {
         phrase += bench::SampleDictionary::Word(slot * 1000 + word) + ' ';
       }
-      static_cast<void>(
-          program.settings.SaveIniValue("EEPROM", "Phrase" + std::to_string(slot), phrase));
+      program.settings.SaveIniValue("EEPROM", "Phrase" + std::to_string(slot), phrase);
     }
     bench::SampleDictionary::LetItSettle();
   }

@@ -8,8 +8,8 @@
 #include "bench/support/window_main.h"
 #include "tests/support/program.h"
 #include "tests/support/temp_folder.h"
-#include "ui/main/frm_codes.h"
 #include "ui/main/frm_utility.h"
+#include "ui/phrase/frm_codes.h"
 
 namespace loquitor {
 namespace {

@@ -9,9 +9,9 @@
 #include "bench/support/sample_dictionary.h"
 #include "bench/support/window_main.h"
 #include "tests/support/program.h"
+#include "ui/controls/check_box.h"
+#include "ui/controls/text_box.h"
 #include "ui/phrase/frm_phrase.h"
-#include "ui/toolkit/check_box.h"
-#include "ui/toolkit/text_box.h"
 
 namespace loquitor {
 namespace {

@@ -5,9 +5,9 @@
 
 #include <QCoreApplication>
 
-#include "link/code_sender.h"
-#include "link/qt/event_turns.h"
-#include "link/qt/qt_serial_port.h"
+#include "line/code_sender.h"
+#include "line/qt/event_turns.h"
+#include "line/qt/qt_serial_port.h"
 #include "tests/support/pseudo_terminal.h"
 #include "tests/support/temp_folder.h"
 
@@ -63,7 +63,7 @@ BENCHMARK(SendIntoAPseudoTerminal)->Arg(10)->Arg(1000);  // a register write, a 
 /// What waiting for a line that is held back costs: the share of CPU in Time is the load.
 void WaitForAHeldBackLine(benchmark::State& zState) {
   Bench bench;
-  if (!bench.port.Open({bench.chip.Path(), "9600", false})) {
+  if (bench.port.Open({bench.chip.Path(), "9600", false}).error != PortError::None) {
     zState.SkipWithError("the port does not open");
   }
   while (bench.port.IsReadyForByte() && bench.port.WriteByte('x')) {

@@ -9,8 +9,8 @@
 #include "bench/support/window_main.h"
 #include "tests/support/program.h"
 #include "tests/support/temp_folder.h"
+#include "ui/controls/scroll_bar.h"
 #include "ui/synth/frm_synth_ctrl.h"
-#include "ui/toolkit/scroll_bar.h"
 
 namespace loquitor {
 namespace {

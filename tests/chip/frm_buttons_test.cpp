@@ -107,13 +107,14 @@ TEST_F(EventWindow, ShowsTheNextRunWhatThisOneHeld) {
 
 TEST_F(EventWindow, ReadsStoredStatesAsTheyAreMeant) {
   WriteBytes(folder / "Loquitor.ini",
-             "[eeprom]\nPLAY0=2\nClear0=-1\nRestart0=True\nInterupt0=junk\nAutoSilence=0\n"
+             "[eeprom]\nPLAY0=1\nClear0= 1x\nRestart0=01\nInterupt0=2\nAutoSilence=-1\n"
+             "Play1=2\nClear1=-1\nRestart1=True\nInterupt1=junk\n"
              "In7RC=true\nIn7TTL=1\n"  // both of a pair: the later one
              "Out0Chip=-1\nOut0Phrase=0\nUnknown=kept\n");
   Open<frmButtons>();
   EXPECT_EQ(ChosenOptions(), (std::vector<int>{1, 4}));
   const std::string sent = Written();
-  EXPECT_THAT(sent, ::testing::StartsWith(R"(\0RX\0240J32H00N)"));
+  EXPECT_THAT(sent, ::testing::StartsWith(R"(\0RX\0240J32H00N\0241J32HD0N)"));
   EXPECT_THAT(sent, ::testing::HasSubstr(R"(\0238J32HC1N)"));
   window->close();
   EXPECT_EQ(settings.GetIniValue("EEPROM", "Unknown", ""), "kept");
@@ -131,14 +132,15 @@ TEST_F(EventWindow, NormalisesANumberThatIsLeft) {
 
 TEST_F(EventWindow, NamesTheRowsWhoseNumbersCannotBeSent) {
   WriteBytes(folder / "Loquitor.ini",
-             "[EEPROM]\nPhraseToPlay0=2147483648\nPhraseToPlay3=abc\nPhraseToPlay16=7x\n");
+             "[EEPROM]\nPhraseToPlay0=2147483648\nPhraseToPlay3=abc\nPhraseToPlay5=07\n"
+             "PhraseToPlay6=+5\nPhraseToPlay7=1E1\nPhraseToPlay16=-\n");
   Open<frmButtons>();
   Type("txtSCPNode", "99999999999");
   EXPECT_EQ(Written(), "");
   EXPECT_EQ(Told().join("|"),
             "Nothing was sent, because this is no number that can be written:\r\n\r\n"
             "Input #0 - Goes High: \"2147483648\"\r\nInput #1 - Goes Low: \"abc\"\r\n"
-            "Power up & Reset: \"7x\"\r\nSCP Node: \"99999999999\"\r\n\r\n"
+            "Power up & Reset: \"-\"\r\nSCP Node: \"99999999999\"\r\n\r\n"
             "Type a phrase number from 0 to 15 (an SCP node from 0 to 7) and write again.");
   EXPECT_TRUE(Get("txtPhrase(0)")->hasFocus());
   EXPECT_TRUE(Get("btnWrite")->isEnabled());
@@ -147,19 +149,32 @@ TEST_F(EventWindow, NamesTheRowsWhoseNumbersCannotBeSent) {
   for (const int row : {0, 3, 16}) {
     TypePhrase(row, "0");
   }
-  Type("txtSCPNode", "node");
-  EXPECT_EQ(Written(), FirstUse) << "no number means node 0";
+  Type("txtSCPNode", "node");  // no number means node 0
+  std::string expected = FirstUse;
+  for (const auto& [none, number] : {std::pair("245J32HD0", "245J32HD7"),
+                                     {"246J32HD0", "246J32HD5"},
+                                     {"247J32HD0", "247J32HDA"}}) {
+    expected.replace(expected.find(none), 9, number);
+  }
+  EXPECT_EQ(Written(), expected);
 }
 
-TEST_F(EventWindow, TabsFromRowToRow) {
+TEST_F(EventWindow, TellsAtEachNumberWhichPhraseItMeans) {
+  WriteBytes(folder / "Loquitor.ini",
+             "[EEPROM]\nPhrase4=fish & <b>\nPhraseToPlay0=4\nPhraseToPlay1=20\n");
   Open<frmButtons>();
-  const std::string order = TabOrder("chPlay(0)");
-  EXPECT_THAT(order, ::testing::StartsWith("chPlay(0) txtPhrase(0) chClear(0) chInt(0) "
-                                           "chRestart(0) chPlay(1)"));
-  EXPECT_THAT(order, ::testing::EndsWith(
-                         "chPlay(16) txtPhrase(16) txtSCPNode chAutoSil optIO(0) optIO(2) "
-                         "optIO(4) optIO(6) optIO(8) optIO(10) optIO(12) optIO(14) btnWrite "
-                         "btnShutUp btnDone"));
+  const auto described = [this](int zRow) {
+    return Box(Indexed("txtPhrase", zRow))->accessibleDescription();
+  };
+  EXPECT_EQ(described(0), "Phrase 4: fish & <b>");
+  EXPECT_THAT(Box("txtPhrase(0)")->toolTip().toStdString(),
+              ::testing::HasSubstr("Phrase 4: fish &amp; &lt;b&gt;"));
+  const QColor plain = ColourOf(Box("txtPhrase(0)"));
+  EXPECT_TRUE(described(1).endsWith("Phrase 4: fish & <b>"));
+  EXPECT_NE(ColourOf(Box("txtPhrase(1)")), plain);
+  TypePhrase(1, "3");
+  EXPECT_EQ(described(1), "Phrase 3 is empty.");
+  EXPECT_EQ(ColourOf(Box("txtPhrase(1)")), plain);
 }
 
 }  // namespace

@@ -1,16 +1,9 @@
-// The dictionary as a whole text: its way into the box and back, sorting, cleaning, searching, and
-// the words of an imported list.
-
 #include "core/dictionary_text.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
-#include <set>
 #include <string>
 
-#include "core/word_import.h"
 #include "tests/support/rows.h"
 
 namespace loquitor::testing {
@@ -38,6 +31,18 @@ TEST(DictionaryText, EveryKindOfLineEndBecomesOneLineBreakAndIsSavedAsCrLf) {
   EXPECT_EQ(ReadLines(""), Lines());
   EXPECT_EQ(ReadLines("a\rb\nc\r\n\r\nd"), Lines({"a", "b", "c", "", "d"}));
   EXPECT_EQ(ReadLines("a\n\rb\r\n"), Lines({"a", "", "b"}));
+}
+
+TEST(DictionaryText, AByteOrderMarkSurvivesNoSort) {
+  const std::string mark = "\xEF\xBB\xBF";
+  const std::string file = mark + "[Words]\r\nCat=1\r\n";
+  Expect(BoxTextFromFile,
+         {{file, "[Words]\nCat=1\n"}, {mark + mark, ""}, {"\xEF\xBB", "\xEF\xBB"}});
+  // Also where an earlier sort has left it.
+  const std::string damaged = "Ant=\r\ncat=1\r\n" + mark + "[words]\r\n" + mark + "dog=" + mark;
+  Expect(SortedText,
+         {{file, "[words]\ncat=1\n"}, {damaged, "[words]\nant=\ncat=1\ndog=" + mark + "\n"}});
+  Expect(CleanedText, {{mark + "Cat=1\r\n", "[words]\ncat=1\n"}});
 }
 
 TEST(DictionaryText, TheExtentCountsLinesAndFindsTheLongest) {
@@ -75,24 +80,17 @@ TEST(DictionaryText, SortingPutsTheLinesInOrderOfTheirBytesAndCleaningKeepsEntri
                        {"tab=\t\nhard=\xA0\n", "[words]\ntab=\t\nhard=\xA0\n"}});
 }
 
-TEST(DictionaryText, SortingAStretchAgreesWithAPlainByteComparisonOnRandomLines) {
-  std::mt19937 random(6);
-  for (int round = 0; round < 300; ++round) {
-    std::vector<std::string> texts(1 + random() % 60);
-    for (std::string& text : texts) {
-      text = random() % 2 == 0 ? "a common head" : "";
-      for (auto length = random() % 12; length > 0; --length) {
-        text += "\0\1aab\x7F\x80\xFF="[random() % 9];
-      }
-    }
-    const std::vector<std::string> given = texts;
-    std::vector<std::string_view> lines(given.begin(), given.end());
-    const std::size_t first = random() % texts.size();
-    const std::size_t last = first + random() % (texts.size() - first);
-    SortDictionaryLines(lines, last + 1, last);  // an empty stretch
+TEST(DictionaryText, AStretchOfTheLinesCanBeSorted) {
+  const std::vector<std::string_view> given = {"d", "\xFF", "b=", "\x7F", "ab", "a", "c"};
+  for (const auto& [first, last, sorted] :
+       Rows<std::size_t, std::size_t, std::vector<std::string_view>>{
+           {0, 6, {"a", "ab", "b=", "c", "d", "\x7F", "\xFF"}},
+           {1, 5, {"d", "a", "ab", "b=", "\x7F", "\xFF", "c"}},
+           {3, 3, given},
+           {4, 3, given}}) {
+    std::vector<std::string_view> lines = given;
     SortDictionaryLines(lines, first, last);
-    std::sort(texts.begin() + static_cast<int>(first), texts.begin() + static_cast<int>(last) + 1);
-    EXPECT_TRUE(std::equal(lines.begin(), lines.end(), texts.begin(), texts.end())) << round;
+    EXPECT_EQ(lines, sorted) << first << " to " << last;
   }
 }
 
@@ -111,72 +109,6 @@ TEST(DictionaryText, SearchFindsTheNextPlaceAndWrapsAround) {
                                                                 {"x\0y"s, "\0Y"s, 0, 1}}) {
     EXPECT_EQ(FindText(text, sought, from), expected) << text << '|' << sought << '|' << from;
   }
-}
-
-TEST(DictionaryText, RandomBytesSurviveTheWayToTheBoxAndBack) {
-  std::mt19937 random(1);
-  for (int round = 0; round < 100; ++round) {
-    std::string file(1 + random() % 3000, '\0');
-    std::generate(file.begin(), file.end(), [&] { return static_cast<char>(random()); });
-    const std::string saved = FileBytesFromBox(BoxTextFromFile(file));
-    EXPECT_EQ(BoxTextFromFile(saved), BoxTextFromFile(file) + "\n") << round;
-    std::string expected;
-    for (const std::string_view line : ReadLines(file)) {
-      expected.append(line).append("\r\n");
-    }
-    const bool endsALine = file.back() == '\n' || file.back() == '\r';
-    EXPECT_EQ(saved, endsALine ? expected + "\r\n" : expected) << round;
-  }
-}
-
-struct Imported {
-  std::string text;
-  std::size_t count;
-  std::vector<std::string> lookups;
-};
-
-Imported Import(std::string_view zList, std::size_t zPiece = std::string_view::npos,
-                const std::set<std::string, std::less<>>& zKnown = {}) {
-  std::vector<std::string> lookups;
-  WordImport import([&](std::string_view zWord) {
-    lookups.emplace_back(zWord);
-    return zKnown.count(zWord) == 0;
-  });
-  for (std::size_t at = 0; at < zList.size(); at += std::min(zPiece, zList.size() - at)) {
-    import.Feed(zList.substr(at, zPiece));
-  }
-  import.Finish();
-  return {import.AddedText(), import.Count(), lookups};
-}
-
-TEST(WordImport, RunsOfLettersAreWordsAndAllElseStandsBetween) {
-  for (const auto& [list, added, count] : Rows<std::string, std::string, std::size_t>{
-           {" \r\n\t123'=\\", "", 0},
-           {"don't", "don=\nt=\n", 2},
-           {"a1b2c", "a=\nb=\nc=\n", 3},
-           {"one two\r\nTHREE\nfour\rfive", "one=\ntwo=\nthree=\nfour=\nfive=\n", 5},
-           {"na\xC3\xAFve", "na=\nve=\n", 2},
-           {"\xEF\xBB\xBFgo", "go=\n", 1},
-           {"x\0y\x7Fz"s, "x=\ny=\nz=\n", 3},
-           {"@[`{AZaz@", "azaz=\n", 1}}) {
-    for (const std::size_t piece : {1U, 2U, 3U, 1000U}) {
-      const Imported imported = Import(list, piece);
-      EXPECT_EQ(imported.text, added) << list << " in pieces of " << piece;
-      EXPECT_EQ(imported.count, count) << list;
-    }
-  }
-}
-
-TEST(WordImport, OnlyWordsThatTheDictionaryLacksAreAdded) {
-  const Imported imported = Import("The cat THE hat", 5, {"the", "hat"});
-  EXPECT_EQ(imported.text, "cat=\n");
-  EXPECT_EQ(imported.count, 1U);
-  EXPECT_EQ(imported.lookups, (std::vector<std::string>{"the", "cat", "the", "hat"}));
-}
-
-TEST(WordImport, ALineOfAMegabyteIsOneLineLikeAnyOther) {
-  const std::string longWord(1 << 20, 'Q');
-  EXPECT_EQ(Import(longWord + "\r\nx", 4096).text, std::string(1 << 20, 'q') + "=\nx=\n");
 }
 
 }  // namespace

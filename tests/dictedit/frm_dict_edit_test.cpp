@@ -2,10 +2,17 @@
 
 #include <sys/stat.h>
 
+#include <QClipboard>
+#include <QMenu>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QToolTip>
+
 #include <random>
 
 #include "core/dictionary_text.h"
 #include "tests/support/window_test.h"
+#include "ui/dictedit/editable_text.h"
 
 namespace loquitor::testing {
 namespace {
@@ -168,6 +175,7 @@ TEST_F(DictionaryEditor, ImportAddsTheWordsThatTheFileLacksBehindTheText) {
   Box().Select(0, 0);
   Click("btnReadTerms");
   EXPECT_EQ(Box().Text(), "[words]\ncat=1\nempty=\ntail=2dog=\ndon=\nt=\ndog=\n");
+  EXPECT_TRUE(Get("btnReadTerms")->toolTip().endsWith(QString::fromStdString(WordList().string())));
   EXPECT_EQ(prompts.asked.at(0).title, "Import Status");
   EXPECT_EQ(prompts.asked[0].buttons, PromptButtons::Ok);
   EXPECT_EQ(Saved(), "[words]\r\ncat=1\r\nempty=\r\ntail=2");
@@ -231,9 +239,13 @@ TEST_F(DictionaryEditor, EachActionIsOneUndoStep) {
   Click("btnSaveChanges");
   EXPECT_EQ(Saved(), FileBytesFromBox(texts.back()));
 
-  Get("btnSort")->setFocus();
-  Press(Get("btnSort"), QKeySequence::Undo);
-  EXPECT_EQ(Box().Text(), texts[texts.size() - 2]);
+  for (QWidget* focus : {Get("btnSort"), static_cast<QWidget*>(&Box())}) {
+    focus->setFocus();
+    Press(focus, QKeySequence::Undo);
+    EXPECT_EQ(Box().Text(), texts[texts.size() - 2]);
+    QTest::keyClick(focus, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(Box().Text(), texts.back());
+  }
 }
 
 TEST_F(DictionaryEditor, TheKeyboardFindsAndSaves) {
@@ -247,15 +259,59 @@ TEST_F(DictionaryEditor, TheKeyboardFindsAndSaves) {
   EXPECT_EQ(Saved(), "[words]\r\ndog=1\r\n\r\n");
 }
 
+TEST_F(DictionaryEditor, TheContextMenuOffersItsActionsWithTheirKeys) {
+  OpenOn("[words]\r\ncat=1\r\n");
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(9, 9), Box().mapToGlobal(QPoint(9, 9)));
+  QApplication::sendEvent(Box().viewport(), &event);
+  const auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  QStringList offered;
+  for (const QAction* action : menu->actions()) {
+    const QString text = action->text().remove('&').section('\t', 0, 0);
+    offered << text + " " + action->shortcut().toString();
+  }
+  EXPECT_EQ(offered.mid(0, 2),
+            QStringList({"Undo Ctrl+Z", "Redo " + QKeySequence(QKeySequence::Redo).toString()}));
+  EXPECT_EQ(offered.filter(QRegularExpression("^(Find|Save)")),
+            QStringList({"Find... Ctrl+F", "Find Next F3", "Save Changes Ctrl+S"}));
+  prompts.texts = {"CAT"};
+  menu->actions().at(offered.indexOf("Find... Ctrl+F"))->trigger();
+  EXPECT_EQ(Box().SelectedText(), "cat");
+}
+
+TEST_F(DictionaryEditor, SaveChangesShowsWhetherSomethingIsUnsaved) {
+  OpenOn("[words]\r\nb=1\r\na=2\r\n");
+  auto* const button = Get<QPushButton>("btnSaveChanges");
+  const QColor usual = button->palette().color(QPalette::Button);
+  const auto isUnsaved = [&] {
+    EXPECT_EQ(button->palette().color(QPalette::Button) != usual,
+              button->toolTip().contains("not saved"));
+    return button->toolTip().contains("not saved");
+  };
+  EXPECT_FALSE(isUnsaved());
+  QTest::keyClick(&Box(), Qt::Key_Plus, Qt::ControlModifier);  // larger letters change no text
+  EXPECT_FALSE(isUnsaved());
+  QTest::keyClick(&Box(), 'x');
+  EXPECT_TRUE(isUnsaved());
+  Click("btnSaveChanges");
+  EXPECT_FALSE(isUnsaved());
+  Click("btnSort");
+  EXPECT_TRUE(isUnsaved());
+  Click("btnSort");  // nothing left to sort
+  EXPECT_FALSE(isUnsaved());
+  Press(&Box(), QKeySequence::Undo);
+  EXPECT_TRUE(isUnsaved());
+}
+
 TEST_F(DictionaryEditor, WhatCannotBeReadOrDrawnIsNotReplacedUnasked) {
-  const std::string longLine = "\r\n" + std::string(frmDictEdit::MaximumLineLength, '\0');
+  const std::string longLine = "\r\n" + std::string(EditableLimits::LineLength, '\0');
   OpenOn(longLine);
   EXPECT_EQ(Told(), QStringList());
   EXPECT_EQ(Box().Text(), BoxTextFromFile(longLine));
   const Rows<std::string, std::size_t, const char*> rows = {
       {longLine + "x\r\n", longLine.size() + 3, "Line 2 of"},
-      {std::string(frmDictEdit::MaximumLines, '\n'), frmDictEdit::MaximumLines, "too large"},
-      {"[words]\r\n", frmDictEdit::MaximumBytes + 1, "too large"}};
+      {std::string(EditableLimits::Lines, '\n'), EditableLimits::Lines, "too large"},
+      {"[words]\r\n", EditableLimits::Bytes + 1, "too large"}};
   for (const auto& [file, size, told] : rows) {
     WriteBytes(Dictionary(), file);
     std::filesystem::resize_file(Dictionary(), size);
@@ -280,10 +336,18 @@ TEST_F(DictionaryEditor, WhatCannotBeReadOrDrawnIsNotReplacedUnasked) {
   EXPECT_TRUE(std::filesystem::is_directory(Dictionary()));
 }
 
+TEST_F(DictionaryEditor, APasteThatCouldNotBeOpenedAgainIsRefused) {
+  OpenOn("[words]\r\n");
+  QApplication::clipboard()->setText(QString(EditableLimits::LineLength + 1, 'x'));
+  Press(&Box(), QKeySequence::Paste);
+  EXPECT_EQ(Box().Text(), "[words]\n");
+  EXPECT_TRUE(QToolTip::text().startsWith("Nothing was inserted"));
+}
+
 TEST_F(DictionaryEditor, AnImportEndsAtAWordThatTheBoxCannotDraw) {
   OpenOn("[words]\r\na=\r\n");
   WriteBytes(WordList(),
-             "a first second " + std::string(3 * frmDictEdit::MaximumLineLength, 'x') + " last");
+             "a first second " + std::string(3 * EditableLimits::LineLength, 'x') + " last");
   Click("btnReadTerms");
   EXPECT_TRUE(HasTold("than the dictionary can take"));
   EXPECT_EQ(Told().back(), "2 Words added");

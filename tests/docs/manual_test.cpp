@@ -21,8 +21,8 @@ struct Example {
 };
 
 /// The examples of the blocks of one kind. In a `say` block a line is Say Data and the line "= ..."
-/// below it the codes that it becomes; in a `console` block a line "$ ..." is a command and the
-/// lines below it are what it prints.
+/// below it the codes that it becomes; in an `english` block English and its Say Data; in a
+/// `console` block a line "$ ..." is a command and the lines below it are what it prints.
 std::vector<Example> ExamplesOf(const std::string& zKind) {
   std::istringstream manual(ReadBytes(MANUAL));
   std::vector<Example> examples;
@@ -80,6 +80,18 @@ TEST_F(Manual, ItsSayDataBecomesTheCodesThatItShows) {
     EXPECT_EQ(CodeListText(codes), example.output) << "line " << example.line;
   }
 }
+
+#ifdef LOQUITOR_READS_ENGLISH
+TEST_F(Manual, ItsEnglishBecomesTheSayDataThatItShows) {
+  const std::vector<Example> examples = ExamplesOf("english");
+  ASSERT_FALSE(examples.empty());
+  for (const Example& example : examples) {
+    EXPECT_EQ(Run("loquitor-say --english --say-data \"" + example.input + "\""),
+              example.output + "\n")
+        << "line " << example.line;
+  }
+}
+#endif
 
 TEST_F(Manual, ItsCommandsPrintWhatItShows) {
   const std::vector<Example> examples = ExamplesOf("console");

@@ -21,6 +21,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& zCommand,
   pid_ = fork();
   if (pid_ == 0) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
+    signal(SIGINT, SIG_DFL);  // ignored where the tests themselves run in the background
     dup2(ends[1], STDOUT_FILENO);
     for (const auto& [name, value] : zEnvironment) {
       setenv(name.c_str(), value.c_str(), 1);

@@ -18,7 +18,7 @@ void Require(bool zHolds, const std::string& zComplaint) {
   }
 }
 
-/// Whether the number behind `zLabel` is `zFrom` or just beyond.
+/// Whether the number after `zLabel` is `zFrom` or just beyond.
 bool IsAt(const std::string& zText, const std::string& zLabel, int zFrom) {
   const std::size_t at = zText.find(zLabel);
   const int number = at == std::string::npos ? -1 : std::atoi(&zText[at + zLabel.size()]);
@@ -54,7 +54,9 @@ void Desktop::AwaitWindowManager(const std::string& zDesktopCount) {
 
 std::string Desktop::FindWindow(const std::string& zTitle) {
   const std::regex special(R"([.^$|()\[\]{}*+?\\])");
-  const std::string title = "^" + std::regex_replace(zTitle, special, R"(\$&)") + "$";
+  // A long send puts its progress before the title.
+  const std::string title =
+      "^([0-9]+% to go - )?" + std::regex_replace(zTitle, special, R"(\$&)") + "$";
   const std::string found = RunCommand({"xdotool", "search", "--onlyvisible", "--name", title});
   return found.substr(0, found.find('\n'));
 }
@@ -78,7 +80,7 @@ void Desktop::Click(const std::string& zWindow, int zX, int zY, int zTimes) {
 
 void Desktop::MoveTo(const std::string& zWindow, int zX, int zY) {
   RunCommand({"xdotool", "windowmove", zWindow, std::to_string(zX), std::to_string(zY)});
-  // xdotool's own --sync waits for ever. The client area lies within the window's frame.
+  // xdotool's own --sync waits for ever. The client area is inside the window's frame.
   Await([&] {
     const std::string place = RunCommand({"xwininfo", "-id", zWindow});
     return IsAt(place, "Absolute upper-left X:", zX) && IsAt(place, "Absolute upper-left Y:", zY);

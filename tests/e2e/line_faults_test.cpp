@@ -38,33 +38,15 @@ class LineFaults : public LoquitorSession {
     EXPECT_TRUE(chip->LetPass(50));
   }
 
-  /// The chip gets a beginning of `zWhole` and then `zEnd`, nothing else.
-  void ExpectCutBy(const std::string& zEnd, const std::string& zWhole) {
+  /// The chip gets a beginning of the endless phrase and then `zEnd`, nothing else.
+  void ExpectCutBy(const std::string& zEnd) {
     chip->Release();
     ExpectEnd(zEnd);
+    const std::string whole = Prefix + std::string(EndlessCount, '\x80');
     const std::size_t cutAt = chip->Received().size() - zEnd.size();
-    EXPECT_EQ(chip->Received(), zWhole.substr(0, cutAt) + zEnd);
-    EXPECT_LT(cutAt, zWhole.size()) << "nothing was cut";
+    EXPECT_EQ(chip->Received(), whole.substr(0, cutAt) + zEnd);
+    EXPECT_LT(cutAt, whole.size()) << "nothing was cut";
     chip->Forget();
-  }
-  void ExpectCutBy(const std::string& zEnd) {
-    ExpectCutBy(zEnd, Prefix + std::string(EndlessCount, '\x80'));
-  }
-
-  void PlugInAnother() {
-    chip = std::make_unique<PtyChip>();
-    WriteBytes(folder / "Loquitor.ini",
-               "[Ports]\r\n1=" + chip->Path() + "\r\n" + ManyStoredPhrases());
-  }
-
-  /// Opens the EEPROM editor and writes, until the line is held back after so many bytes.
-  void WritePhrasesUntil(std::size_t zCount) {
-    EXPECT_TRUE(AwaitPortColour("FFFFFF"));
-    PlugInAnother();
-    chip->HoldBackAfter(zCount);
-    Open(At("EEPROM Editor"), EepromTitle);
-    Click("Write the phrases");
-    EXPECT_TRUE(Await([&] { return chip->IsFull(); }));
   }
 };
 
@@ -94,23 +76,6 @@ TEST_F(LineFaults, ALineThatIsHeldBackForEverLeavesEveryWindowUsableAndTheProgra
   EXPECT_EQ(chip->Received(), "");
 }
 
-TEST_F(LineFaults, ANewPortNumberLeavesWhatTheOldPortHeldBack) {
-  auto second = std::make_unique<PtyChip>();
-  GivenSettings("2=" + second->Path() + "\r\n");
-  Start();
-  chip->HoldBack();
-  Click("Test Serial Connection");
-  EXPECT_TRUE(AwaitPortColour("00FF00"));
-  FillIn("Serial Port", "2");
-  EXPECT_TRUE(AwaitPortColour("FFFFFF"));
-  Click("Test Serial Connection");
-  chip.swap(second);
-  ExpectBytes(TestBytes);
-  Finish();
-  second->Release();
-  EXPECT_EQ(second->Received(), "");
-}
-
 TEST_F(LineFaults, ShutUpAndClosingTheWindowCutAPhraseInMidSend) {
   GivenLongWords();
   Start();
@@ -125,40 +90,14 @@ TEST_F(LineFaults, ShutUpAndClosingTheWindowCutAPhraseInMidSend) {
   Finish();
 }
 
-TEST_F(LineFaults, ShutUpAndClosingTheWindowCutAWriteOfTheEepromWhereverItIs) {
-  GivenSettings(ManyStoredPhrases());
-  Start();
-  Open(At("EEPROM Editor"), EepromTitle);
-  Click("Write the phrases");
-  ExpectEnd("\\0VX");
-  const std::string whole = chip->Received();
-  EXPECT_GT(whole.size(), 2000u);
-  chip->Forget();
-  CloseByDone("Done of the phrases");
-  for (std::size_t at = 1; at < whole.size(); at += 401) {
-    WritePhrasesUntil(at);
-    Click("Shut Up of the phrases");
-    CloseByDone("Done of the phrases");  // so that Shut Up has been at work before the chip goes on
-    ExpectCutBy(StopBytes, whole);
-  }
-  WritePhrasesUntil(whole.size() / 2);
-  CloseByKey(EepromTitle);
-  Click("Test Serial Connection");
-  ExpectCutBy(TestBytes, whole);
-  OpenPhraseEditor();
-  Say("\\IY");
-  ExpectBytes(Prefix + "\x80");
-  CloseByDone("Done of the phrase");
-  Finish();
-}
-
 TEST_F(LineFaults, ALineThatIsPulledAwayInMidSendShowsRedAndLeavesEverythingUsable) {
   GivenLongWords();
   Start();
   BreakOffEndlessPhrase();
   chip->HangUp();
   EXPECT_TRUE(AwaitPortColour("FF0000"));
-  PlugInAnother();
+  chip = std::make_unique<PtyChip>();
+  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Path() + "\r\n");
   Click("Shut Up of the phrase");
   ExpectBytes(StopBytes);
   EXPECT_TRUE(AwaitPortColour("00FF00"));

@@ -12,7 +12,7 @@
 
 namespace loquitor::testing {
 
-/// What the phrase editor's voice controls send before a phrase, as they stand at first.
+/// What the phrase editor's voice controls send before a phrase, at their defaults.
 inline const std::string Prefix = "\x14\x60\x15\x72\x16\x58\x17\x05";
 /// What Shut Up sends.
 inline const std::string StopBytes("\\0RX\x1f\0", 6);
@@ -37,7 +37,7 @@ struct Spot {
 /// Codes as the codes viewer lists them.
 std::string AsNumbers(const std::string& zCodes);
 
-/// So many copies of a text behind each other.
+/// `zCount` copies of a text in a row.
 std::string Repeated(const std::string& zText, std::size_t zCount);
 
 /// The built program in a real X server, in a folder of its own, with a pseudo-terminal as the chip

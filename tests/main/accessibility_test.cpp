@@ -7,8 +7,8 @@
 #include "ui/chip/frm_buttons.h"
 #include "ui/chip/frm_eeprom.h"
 #include "ui/dictedit/frm_dict_edit.h"
-#include "ui/main/frm_codes.h"
 #include "ui/main/frm_utility.h"
+#include "ui/phrase/frm_codes.h"
 #include "ui/phrase/frm_phrase.h"
 #include "ui/synth/frm_synth_ctrl.h"
 
@@ -35,6 +35,7 @@ class EveryWindow : public WindowTest {
   void VisitEditors(const Visit& zVisit) {
     const auto visit = [&](auto zEditor) {
       zEditor->Open();
+      EXPECT_TRUE(QTest::qWaitForWindowActive(zEditor.get()));
       zVisit(zEditor.get());
       zEditor->close();
     };
@@ -78,16 +79,20 @@ QWidgetList ReachedByKeys(QWidget* zWindow) {
   QWidgetList reached;
   for (QWidget* stop = zWindow->nextInFocusChain(); stop != zWindow;
        stop = stop->nextInFocusChain()) {
-    if (!stop->isVisibleTo(zWindow) || !stop->isEnabled() ||
-        (stop->focusPolicy() & Qt::TabFocus) == 0) {
-      continue;
+    if (stop->isVisibleTo(zWindow) && stop->isEnabled() &&
+        (stop->focusPolicy() & Qt::TabFocus) != 0) {
+      reached.append(stop);
     }
-    reached.append(stop);
-    for (int step = 0; step < 4 && qobject_cast<QRadioButton*>(stop) != nullptr; ++step) {
-      QWidget* at = step == 0 ? stop : zWindow->focusWidget();
-      at->setFocus();
-      QTest::keyClick(at, Qt::Key_Down);
-      reached.append(zWindow->focusWidget());
+  }
+  for (qsizetype at = 0; at < reached.size(); ++at) {
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+      if (qobject_cast<QRadioButton*>(reached[at]) != nullptr) {
+        reached[at]->setFocus();
+        QTest::keyClick(reached[at], key);
+        if (!reached.contains(zWindow->focusWidget())) {
+          reached.append(zWindow->focusWidget());
+        }
+      }
     }
   }
   return reached;

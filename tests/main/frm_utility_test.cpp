@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QHelpEvent>
+#include <QToolTip>
 
 #include "tests/support/window_test.h"
 
@@ -23,10 +24,18 @@ class MainWindow : public ToolWindowTest {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&*main));
   }
   QWidget* Front() override { return &*main; }
-  QColor BoxColour() { return Box("txtComPort")->Background(); }
+  QColor BoxColour() { return ColourOf(Box("txtComPort")); }
   void LeavePortBox() {
     Box("txtComPort")->setFocus();
     QTest::keyClick(Box("txtComPort"), Qt::Key_Tab);
+  }
+
+  /// What the mouse over the port box shows.
+  std::string PortTooltip() {
+    auto* box = Get("txtComPort");
+    QHelpEvent hover(QEvent::ToolTip, {3, 3}, box->mapToGlobal(QPoint(3, 3)));
+    QCoreApplication::sendEvent(box, &hover);
+    return box->toolTip().toStdString();
   }
 
   static ToolWindow* Modal() {
@@ -123,10 +132,61 @@ TEST_F(MainWindow, LeavingThePortBoxClosesThePortAndTheNextSendOpensTheNewOne) {
 TEST_F(MainWindow, ThePortBoxTellsThePortsThatExistNow) {
   Start();
   WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n3=/dev/null\r\n");
-  auto* box = Get("txtComPort");
-  QHelpEvent hover(QEvent::ToolTip, {3, 3}, box->mapToGlobal(QPoint(3, 3)));
-  QCoreApplication::sendEvent(box, &hover);
-  EXPECT_TRUE(box->toolTip().contains("/dev/null")) << box->toolTip().toStdString();
+  EXPECT_THAT(PortTooltip(), ::testing::HasSubstr("/dev/null"));
+}
+
+class PortFailures : public MainWindow {
+ protected:
+  /// The hint that is shown at the test button, or soon will be.
+  QString AwaitHint() {
+    static_cast<void>(QTest::qWaitFor([] { return QToolTip::isVisible(); }, 300));
+    return Get("cmdTestSerialPort")->accessibleDescription();
+  }
+  void ForgetHint() {
+    QToolTip::hideText();
+    ASSERT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    Get("cmdTestSerialPort")->setAccessibleDescription({});
+  }
+  QString Tooltip() {
+    const std::string text = PortTooltip();
+    ForgetHint();
+    return QString::fromStdString(text);
+  }
+};
+
+TEST_F(PortFailures, AreToldAtThePressedControlAndInTheTooltipOfTheBoxWhileItIsRed) {
+  const QString inUse = "Port 1: /scripted/one is in use by another program.";
+  Start();
+  port.refusesToOpen = true;
+  Click("cmdTestSerialPort");
+  EXPECT_EQ(AwaitHint(), inUse);
+  EXPECT_TRUE(Tooltip().startsWith(inUse + "\n\n"));
+  LeavePortBox();
+  EXPECT_FALSE(Tooltip().contains(inUse));
+  Type("txtComPort", " x");
+  Click("cmdTestSerialPort");
+  EXPECT_TRUE(AwaitHint().startsWith("Port x: no device has this number.\n"));
+}
+
+TEST_F(PortFailures, WaitForTheReleaseOfTheMouseWhichWouldHideTheHint) {
+  Start();
+  port.refusesToOpen = true;
+  QTest::mousePress(Get("cmdTestSerialPort"), Qt::LeftButton);
+  main->Context().sender.SendCodesToOrvatone("x", false);
+  EXPECT_EQ(AwaitHint(), "");
+  QTest::mouseRelease(Get("cmdTestSerialPort"), Qt::LeftButton);
+  EXPECT_NE(AwaitHint(), "");
+}
+
+TEST_F(PortFailures, OfAPortThatIsLostAreToldWhenItIsLostInMidSend) {
+  Start();
+  Click("cmdTestSerialPort");
+  port.Vanish();
+  EXPECT_EQ(AwaitHint(), "");
+  EXPECT_TRUE(Tooltip().startsWith("Port 1: /scripted/one failed."));
+  port.bytesUntilFailure = 2;
+  Click("cmdTestSerialPort");
+  EXPECT_TRUE(AwaitHint().startsWith("Port 1: /scripted/one failed."));
 }
 
 TEST_F(MainWindow, AsksBeforeALongPhraseWithoutFlowControl) {

@@ -2,8 +2,6 @@
 #include <QWheelEvent>
 #include <random>
 
-#include "link/qt/qt_serial_port.h"
-#include "tests/support/pseudo_terminal.h"
 #include "tests/support/window_test.h"
 #include "ui/main/frm_utility.h"
 
@@ -251,34 +249,6 @@ TEST_F(RandomActions, AreSurvivedOverALineThatFailsInEveryWay) {
   };
   Live(port, Given("LOQUITOR_RANDOM_ACTIONS", 2000), change);
   EXPECT_GT(opened, 10u) << "hardly anything was sent";
-}
-
-TEST_F(RandomActions, AreSurvivedOverARealLineThatIsHeldBackAndPulledAway) {
-  std::unique_ptr<PseudoTerminal> chip;
-  std::size_t received = 0;
-  const auto plugIn = [&] {
-    chip = std::make_unique<PseudoTerminal>();
-    chip->HoldBack();
-    chip->Release();
-    std::filesystem::remove(folder / "line");
-    std::filesystem::create_symlink(chip->Path(), folder / "line");
-  };
-  plugIn();
-  QTimer reading;
-  QObject::connect(&reading, &QTimer::timeout, [&] { received += chip->Received().size(); });
-  reading.start(1);
-  const auto change = [&] {
-    if (luck.Chance(4)) {
-      plugIn();
-    } else if (luck.Chance(3)) {
-      chip->HoldBack();
-    } else {
-      chip->Release();
-    }
-  };
-  QtSerialPort realPort;
-  Live(realPort, Given("LOQUITOR_RANDOM_ACTIONS", 1000), change);
-  EXPECT_GT(received, 100u) << "hardly anything was sent";
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include <QToolTip>
+
 #include "tests/phrase/phrase_window.h"
 #include "ui/phrase/dictionary_words.h"
 
@@ -66,6 +68,14 @@ TEST_F(DictionaryBrowserTest, StepsToAllWordsOrThoseWithOrWithoutData) {
   EXPECT_EQ(Step(), "apple:  |: ") << "and says nothing, the prefix neither";
 }
 
+TEST(DictionaryWords, SayWhenAnEntryIsTooLongToComeBackWhole) {
+  const std::string longest(DictionaryStore::MaxEntry, 'x');
+  EXPECT_EQ(CutNotice("  " + longest + " \n"), "");
+  EXPECT_EQ(CutNotice("\n" + longest), "") << "line breaks are left out";
+  const QString notice = CutNotice(longest + "\ny");
+  EXPECT_TRUE(notice.contains("2,560") && notice.contains("2,559")) << notice.toStdString();
+}
+
 TEST(DictionaryWords, AreFoundByTheCapitalsOfAText) {
   const Rows<const char*, const char*, bool> rows = {{"\\IY \\EH ", "\\eh", true},
                                                      {"\\iy ", "\\iy", false},
@@ -82,8 +92,7 @@ TEST_F(DictionaryBrowserTest, EndsASearchThatCannotSucceed) {
       {nullptr, true, true, "no words"},  // there is no file yet
       {"zzzzzzzzzz=\\IY\r\n", true, true, "no words"},
       {"a=\r\nb=\r\n", true, false, "has data"},
-      {"a=x\r\nb=y\r\n", false, true, "has data"},
-      {"a=x\r\n", false, false, "Must select either With Data or Without Data or Both"}};
+      {"a=x\r\nb=y\r\n", false, true, "has data"}};
   for (const auto& [entries, isWith, isWithout, message] : rows) {
     if (entries != nullptr) {
       GivenDictionary(entries);
@@ -91,13 +100,34 @@ TEST_F(DictionaryBrowserTest, EndsASearchThatCannotSucceed) {
     GivenModes(isWith, isWithout);
     GivenSayData("as it [was]");
     Type("txtDict", "A word ");
-    prompts.asked.clear();
     EXPECT_EQ(Step(), "A word : as it [was]: ") << message;
-    ASSERT_EQ(prompts.asked.size(), 1u);
-    EXPECT_TRUE(prompts.asked[0].text.contains(message));
-    EXPECT_EQ(prompts.asked[0].title, "Loquitor");
-    EXPECT_EQ(prompts.asked[0].buttons, PromptButtons::Ok);
+    EXPECT_TRUE(QToolTip::text().contains(message));
   }
+  EXPECT_EQ(Told(), QStringList());
+  GivenModes(false, false);
+  EXPECT_EQ(Step(), "A word : as it [was]: ");
+  EXPECT_EQ(Told(), QStringList("Must select either With Data or Without Data or Both"));
+}
+
+TEST_F(DictionaryBrowserTest, UndoBringsTheWordBackWithItsSayData) {
+  GivenDictionary(Pets);
+  GivenModes(true, false);
+  const auto press = [&](Qt::Key zKey) {
+    QTest::keyClick(SayDataBox(), zKey, Qt::ControlModifier);
+    return Box("txtDict")->Text() + ": " + SayDataBox()->Text();
+  };
+  Step();
+  Step();
+  EXPECT_EQ(press(Qt::Key_Z), "cat: \\KE \\AY ");
+  Press("cmdSave");
+  EXPECT_EQ(ReadBytes(dictionary.File()), std::string("[words]\r\n") + Pets);
+  EXPECT_EQ(press(Qt::Key_Z), ": ");
+  SayDataBox()->redo();
+  EXPECT_EQ(Box("txtDict")->Text(), "cat");
+  QTest::keyClicks(SayDataBox(), "x");
+  EXPECT_EQ(press(Qt::Key_Z), "cat: \\KE \\AY ") << "what was typed, and no more";
+  Type("txtDict", "mine");
+  EXPECT_EQ(press(Qt::Key_Z), "mine: ");
 }
 
 TEST_F(DictionaryBrowserTest, SavesTheSayDataUnderTheWord) {
@@ -110,7 +140,7 @@ TEST_F(DictionaryBrowserTest, SavesTheSayDataUnderTheWord) {
   GivenSayData("\\DE|");
   Press("cmdSave");
   EXPECT_EQ(ReadBytes(dictionary.File()),
-            "[words]\r\ndog=\\DE\r\nCat=\\KE \\AY\r\napple=\r\nHello=\\HE \\EH \\LO \\OW\r\n");
+            "[words]\r\ndog=\\DE\r\nCat=\\KE \\AY\r\napple=\r\nHello=\\HE \\EH\\LO \\OW\r\n");
   EXPECT_TRUE(prompts.asked.empty());
 }
 

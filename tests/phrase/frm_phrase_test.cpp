@@ -1,9 +1,11 @@
 #include "ui/phrase/frm_phrase.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
 #include <set>
 
 #include "tests/phrase/phrase_window.h"
-#include "ui/main/frm_codes.h"
+#include "ui/phrase/frm_codes.h"
 
 namespace loquitor::testing {
 namespace {
@@ -78,6 +80,29 @@ TEST_F(FrmPhraseTest, ShowsTheCodesInOneViewerAndSendsNothing) {
   EXPECT_EQ(Sent(), "");
 }
 
+TEST_F(FrmPhraseTest, EachKeyPressesItsButtonAndTakesWhatIsTypedIntoABox) {
+  const std::string prefix = "\x14\x60\x15\x72\x16\xC8\x17\x05";  // pitch 200
+  const Rows<QKeySequence, const char*, std::string> rows = {
+      {Qt::Key_F5, "bntSayIt", prefix + "\x80\x83"},
+      {Qt::SHIFT | Qt::Key_F5, "btnSaySelection", prefix + "\x83"},
+      {Qt::Key_F8, "btnShutUp", std::string("\\0RX\x1F\0", 6)},
+      {Qt::CTRL | Qt::Key_S, "cmdSave", ""}};
+  for (const auto& [key, button, sent] : rows) {
+    Open();
+    GivenSayData("\\IY [\\EH]");
+    Type("txtDict", "word");
+    Type("txtPitch", "200");
+    QTest::keySequence(window.get(), key);
+    EXPECT_EQ(Sent(), sent) << button;
+    EXPECT_EQ(Bar("scPitch")->value(), 200) << button;
+    const QString tooltip = Get(button)->toolTip();
+    QHelpEvent pointedAt(QEvent::ToolTip, {1, 1}, {1, 1});
+    QApplication::sendEvent(Get(button), &pointedAt);
+    EXPECT_EQ(QToolTip::text(), tooltip + " (" + key.toString() + ")");
+  }
+  EXPECT_EQ(dictionary.GetDictionaryValue("words", "word", ""), "\\IY \\EH");
+}
+
 TEST_F(FrmPhraseTest, InsertsAtTheCaretOrOverTheSelectionAndTakesItBack) {
   const Rows<const char*, const char*, const char*> rows = {
       {"|", "\\IY", "\\IY |"},
@@ -100,13 +125,6 @@ TEST_F(FrmPhraseTest, InsertsAtTheCaretOrOverTheSelectionAndTakesItBack) {
   }
 }
 
-TEST_F(FrmPhraseTest, ShutsUpInMidPhrase) {
-  GivenSayData("\\IY \\EH \\AX \\OW|");
-  AfterBytes(10, [this] { After(0, [this] { Press("btnShutUp"); }); });
-  Press("bntSayIt");
-  EXPECT_EQ(Sent(), DefaultPrefix + "\x80\x83" + std::string("\\0RX\x1F\0", 6));
-}
-
 TEST_F(FrmPhraseTest, DisablesTheButtonThatIsAtWorkAndTakesKeysForTheSayData) {
   port.isHeldBack = true;
   WhileSending([this] {
@@ -122,20 +140,6 @@ TEST_F(FrmPhraseTest, DisablesTheButtonThatIsAtWorkAndTakesKeysForTheSayData) {
   EXPECT_EQ(SayData(), "x|");
   EXPECT_TRUE(Get<QPushButton>("bntSayIt")->isEnabled());
   EXPECT_NE(window->cursor().shape(), Qt::WaitCursor);
-}
-
-TEST_F(FrmPhraseTest, ClosesWhileTheLineIsHeldBackForEver) {
-  port.isHeldBack = true;
-  GivenSayData("\\IY|");
-  WhileSending([this] {
-    Press("btnDone");
-    EXPECT_TRUE(window->IsUnloaded());
-    EXPECT_FALSE(window->isVisible());
-    sender.CloseSerialPort();
-  });
-  Press("bntSayIt");
-  EXPECT_FALSE(sender.IsSending());
-  EXPECT_EQ(Sent(), "");
 }
 
 TEST_F(FrmPhraseTest, DoesNothingMoreWhenItIsClosedAsAnActionBegins) {

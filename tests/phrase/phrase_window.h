@@ -6,8 +6,8 @@
 
 #include "tests/support/real_mouse.h"
 #include "tests/support/window_test.h"
+#include "ui/controls/click_label.h"
 #include "ui/phrase/frm_phrase.h"
-#include "ui/toolkit/click_label.h"
 
 namespace loquitor::testing {
 
@@ -46,7 +46,7 @@ class PhraseWindowTest : public ToolWindowTest {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !doubleClicks.isEmpty(); }));
   }
 
-  /// Lets every question stand for a while as a modal box, which swallows what is clicked
+  /// Keeps every question open for a while as a modal box, which swallows what is clicked
   /// meanwhile.
   void GivenBoxesThatSwallowClicks() {
     prompts.whileOpen = [this] {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "link/scp.h"
+#include "line/scp.h"
 #include "tests/support/rows.h"
 
 namespace loquitor::testing {
@@ -40,9 +40,11 @@ TEST(VirtualChipTest, SaysWhatTheBytesMean) {
            {StopSequence() + ConnectionTest(),
             "SCP reset\ncode 31 \\RESET\ncode 0 \\P0\ncode 31 \\RESET\nSCP test\n"},
            {MemoryWriteGroup(240, 0xD0) + MemoryWriteGroup(255, 7) + MemoryWriteGroup(237, 1),
-            "SCP memory write: location 240 = 208 (input 0 goes high)\n"
-            "SCP memory write: location 255 = 7 (input 7 goes low)\n"
-            "SCP memory write: location 237 = 1 (power up and reset)\n"},
+            "SCP memory write: location 240 = 208 (input 0 goes high: does nothing)\n"
+            "SCP memory write: location 255 = 7 (input 7 goes low: plays phrase 7, clears the "
+            "buffer, "
+            "restarts from a wait)\n"
+            "SCP memory write: location 237 = 1 (power up and reset: plays phrase 1)\n"},
            {MemoryWriteGroup(234, 2) + MemoryWriteGroup(0, 255) +
                 std::string(scp::StoreConfiguration),
             "SCP memory write: location 234 = 2 (phrases)\n"
@@ -64,6 +66,7 @@ TEST(VirtualChipTest, SaysWhatTheBytesMean) {
            // What fits no grammar.
            {"\\5RX", "unknown: 5C  \\\nunknown: 35  5\nunknown: 52  R\nunknown: 58  X\n"},
            {"\\0QX\x80", "unknown: 5C 30 51  \\0Q\ncode 128 \\IY\n"},
+           {"\\0~\\0\x7f", "unknown: 5C 30 7E  \\0~\nincomplete: 5C 30  \\0\nunknown: 7F  .\n"},
            {"\\003J", "unknown: 5C 30 30 33 4A  \\003J\n"},            // a leading zero
            {"\\0256J", "unknown: 5C 30 32 35 36 4A  \\0256J\n"},       // no such location
            {"\\03J31H", "unknown: 5C 30 33 4A 33 31 48  \\03J31H\n"},  // another address

@@ -4,11 +4,17 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/ioctl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 
 #include "tests/e2e/child_process.h"
+#include "tests/support/pseudo_terminal.h"
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
@@ -74,18 +80,28 @@ TEST_F(VirtualOrvatoneTest, StopsCleanlyAndRemovesItsLink) {
   }
 }
 
-TEST_F(VirtualOrvatoneTest, ReplacesALeftOverLinkAndLeavesTheOneOfAnotherRun) {
-  fs::create_symlink("/dev/pts/99999", link);
-  ChildProcess first(command);
-  AwaitLink();
-  const fs::path firstDevice = fs::read_symlink(link);
-  ChildProcess second(command);
-  ASSERT_TRUE(Await([&] { return fs::read_symlink(link) != firstDevice; }));
-  first.Signal(SIGTERM);
-  EXPECT_EQ(first.WaitForEnd(), 0);
-  EXPECT_TRUE(fs::exists(link));
-  Send("\x81");
-  ExpectPrinted(second, "code 129 \\IH\n");
+TEST_F(VirtualOrvatoneTest, ReplacesALeftOverLinkAndLeavesThatOfARunningOne) {
+  // A link that leads nowhere, and one to a pseudo-terminal that is something else by now.
+  PseudoTerminal other;
+  for (const std::string& target : {"/dev/pts/99999"s, other.Path()}) {
+    fs::create_symlink(target, link);
+    ChildProcess first(command);
+    ASSERT_TRUE(Await([&] { return fs::exists(link) && fs::read_symlink(link) != target; }));
+    for (const bool isInUse : {false, true}) {
+      const int line = OpenLine();
+      ASSERT_EQ(ioctl(line, isInUse ? TIOCEXCL : TIOCNXCL), 0);
+      ChildProcess second({"sh", "-c", "\"$0\" \"$@\" 2>&1", command[0], command[1], command[2]});
+      EXPECT_EQ(second.WaitForEnd(), 1);
+      EXPECT_NE(second.Output().find("is the port of another virtual Orvatone"), std::string::npos);
+      ASSERT_EQ(ioctl(line, TIOCNXCL), 0);
+      close(line);
+    }
+    Send("\x81");
+    ExpectPrinted(first, "code 129 \\IH\n");
+    first.Signal(SIGTERM);
+    EXPECT_EQ(first.WaitForEnd(), 0);
+    EXPECT_FALSE(fs::is_symlink(link));
+  }
 }
 
 TEST_F(VirtualOrvatoneTest, LetsTheDeviceBeOpenedAgainAfterAClientDiedThatHadItForItself) {
@@ -113,6 +129,10 @@ TEST_F(VirtualOrvatoneTest, RefusesWhatItCannotDo) {
            {{"--link"}, 2, "--link needs a path"},
            {{"--link="}, 2, "--link needs a path"},
            {{"--port", "3"}, 2, "unknown argument: --port"},
+           {{"--version"}, 0, "virtual-orvatone 1.4\n"},
+           {{"--wav"}, 2, "--wav needs a path"},
+           {{"--speak", "--wav", "/dev/full"}, 1, "cannot write /dev/full: No space left"},
+           {{"--wav", (folder / "none" / "x").string()}, 1, "x: No such file or directory"},
            {{"--help"}, 0, "Usage: virtual-orvatone [--link PATH]"}}) {
     std::vector<std::string> shell = {"sh", "-c", "\"$0\" \"$@\" 2>&1", VIRTUAL_ORVATONE};
     shell.insert(shell.end(), arguments.begin(), arguments.end());
@@ -123,6 +143,116 @@ TEST_F(VirtualOrvatoneTest, RefusesWhatItCannotDo) {
   EXPECT_EQ(ReadBytes(folder / "file"), "precious");
   EXPECT_TRUE(fs::is_symlink(folder / "link"));
 }
+
+/// The command with standard error in its output and `zInput` to read.
+std::vector<std::string> InShell(const std::vector<std::string>& zCommand,
+                                 const std::string& zInput = "/dev/null") {
+  std::vector<std::string> shell = {"sh", "-c", "exec \"$0\" \"$@\" 2>&1 <" + zInput};
+  shell.insert(shell.end(), zCommand.begin(), zCommand.end());
+  return shell;
+}
+
+TEST_F(VirtualOrvatoneTest, RecordsWhatIsSaidToItsEnd) {
+  std::vector<std::string> recording = command;
+  recording.insert(recording.end(), {"--wav", (folder / "heard.wav").string()});
+  ChildProcess program(recording);
+  AwaitLink();
+  EXPECT_EQ(ReadBytes(folder / "heard.wav").size(), 44U);
+  Send("\x1E\x32\xDD");  // half a second of silence, then a beep of 150 ms
+  ASSERT_TRUE(Await([&] { return program.Output().find("221") != std::string::npos; }));
+  program.Signal(SIGTERM);
+  EXPECT_EQ(program.WaitForEnd(), 0);
+  const std::string wav = ReadBytes(folder / "heard.wav");
+  const double milliseconds = static_cast<double>(wav.size() - 44) / 32;
+  EXPECT_NEAR(milliseconds, 650, 60);
+  const std::string beep = wav.substr(44 + 32 * 550, 32 * 100);
+  EXPECT_NE(beep.find_first_not_of('\0'), std::string::npos);
+}
+
+TEST_F(VirtualOrvatoneTest, ChangesItsInputsByLinesOfItsInput) {
+  WriteBytes(folder / "input", "3h\nnonsense\n3 low\n7h");
+  ChildProcess program(InShell(command, (folder / "input").string()));
+  AwaitLink();
+  const auto prints = [&](const std::string& zText) {
+    return Await([&] { return program.Output().find(zText) != std::string::npos; });
+  };
+  EXPECT_TRUE(prints("\ninput 3 goes high: does nothing\n"));
+  EXPECT_TRUE(prints("type an input and its level, for example 3h or 3l\ninput 3 goes low"));
+  Send("\x80");
+  EXPECT_TRUE(prints("code 128")) << "after the end of its input";
+}
+
+TEST_F(VirtualOrvatoneTest, SaysOnceThatNothingCanBeHeardAndGoesOn) {
+  WriteBytes(folder / "no.conf", "pcm.!default { type hw card 99 }\n");
+  std::vector<std::string> speaking = command;
+  speaking.push_back("--speak");
+  ChildProcess program(InShell(speaking), {{"ALSA_CONFIG_PATH", (folder / "no.conf").string()}});
+  AwaitLink();
+  Send("\x80\x80");
+  ASSERT_TRUE(Await([&] { return program.Output().ends_with("code 128 \\IY\ncode 128 \\IY\n"); }));
+  const std::string& output = program.Output();
+  EXPECT_EQ(output.find("virtual-orvatone: nothing can be heard: "), 0U) << output;
+  EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 4) << output;
+}
+
+#ifdef LOQUITOR_PORTAUDIO
+/// The sound output of the system, played into a pipe that a test reads.
+class PipedSound {
+ public:
+  explicit PipedSound(const TempFolder& zFolder) : config_(zFolder / "asound.conf") {
+    const std::string pipe = (zFolder / "pipe").string();
+    mkfifo(pipe.c_str(), 0600);
+    pipe_ = open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+    WriteBytes(config_, "pcm.!default { type file slave.pcm { type null } file \"" + pipe +
+                            "\" format \"raw\" }\n");
+  }
+  ~PipedSound() { close(pipe_); }
+  PipedSound(const PipedSound&) = delete;
+  PipedSound& operator=(const PipedSound&) = delete;
+
+  std::string Config() const { return config_.string(); }
+
+  /// The highest sample of the next 100 ms.
+  int NextPeak() {
+    constexpr std::size_t wanted = 3200;
+    std::string bytes;
+    Await([&] {
+      std::array<char, wanted> buffer;
+      const ssize_t count = read(pipe_, buffer.data(), wanted - bytes.size());
+      bytes.append(buffer.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+      return bytes.size() == wanted;
+    });
+    int peak = 0;
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+      const int low = static_cast<unsigned char>(bytes[i]);
+      peak = std::max(peak, std::abs(static_cast<std::int16_t>(low | bytes[i + 1] << 8)));
+    }
+    return peak;
+  }
+
+ private:
+  fs::path config_;
+  int pipe_ = -1;
+};
+
+TEST_F(VirtualOrvatoneTest, IsHeardUntilItIsReset) {
+  std::vector<std::string> speaking = command;
+  speaking.push_back("--speak");
+  PipedSound device(folder);
+  ChildProcess program(speaking, {{"ALSA_CONFIG_PATH", device.Config()}});
+  AwaitLink();
+  EXPECT_EQ(device.NextPeak(), 0);
+  Send("\\01J 440NX\\011J 31NX");
+  EXPECT_TRUE(Await([&] { return device.NextPeak() > 1000; }));
+  Send("\\0RX");
+  EXPECT_TRUE(Await([&] { return device.NextPeak() == 0; }));
+  for (int i = 0; i < 10; ++i) {
+    EXPECT_EQ(device.NextPeak(), 0) << "and stays silent";
+  }
+  Send(std::string(20, '\x88'));
+  EXPECT_TRUE(Await([&] { return device.NextPeak() > 1000; }));
+}
+#endif
 
 }  // namespace
 }  // namespace loquitor::testing

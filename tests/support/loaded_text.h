@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "link/platform_files.h"
+#include "files/platform_files.h"
 
 namespace loquitor::testing {
 

@@ -5,12 +5,12 @@
 #include "core/code_table.h"
 #include "core/dictionary_store.h"
 #include "core/say_data.h"
-#include "link/code_sender.h"
-#include "link/settings_file.h"
+#include "files/settings_file.h"
+#include "line/code_sender.h"
 #include "tests/support/scripted_host.h"
 #include "tests/support/scripted_port.h"
 #include "tests/support/scripted_prompts.h"
-#include "ui/toolkit/editor_context.h"
+#include "ui/windows/editor_context.h"
 
 namespace loquitor::testing {
 

@@ -17,6 +17,18 @@ class RealMouse {
 
   void Click(const QWidget* zWidget) { ClickAt(Now(), zWidget); }
 
+  /// The steps of a drag, each at a place in the widget.
+  void Press(const QWidget* zWidget, QPoint zAt) {
+    QTest::lastMouseTimestamp = Now();
+    QTest::mousePress(Window(zWidget), Qt::LeftButton, {}, InWindow(zWidget, zAt));
+  }
+  void Move(const QWidget* zWidget, QPoint zAt) {
+    QTest::mouseMove(Window(zWidget), InWindow(zWidget, zAt));
+  }
+  void Release(const QWidget* zWidget, QPoint zAt) {
+    QTest::mouseRelease(Window(zWidget), Qt::LeftButton, {}, InWindow(zWidget, zAt));
+  }
+
   /// Clicks, and once more `zMilliseconds` later, from whatever event loop runs then. Returns when
   /// the first click has been handled. Where the machine is late, the second one still carries the
   /// time at which it was due.
@@ -43,8 +55,11 @@ class RealMouse {
     QTest::mouseRelease(Window(zWidget), Qt::LeftButton, {}, Middle(zWidget));
   }
   static QWindow* Window(const QWidget* zWidget) { return zWidget->window()->windowHandle(); }
+  static QPoint InWindow(const QWidget* zWidget, QPoint zAt) {
+    return zWidget->mapTo(zWidget->window(), zAt);
+  }
   static QPoint Middle(const QWidget* zWidget) {
-    return zWidget->mapTo(zWidget->window(), zWidget->rect().center());
+    return InWindow(zWidget, zWidget->rect().center());
   }
 
   int origin_;

@@ -5,17 +5,18 @@
 #include <utility>
 #include <vector>
 
-#include "link/serial_port.h"
+#include "line/serial_port.h"
 
 namespace loquitor::testing {
 
 /// A port that records what it gets and fails or stalls on demand.
 class ScriptedPort : public SerialPort {
  public:
-  bool Open(const SerialPortSettings& zSettings) override {
+  PortFailure Open(const SerialPortSettings& zSettings) override {
     opened.push_back(zSettings);
     isOpen_ = !refusesToOpen;
-    return isOpen_;
+    return {.error = refusesToOpen ? PortError::InUse : PortError::None,
+            .device = zSettings.device};
   }
   void Close() override {
     closeCount += isOpen_ ? 1 : 0;

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "ui/toolkit/prompts.h"
+#include "ui/windows/prompts.h"
 
 namespace loquitor::testing {
 

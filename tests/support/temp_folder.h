@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -15,11 +15,10 @@ namespace loquitor::testing {
 class TempFolder {
  public:
   explicit TempFolder(const std::filesystem::path& zIn = std::filesystem::temp_directory_path()) {
-    std::string pattern = (zIn / "loquitor-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-      throw std::runtime_error("no temporary folder");
-    }
-    path_ = pattern;
+    std::random_device random;
+    do {
+      path_ = zIn / ("loquitor-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(path_));
   }
   ~TempFolder() {
     std::error_code ignored;
@@ -31,7 +30,7 @@ class TempFolder {
   const std::filesystem::path& Path() const { return path_; }
   std::filesystem::path operator/(std::string_view zName) const { return path_ / zName; }
 
-  /// The names of what lies in it.
+  /// The names of what is in it.
   std::vector<std::string> Names() const {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(path_)) {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "link/code_sender.h"
+#include "line/code_sender.h"
 
 namespace loquitor::testing {
 

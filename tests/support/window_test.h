@@ -13,11 +13,11 @@
 #include "tests/support/program.h"
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
-#include "ui/toolkit/check_box.h"
-#include "ui/toolkit/scroll_bar.h"
-#include "ui/toolkit/text_area.h"
-#include "ui/toolkit/text_box.h"
-#include "ui/toolkit/tool_window.h"
+#include "ui/controls/check_box.h"
+#include "ui/controls/scroll_bar.h"
+#include "ui/controls/text_area.h"
+#include "ui/controls/text_box.h"
+#include "ui/windows/tool_window.h"
 
 namespace loquitor::testing {
 
@@ -97,6 +97,12 @@ class ToolWindowTest : public WindowTest {
     QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
   }
   TextBox* Box(const QString& zName) { return Get<TextBox>(zName); }
+  /// The background that a box was given; invalid while it has the desktop's.
+  static QColor ColourOf(const QWidget* zBox) {
+    const QPalette palette = zBox->palette();
+    return palette.isBrushSet(QPalette::Active, QPalette::Base) ? palette.color(QPalette::Base)
+                                                                : QColor();
+  }
   ScrollBar* Bar(const QString& zName) { return Get<ScrollBar>(zName); }
 
   /// Types a text in place of what a box holds; the focus stays there.

@@ -1,0 +1,6 @@
+# Read by cpack for each generator: a Debian package has the layout of a system, an archive is one folder.
+if(CPACK_GENERATOR STREQUAL "DEB")
+  list(GET CPACK_INSTALL_CMAKE_PROJECTS 0 build)
+  set(CPACK_INSTALL_CMAKE_PROJECTS "${build};Loquitor;system;/")
+  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+endif()

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace loquitor {
+
+/// The codes of the chip and their mnemonics. Entries 0 to 255 are chip codes. Entries 301 to 352
+/// are notes: 300 + 20 x (octave - 1) + position, which is 1 to 12 from C to B. Entries without a
+/// mnemonic are empty. The table is empty until BuildCodeTable and read-only afterwards.
+class CodeTable {
+ public:
+  static constexpr std::int16_t EntryCount = 401;
+  static constexpr std::int16_t NotFound = 401;   ///< result of GetCodeIndex for no match
+  static constexpr std::int16_t FirstNote = 256;  ///< indexes below are chip codes
+
+  /// Fills the table.
+  void BuildCodeTable();
+
+  /// The index of the entry that equals `zMnemonic`, backslash included, in any letter case (A to
+  /// Z), or NotFound.
+  std::int16_t GetCodeIndex(std::string_view zMnemonic) const;
+
+  /// The code string of one token: a backslash and what follows it, without spaces around it. A
+  /// number from 1 to 255 at its start is a code, `\0` is code 0, and a note is two codes. Empty
+  /// for every other number and for names that no entry has.
+  std::string TokenCodes(std::string_view zToken) const;
+
+  /// The mnemonic of a chip code with its backslash, or the empty text when it has none.
+  std::string GetCodeMnemonic(std::uint8_t zCode) const;
+
+  /// The pitch in hertz (the byte sent after code 22) of a note entry; 0 for every other index.
+  std::uint8_t GetNotePitch(std::int16_t zNoteIndex) const;
+
+ private:
+  std::array<std::string, EntryCount> entries_;
+  std::unordered_map<std::string, std::int16_t> indexes_;
+};
+
+/// True for the codes that are followed by one value byte.
+bool TakesValue(int zCode);
+
+}  // namespace loquitor

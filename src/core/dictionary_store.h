@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "files/profile_file.h"
+
+namespace loquitor {
+
+/// One state of the dictionary, for many lookups. It never changes.
+class DictionarySnapshot {
+ public:
+  explicit DictionarySnapshot(std::shared_ptr<const ProfileSnapshot> zFile);
+
+  /// The entry of `zWord` as DictionaryStore::GetDictionaryValue gives it, or the empty text when
+  /// the word is missing. The view lives as long as the snapshot.
+  std::string_view Entry(std::string_view zWord) const;
+
+  /// The whole text of the file.
+  std::string_view Text() const { return file_->Text(); }
+
+ private:
+  std::shared_ptr<const ProfileSnapshot> file_;
+};
+
+/// The pronunciation dictionary (Loquitor.Dic) in the folder of the program's files, read and
+/// written a word at a time. Every call goes to the file as it is then. Texts are Windows-1252
+/// bytes.
+class DictionaryStore {
+ public:
+  static constexpr std::string_view Section = "Words";  ///< the one section of the file
+
+  static constexpr std::size_t MaxEntry = 2559;  ///< the most bytes of an entry that are read
+
+  /// `zFolder` is the folder of the program's files.
+  explicit DictionaryStore(const std::filesystem::path& zFolder);
+
+  /// The entry of `zWord` (any letter case), at most MaxEntry bytes, without blanks around it or
+  /// trailing NULs. When the file, the section or the word is missing, the result is `zDefault`,
+  /// cut and trimmed likewise. An entry that is present and empty gives the empty text.
+  std::string GetDictionaryValue(std::string_view zSection, std::string_view zWord,
+                                 std::string_view zDefault) const;
+
+  /// Stores `zValue` under `zWord`, without its line breaks. False when it could not be stored.
+  bool SaveDictionaryValue(std::string_view zSection, std::string_view zWord,
+                           std::string_view zValue) const;
+
+  /// Stores all `zEntries` as SaveDictionaryValue would one after the other, in one change of the
+  /// file. False, with the file as it was, when any of them could not be stored.
+  bool SaveEntries(std::span<const ProfileValue> zEntries) const {
+    return file_.Write(Section, zEntries);
+  }
+
+  /// The dictionary as it is now.
+  DictionarySnapshot Snapshot() const { return DictionarySnapshot(file_.Snapshot()); }
+
+  /// The path of the dictionary file.
+  const std::filesystem::path& File() const { return file_.Path(); }
+
+ private:
+  ProfileFile file_;
+};
+
+}  // namespace loquitor

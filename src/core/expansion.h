@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace loquitor {
+
+/// The entry of a dictionary word; empty when it has none.
+using EntryLookUp = std::function<std::string(std::string_view zWord)>;
+
+/// Replaces the words of `zSayData` by their entries, recursively, and pauses by their mnemonics
+/// (docs/say-data.md). A word that is being expanded, in any letter case, counts as missing. The
+/// result ends before the first part that would make it longer than `zMaxLength` bytes.
+///
+/// The time is in proportion to `zMaxLength` and the length of `zSayData`, whatever the entries
+/// are. Entries that would cost more are left out. Nesting is bounded by memory only.
+std::string ExpandWords(std::string_view zSayData, const EntryLookUp& zEntryOf,
+                        std::size_t zMaxLength);
+
+}  // namespace loquitor

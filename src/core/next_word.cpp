@@ -1,0 +1,55 @@
+#include "core/next_word.h"
+
+#include <utility>
+
+#include "files/profile_lines.h"
+#include "text/letters.h"
+#include "text/words.h"
+
+namespace loquitor {
+namespace {
+
+/// Means "no word found"; no word that sorts from here on is found.
+constexpr std::string_view Sentinel = "zzzzzzzzz!!!";
+
+/// What loading the blank-separated words of `zWords` makes of an empty Say Data.
+std::string SayDataOf(const DictionarySnapshot& zDictionary, std::string_view zWords) {
+  std::string sayData;
+  ForEachWord(zWords, [&](std::string_view zWord) {
+    sayData.append(zDictionary.Entry(zWord)).append(" ");
+  });
+  return sayData;
+}
+
+/// The first wanted word after `zCurrent` and before the sentinel, both excluded.
+std::optional<std::string> FirstAfter(const DictionarySnapshot& zDictionary,
+                                      std::string_view zCurrent, const IsWantedSayData& zIsWanted) {
+  std::string best(Sentinel);
+  bool isFound = false;
+  ProfileLineReader reader(zDictionary.Text());
+  ProfileLine line;
+  while (reader.Next(line)) {
+    const std::size_t equals = line.text.find('=');
+    if (equals == std::string_view::npos) {
+      continue;
+    }
+    std::string word = ToLower(TrimBlanks(line.text.substr(0, equals)));
+    if (word > zCurrent && word < best && (!zIsWanted || zIsWanted(SayDataOf(zDictionary, word)))) {
+      best = std::move(word);
+      isFound = true;
+    }
+  }
+  return isFound ? std::make_optional(best) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> NextWord(const DictionaryStore& zDictionary, std::string_view zCurrent,
+                                    const IsWantedSayData& zIsWanted) {
+  const DictionarySnapshot dictionary = zDictionary.Snapshot();
+  const std::string current = ToLower(zCurrent);
+  const auto next = FirstAfter(dictionary, current, zIsWanted);
+  return next || current.empty() ? next : FirstAfter(dictionary, {}, zIsWanted);
+}
+
+}  // namespace loquitor

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace loquitor {
+
+/// Whether `zCharacter` may be part of a mnemonic's name: a letter A to Z of either case, a digit
+/// or a number sign.
+bool IsNameCharacter(char zCharacter);
+
+/// Characters of Say Data of one kind that follow each other, or have only ignored characters
+/// between them.
+struct SayDataRun {
+  enum class Kind { Word, Spaces, Commas };
+
+  Kind kind = Kind::Word;
+  std::string characters;  ///< without the ignored ones
+  std::size_t start = 0;   ///< offset of the first character
+  std::size_t end = 0;     ///< offset after the last character
+};
+
+/// Reads the runs of a Say Data text from first to last (docs/say-data.md). Spaces at the end of
+/// the text are no run, because they give no pause.
+class SayDataRuns {
+ public:
+  /// `zSayData` must outlive the reader.
+  explicit SayDataRuns(std::string_view zSayData) : rest_(zSayData), size_(zSayData.size()) {}
+
+  /// Puts the next run into `zRun`; false after the last one.
+  bool Next(SayDataRun& zRun);
+
+  /// How many characters have been read.
+  std::size_t Position() const { return size_ - rest_.size(); }
+
+ private:
+  std::string_view rest_;
+  std::size_t size_;
+};
+
+}  // namespace loquitor

@@ -1,0 +1,256 @@
+#include "english/abbreviations.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "english/plain_text.h"
+#include "text/letters.h"
+
+namespace loquitor {
+
+namespace {
+
+using enum Abbreviation::Needs;
+
+// The first one whose need is met is taken.
+constexpr Abbreviation Abbreviations[] = {
+    {"mr", Nothing, "mister"},
+    {"mrs", Nothing, "missus"},
+    {"ms", Nothing, "miz"},
+    {"dr", Nothing, "doctor"},
+    {"prof", Period, "professor"},
+    {"st", PeriodAndCapital, "saint"},
+    {"st", Period, "street"},
+    {"jr", Nothing, "junior", true},
+    {"sr", Period, "senior", true},
+    {"gen", PeriodAndCapital, "general"},
+    {"capt", Period, "captain"},
+    {"lt", PeriodAndCapital, "lieutenant"},
+    {"sgt", Period, "sergeant"},
+    {"vs", Nothing, "versus"},
+    {"etc", Nothing, "et cetera", true},
+    {"eg", Period, "for example"},
+    {"ie", Period, "that is"},
+    {"approx", Period, "approximately"},
+    {"dept", Period, "department", true},
+    {"no", PeriodAndNumber, "number"},
+    {"nr", PeriodAndNumber, "number"},
+    {"fig", PeriodAndNumber, "figure"},
+    {"vol", PeriodAndNumber, "volume"},
+    {"ch", PeriodAndNumber, "chapter"},
+    {"pp", PeriodAndNumber, "pages"},
+    {"p", PeriodAndNumber, "page"},
+    {"sec", PeriodAndNumber, "section"},
+    {"inc", Period, "incorporated", true},
+    {"ltd", Period, "limited", true},
+    {"corp", Period, "corporation", true},
+    {"co", Period, "company", true},
+    {"mt", Period, "mount"},
+    {"ave", Period, "avenue", true},
+    {"rd", Period, "road", true},
+    {"blvd", Nothing, "boulevard", true},
+    {"max", Period, "maximum"},
+    {"min", Period, "minimum"},
+    {"temp", Period, "temperature"},
+    {"tel", Period, "telephone"},
+    {"jan", Period, "january"},
+    {"feb", Period, "february"},
+    {"mar", PeriodAndNumber, "march"},
+    {"apr", Period, "april"},
+    {"jun", Period, "june"},
+    {"jul", Period, "july"},
+    {"aug", Period, "august"},
+    {"sep", Period, "september"},
+    {"sept", Period, "september"},
+    {"oct", Period, "october"},
+    {"nov", Period, "november"},
+    {"dec", Period, "december"},
+    {"mon", Period, "monday"},
+    {"tue", Period, "tuesday"},
+    {"tues", Period, "tuesday"},
+    {"wed", PeriodAndCapital, "wednesday"},
+    {"thu", Period, "thursday"},
+    {"thurs", Period, "thursday"},
+    {"fri", Period, "friday"},
+    {"sat", PeriodAndCapital, "saturday"},
+    {"sun", PeriodAndCapital, "sunday"},
+};
+
+bool IsMet(Abbreviation::Needs zNeeds, const AfterShortForm& zAfter) {
+  switch (zNeeds) {
+    case Nothing:
+      return true;
+    case Period:
+      return zAfter.hasPeriod;
+    case PeriodAndNumber:
+      return zAfter.hasPeriod && zAfter.isBeforeNumber;
+    case PeriodAndCapital:
+      return zAfter.hasPeriod && zAfter.isBeforeCapital;
+  }
+  return false;
+}
+
+constexpr Unit Units[] = {
+    {"%", "percent", "percent"},
+    {"\xB0", "degree", "degrees"},
+    {"\xB0"
+     "C",
+     "degree celsius", "degrees celsius"},
+    {"\xB0"
+     "F",
+     "degree fahrenheit", "degrees fahrenheit"},
+    {"V", "volt", "volts"},
+    {"mV", "millivolt", "millivolts"},
+    {"kV", "kilovolt", "kilovolts"},
+    {"A", "amp", "amps", true},
+    {"mA", "milliamp", "milliamps"},
+    {"mAh", "milliamp hour", "milliamp hours"},
+    {"uA", "microamp", "microamps"},
+    {"\xB5"
+     "A",
+     "microamp", "microamps"},
+    {"W", "watt", "watts"},
+    {"mW", "milliwatt", "milliwatts"},
+    {"kW", "kilowatt", "kilowatts"},
+    {"kWh", "kilowatt hour", "kilowatt hours"},
+    {"Hz", "hertz", "hertz"},
+    {"kHz", "kilohertz", "kilohertz"},
+    {"MHz", "megahertz", "megahertz"},
+    {"GHz", "gigahertz", "gigahertz"},
+    {"Ohm", "ohm", "ohms"},
+    {"kOhm", "kilohm", "kilohms"},
+    {"MOhm", "megohm", "megohms"},
+    {"uF", "microfarad", "microfarads"},
+    {"\xB5"
+     "F",
+     "microfarad", "microfarads"},
+    {"nF", "nanofarad", "nanofarads"},
+    {"pF", "picofarad", "picofarads"},
+    {"m", "meter", "meters"},
+    {"mm", "millimeter", "millimeters"},
+    {"cm", "centimeter", "centimeters"},
+    {"km", "kilometer", "kilometers"},
+    {"km/h", "kilometer per hour", "kilometers per hour"},
+    {"m/s", "meter per second", "meters per second"},
+    {"in", "inch", "inches", true},
+    {"ft", "foot", "feet"},
+    {"yd", "yard", "yards"},
+    {"mi", "mile", "miles"},
+    {"mph", "mile per hour", "miles per hour"},
+    {"g", "gram", "grams"},
+    {"mg", "milligram", "milligrams"},
+    {"kg", "kilogram", "kilograms"},
+    {"oz", "ounce", "ounces"},
+    {"lb", "pound", "pounds"},
+    {"lbs", "pound", "pounds"},
+    {"l", "liter", "liters"},
+    {"L", "liter", "liters"},
+    {"ml", "milliliter", "milliliters"},
+    {"mL", "milliliter", "milliliters"},
+    {"s", "second", "seconds", true},
+    {"sec", "second", "seconds"},
+    {"ms", "millisecond", "milliseconds"},
+    {"us", "microsecond", "microseconds", true},
+    {"\xB5"
+     "s",
+     "microsecond", "microseconds"},
+    {"ns", "nanosecond", "nanoseconds"},
+    {"min", "minute", "minutes"},
+    {"h", "hour", "hours"},
+    {"hr", "hour", "hours"},
+    {"hrs", "hour", "hours"},
+    {"kB", "kilobyte", "kilobytes"},
+    {"KB", "kilobyte", "kilobytes"},
+    {"MB", "megabyte", "megabytes"},
+    {"GB", "gigabyte", "gigabytes"},
+    {"TB", "terabyte", "terabytes"},
+    {"dB", "decibel", "decibels"},
+    {"rpm", "revolution per minute", "revolutions per minute"},
+    {"k", "thousand", "thousand", true},
+    {"K", "thousand", "thousand", true},
+    {"M", "million", "million", true},
+    {"x", "times", "times", true},
+};
+
+/// With a vowel letter and spelled all the same.
+constexpr std::string_view SpelledCapitals[] = {
+    "AAA",  "ABC",  "ABS", "AC",  "ADC", "ADHD", "AI",   "AKA", "AM",  "AOL",  "API", "ATM", "AVR",
+    "CAD",  "CEO",  "CIA", "CPU", "DAC", "DIY",  "DNA",  "EPA", "ESP", "ETA",  "EU",  "FAQ", "FBI",
+    "FPGA", "GPIO", "GPU", "GUI", "HIV", "IBM",  "IC",   "ID",  "IDE", "IEEE", "IO",  "IOT", "IP",
+    "IQ",   "IR",   "IRC", "IRS", "ISP", "IT",   "LAN",  "LED", "MIT", "NBA",  "NSA", "OS",  "PA",
+    "PDA",  "RIP",  "RNA", "SOS", "SQL", "SUV",  "UART", "UDP", "UFO", "UHF",  "UI",  "UK",  "UN",
+    "URL",  "US",   "USA", "USB", "USD", "UTC",  "UV",   "VIP", "VIN", "WAN",  "XML", "YMCA"};
+
+constexpr std::string_view RomanNumerals[][2] = {
+    {"II", "two"},      {"III", "three"},      {"IV", "four"},        {"VI", "six"},
+    {"VII", "seven"},   {"VIII", "eight"},     {"IX", "nine"},        {"XI", "eleven"},
+    {"XII", "twelve"},  {"XIII", "thirteen"},  {"XIV", "fourteen"},   {"XV", "fifteen"},
+    {"XVI", "sixteen"}, {"XVII", "seventeen"}, {"XVIII", "eighteen"}, {"XIX", "nineteen"},
+    {"XX", "twenty"}};
+
+/// Words without a vowel letter that are not spelled.
+constexpr std::string_view VowellessWords[] = {"brr",  "grr", "hm", "hmm", "mm",  "nth",
+                                               "psst", "pst", "sh", "shh", "tsk", "zzz"};
+
+struct NamedSymbol {
+  char symbol;
+  std::string_view name;
+};
+constexpr NamedSymbol NamedSymbols[] = {
+    {'#', "number"},        {'$', "dollar"},      {'%', "percent"},
+    {'&', "and"},           {'*', "star"},        {'+', "plus"},
+    {'/', "slash"},         {'<', "less than"},   {'=', "equals"},
+    {'>', "greater than"},  {'@', "at"},          {'^', "caret"},
+    {'|', "bar"},           {'~', "tilde"},       {EuroSign, "euro"},
+    {CentSign, "cent"},     {PoundSign, "pound"}, {YenSign, "yen"},
+    {DegreeSign, "degree"}, {MicroSign, "micro"}};
+
+template <typename Table>
+bool Holds(const Table& zTable, std::string_view zWord) {
+  return std::find(std::begin(zTable), std::end(zTable), zWord) != std::end(zTable);
+}
+
+}  // namespace
+
+const Abbreviation* FindAbbreviation(std::string_view zShortForm, const AfterShortForm& zAfter) {
+  constexpr std::size_t Longest = 6;
+  if (zShortForm.size() > Longest) {
+    return nullptr;
+  }
+  const std::string shortForm = ToLower(zShortForm);
+  const auto* const found = std::find_if(
+      std::begin(Abbreviations), std::end(Abbreviations),
+      [&](const Abbreviation& a) { return a.shortForm == shortForm && IsMet(a.needs, zAfter); });
+  return found == std::end(Abbreviations) ? nullptr : found;
+}
+
+const Unit* FindUnit(std::string_view zSymbol) {
+  const auto* const found =
+      std::find_if(std::begin(Units), std::end(Units),
+                   [zSymbol](const Unit& zUnit) { return zUnit.symbol == zSymbol; });
+  return found == std::end(Units) ? nullptr : found;
+}
+
+bool IsSpelledOut(std::string_view zWord) {
+  const bool isInCapitals = std::all_of(zWord.begin(), zWord.end(), IsCapital);
+  if (isInCapitals && Holds(SpelledCapitals, zWord)) {
+    return true;
+  }
+  const bool hasVowel = zWord.find_first_of("aeiouyAEIOUY") != std::string_view::npos;
+  return !hasVowel && !Holds(VowellessWords, ToLower(zWord));
+}
+
+std::string_view RomanNumeralWords(std::string_view zWord) {
+  const auto* const found = std::find_if(std::begin(RomanNumerals), std::end(RomanNumerals),
+                                         [zWord](const auto& zRow) { return zRow[0] == zWord; });
+  return found == std::end(RomanNumerals) ? std::string_view() : (*found)[1];
+}
+
+std::string_view SymbolName(char zSymbol) {
+  const auto* const found =
+      std::find_if(std::begin(NamedSymbols), std::end(NamedSymbols),
+                   [zSymbol](const NamedSymbol& zNamed) { return zNamed.symbol == zSymbol; });
+  return found == std::end(NamedSymbols) ? std::string_view() : found->name;
+}
+
+}  // namespace loquitor

@@ -1,0 +1,133 @@
+#include "english/english_reader.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <utility>
+
+#include "core/dictionary_store.h"
+#include "english/letter_names.h"
+#include "english/pronunciation.h"
+#include "english/sound_rules.h"
+#include "text/letters.h"
+
+namespace loquitor {
+
+namespace {
+
+using Kind = SpokenPiece::Kind;
+
+constexpr std::string_view SentencePause = "\\P3";
+
+/// Whether the words around a piece see it as a word of their sentence.
+bool IsWordInSentence(const SpokenPiece& zPiece) {
+  const bool isReadable = zPiece.text.size() <= PhoneSource::MaxWordLength &&
+                          zPiece.text.find_first_of("0123456789#") == std::string::npos;
+  return zPiece.kind == Kind::Word || (zPiece.kind == Kind::Entry && isReadable);
+}
+
+/// The phones of each piece from `zFrom` to before `zTo`, which are at most a sentence; none for
+/// those that are no word.
+std::vector<WordPhones> SentencePhones(PhoneSource& zSource, std::span<const SpokenPiece> zPieces) {
+  std::vector<std::string> words;
+  for (const SpokenPiece& piece : zPieces) {
+    if (IsWordInSentence(piece)) {
+      words.push_back(ToLower(piece.text));
+    }
+  }
+  const bool needsPhones = std::any_of(zPieces.begin(), zPieces.end(),
+                                       [](const SpokenPiece& p) { return p.kind == Kind::Word; });
+  std::vector<WordPhones> ofWords =
+      needsPhones ? Pronounce(zSource, words) : std::vector<WordPhones>(words.size());
+  std::vector<WordPhones> phones;
+  std::size_t next = 0;
+  for (const SpokenPiece& piece : zPieces) {
+    phones.push_back(IsWordInSentence(piece) ? std::move(ofWords[next++]) : WordPhones());
+    if (piece.kind == Kind::Letter) {
+      phones.back() = LetterName(piece.text);
+    }
+  }
+  return phones;
+}
+
+using PieceIterator = std::vector<SpokenPiece>::const_iterator;
+
+/// Where the sentence that begins at `zFrom` ends, or as much of it as the source takes at once.
+PieceIterator EndOfSentence(PieceIterator zFrom, PieceIterator zEnd) {
+  const auto limit = zFrom + std::min<std::ptrdiff_t>(zEnd - zFrom, PhoneSource::MaxWords);
+  const auto isSentence = [](const SpokenPiece& p) { return p.kind == Kind::Sentence; };
+  const auto found = std::find_if(zFrom, limit, isSentence);
+  return found == limit ? limit : found + 1;
+}
+
+/// The word as its vowels are compared with its phones: letters alone.
+std::string SpellingOf(const SpokenPiece& zPiece) {
+  std::string spelling = zPiece.text;
+  std::erase(spelling, '\'');
+  return spelling;
+}
+
+}  // namespace
+
+EnglishReader::EnglishReader(PhoneSource& zSource, const CodeTable& zCodeTable)
+    : source_(zSource), codeTable_(zCodeTable) {}
+
+std::string EnglishReader::Mnemonics(const WordPhones& zPhones, std::string_view zSpelling,
+                                     std::string_view zSeparator) const {
+  std::string mnemonics;
+  for (const Sound sound : SoundsOfWord(zPhones, zSpelling)) {
+    mnemonics.append(mnemonics.empty() ? "" : zSeparator);
+    mnemonics += codeTable_.GetCodeMnemonic(static_cast<std::uint8_t>(sound));
+  }
+  return mnemonics;
+}
+
+/// The Say Data of each piece, empty for a word without a reading.
+std::vector<std::string> EnglishReader::PieceSounds(const std::vector<SpokenPiece>& zPieces,
+                                                    std::string_view zSeparator) const {
+  std::vector<std::string> sounds;
+  for (auto from = zPieces.begin(); from != zPieces.end();) {
+    const auto to = EndOfSentence(from, zPieces.end());
+    const std::vector<WordPhones> phones = SentencePhones(source_, {from, to});
+    for (std::size_t i = 0; i < phones.size(); ++i, ++from) {
+      const bool isSpoken = from->kind == Kind::Word || from->kind == Kind::Letter;
+      sounds.push_back(isSpoken ? Mnemonics(phones[i], SpellingOf(*from), zSeparator) : from->text);
+    }
+  }
+  return sounds;
+}
+
+EnglishReading EnglishReader::ReadText(std::string_view zText, const SayDataWords& zWords) const {
+  SpokenText spoken = NormalizeEnglish(zText, zWords);
+  const std::vector<std::string> sounds = PieceSounds(spoken.pieces, "");
+  EnglishReading reading{"", std::move(spoken.unread)};
+  std::string& sayData = reading.sayData;
+  for (std::size_t i = 0; i < sounds.size(); ++i) {
+    const SpokenPiece& piece = spoken.pieces[i];
+    if (piece.kind == Kind::Clause) {
+      sayData += ',';
+      continue;
+    }
+    const std::string_view sound =
+        piece.kind == Kind::Sentence ? SentencePause : std::string_view(sounds[i]);
+    if (sound.empty()) {
+      reading.unread.push_back(piece.text);
+      continue;
+    }
+    sayData.append(sayData.empty() ? "" : " ").append(sound);
+  }
+  return reading;
+}
+
+std::string EnglishReader::ReadWord(std::string_view zWord) const {
+  const auto never = [](std::string_view) { return false; };
+  const SpokenText spoken = NormalizeEnglish(zWord, {never, never});
+  std::string entry;
+  for (const std::string& sounds : PieceSounds(spoken.pieces, " ")) {
+    entry.append(entry.empty() || sounds.empty() ? "" : " ").append(sounds);
+  }
+  return entry.size() > DictionaryStore::MaxEntry ? std::string() : entry;
+}
+
+}  // namespace loquitor

@@ -1,0 +1,357 @@
+#include "english/normalizer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/say_data_runs.h"
+#include "english/abbreviations.h"
+#include "english/number_reading.h"
+#include "english/phone_source.h"
+#include "english/plain_text.h"
+#include "text/letters.h"
+#include "text/words.h"
+
+namespace loquitor {
+
+namespace {
+
+using Kind = SpokenPiece::Kind;
+
+/// Walks the plain text from its start to its end. Each Read routine reads what is at `at_` and
+/// moves past it.
+class Normalizer {
+ public:
+  Normalizer(PlainText zPlain, const SayDataWords& zWords)
+      : text_(std::move(zPlain.text)), words_(zWords) {
+    spoken_.unread = std::move(zPlain.unread);
+  }
+
+  SpokenText Normalize() {
+    while (at_ < text_.size()) {
+      ReadNext();
+    }
+    return std::move(spoken_);
+  }
+
+ private:
+  char At(std::size_t zSteps = 0) const {
+    return at_ + zSteps < text_.size() ? text_[at_ + zSteps] : '\0';
+  }
+  char Before() const { return at_ > 0 ? text_[at_ - 1] : ' '; }
+  std::string_view Rest() const { return std::string_view(text_).substr(at_); }
+
+  void ReadNext() {
+    if (At() == '\\') {
+      ReadMnemonic();
+    } else if (IsNameCharacter(At()) && !IsNameCharacter(Before()) && ReadEntryWithDigits()) {
+    } else if (StartsWithNumber(Rest())) {
+      const NumberReading reading = ReadNumber(Rest());
+      AddWords(reading.words);
+      at_ += reading.size;
+    } else if (IsLetter(At())) {
+      ReadLetters();
+    } else {
+      ReadSymbol();
+    }
+  }
+
+  // Pieces
+
+  void Add(Kind zKind, std::string_view zText) {
+    spoken_.pieces.push_back({zKind, std::string(zText)});
+  }
+
+  /// Nothing is paused for at the beginning; of two pauses the longer one counts.
+  void AddPause(Kind zKind) {
+    if (spoken_.pieces.empty()) {
+      return;
+    }
+    SpokenPiece& last = spoken_.pieces.back();
+    if (last.kind != Kind::Clause && last.kind != Kind::Sentence) {
+      Add(zKind, {});
+    } else if (zKind == Kind::Sentence) {
+      last.kind = zKind;
+    }
+  }
+
+  /// Words of the program's own, as in NumberReading.
+  void AddWords(std::string_view zWords) {
+    ForEachWord(zWords, [this](std::string_view zWord) {
+      if (zWord == ",") {
+        AddPause(Kind::Clause);
+      } else if (zWord.size() == 1 && IsCapital(zWord[0])) {
+        AddLetters(zWord);
+      } else {
+        AddWord(zWord);
+      }
+    });
+  }
+
+  void AddWord(std::string_view zWord) {
+    const bool hasApostrophe = zWord.find('\'') != std::string_view::npos;
+    if (!hasApostrophe && words_.hasEntry(zWord)) {
+      Add(Kind::Entry, zWord);
+      return;
+    }
+    for (; zWord.size() > PhoneSource::MaxWordLength;
+         zWord.remove_prefix(PhoneSource::MaxWordLength)) {
+      AddWordPart(zWord.substr(0, PhoneSource::MaxWordLength));
+    }
+    AddWordPart(zWord);
+  }
+
+  void AddWordPart(std::string_view zWord) {
+    if (std::any_of(zWord.begin(), zWord.end(), IsLetter)) {
+      Add(Kind::Word, ToLower(zWord));
+    }
+  }
+
+  void AddLetters(std::string_view zLetters) {
+    for (const char letter : zLetters) {
+      Add(Kind::Letter, std::string(1, LowerCase(letter)));
+    }
+  }
+
+  // Say Data in the text
+
+  void ReadMnemonic() {
+    const std::size_t start = at_++;
+    SkipWhile(IsNameCharacter);
+    const std::string_view mnemonic = Since(start);
+    const bool isJoined = start > 0 && IsNameCharacter(text_[start - 1]);
+    if (!words_.isMnemonic(mnemonic)) {
+      spoken_.unread.emplace_back(mnemonic);
+    } else if (isJoined && !spoken_.pieces.empty() &&
+               spoken_.pieces.back().kind == Kind::Mnemonic) {
+      spoken_.pieces.back().text += mnemonic;
+    } else {
+      Add(Kind::Mnemonic, mnemonic);
+    }
+  }
+
+  /// A word of the dictionary with digits in it, such as R2D2 or 100.
+  bool ReadEntryWithDigits() {
+    const std::size_t start = at_;
+    SkipWhile(IsNameCharacter);
+    const std::string_view word = Since(start);
+    const bool hasOther = !std::all_of(word.begin(), word.end(), IsLetter);
+    if (hasOther && words_.hasEntry(word)) {
+      Add(Kind::Entry, word);
+      return true;
+    }
+    at_ = start;
+    return false;
+  }
+
+  template <typename Class>
+  void SkipWhile(Class zIsOne) {
+    while (at_ < text_.size() && zIsOne(text_[at_])) {
+      ++at_;
+    }
+  }
+  std::string_view Since(std::size_t zStart) const {
+    return std::string_view(text_).substr(zStart, at_ - zStart);
+  }
+
+  // Words
+
+  void ReadLetters() {
+    if (ReadDottedLetters()) {
+      return;
+    }
+    const std::string_view word = TakeLetters();
+    if (word.find('\'') != std::string_view::npos) {
+      ReadApostropheWord(word);
+    } else if (!ReadAbbreviation(word)) {
+      ReadPlainWord(word);
+    }
+  }
+
+  /// Letters, and apostrophes between two of them.
+  std::string_view TakeLetters() {
+    const std::size_t start = at_;
+    while (IsLetter(At()) || (At() == '\'' && at_ > start && IsLetter(At(1)))) {
+      ++at_;
+    }
+    return Since(start);
+  }
+
+  /// Whether a letter with a period is `zSteps` from here.
+  bool IsDottedLetter(std::size_t zSteps) const {
+    return IsLetter(At(zSteps)) && At(zSteps + 1) == '.';
+  }
+
+  /// U.S.A., e.g.: single letters, each with its period.
+  bool ReadDottedLetters() {
+    if (IsNameCharacter(Before()) || !IsDottedLetter(0) || !IsDottedLetter(2)) {
+      return false;
+    }
+    std::string letters;
+    for (; IsDottedLetter(0); at_ += 2) {
+      letters += At();
+    }
+    const Abbreviation* const known = FindAbbreviation(letters, {true, false, false});
+    known != nullptr ? AddWords(known->words) : AddLetters(letters);
+    if (EndsSentenceHere()) {
+      AddPause(Kind::Sentence);
+    }
+    return true;
+  }
+
+  /// Whether a period that belongs to the word before ends the sentence, too.
+  bool EndsSentenceHere() const {
+    return at_ >= text_.size() || At() == '\n' ||
+           (At() == ' ' && (At(1) == '\0' || IsCapital(At(1))));
+  }
+
+  bool ReadAbbreviation(std::string_view zWord) {
+    const bool hasPeriod = At() == '.';
+    const std::size_t next = hasPeriod ? 1 : 0;
+    const bool hasBlank = At(next) == ' ';
+    const char first = At(next + (hasBlank ? 1 : 0));
+    const Abbreviation* const found =
+        FindAbbreviation(zWord, {hasPeriod, IsDigit(first), hasBlank && IsCapital(first)});
+    if (found == nullptr || words_.hasEntry(zWord)) {
+      return false;
+    }
+    at_ += next;
+    AddWords(found->words);
+    if (hasPeriod && found->mayEndSentence && EndsSentenceHere()) {
+      AddPause(Kind::Sentence);
+    }
+    return true;
+  }
+
+  void ReadApostropheWord(std::string_view zWord) {
+    const std::string_view stem = zWord.substr(0, zWord.find('\''));
+    const bool isPlural = zWord.substr(stem.size()) == "'s" || zWord.substr(stem.size()) == "'S";
+    if (isPlural && IsSpelled(stem)) {
+      AddSpelledPlural(stem);
+    } else {
+      AddWord(zWord);
+    }
+  }
+
+  /// In capitals or without a vowel.
+  static bool IsSpelled(std::string_view zWord) {
+    const bool isOneCapital = zWord.size() == 1 && IsCapital(zWord[0]);
+    return isOneCapital || IsSpelledOut(zWord);
+  }
+
+  void AddSpelledPlural(std::string_view zWord) {
+    AddLetters(zWord);
+    spoken_.pieces.back().text += 's';
+  }
+
+  void ReadPlainWord(std::string_view zWord) {
+    const std::string_view stem = zWord.substr(0, zWord.size() - 1);
+    const bool isPlural =
+        zWord.ends_with('s') && stem.size() > 1 && std::all_of(stem.begin(), stem.end(), IsCapital);
+    if (words_.hasEntry(zWord)) {
+      Add(Kind::Entry, zWord);
+    } else if (zWord.size() == 1) {
+      ReadSingleLetter(zWord);
+    } else if (const std::string_view number = RomanNumeralWords(zWord); !number.empty()) {
+      AddWords(number);
+    } else if (isPlural && IsSpelledOut(stem)) {
+      AddSpelledPlural(stem);
+    } else if (IsSpelledOut(zWord)) {
+      AddLetters(zWord);
+    } else {
+      ReadHumps(zWord);
+    }
+  }
+
+  /// A and I are words, unless the A is the letter itself, as in vitamin A.
+  void ReadSingleLetter(std::string_view zLetter) {
+    const char letter = LowerCase(zLetter[0]);
+    const bool isBeforeWord = At() == ' ' && (IsLetter(At(1)) || IsDigit(At(1)) || At(1) == '"');
+    const bool isWord = letter == 'i' || (letter == 'a' && (zLetter[0] == 'a' || isBeforeWord));
+    isWord ? AddWord(zLetter) : AddLetters(zLetter);
+  }
+
+  /// Splits WiFi and YouTube at their humps, but not McDonald.
+  void ReadHumps(std::string_view zWord) {
+    std::size_t start = 0;
+    for (std::size_t i = 1; i < zWord.size(); ++i) {
+      const std::string_view hump = zWord.substr(start, i - start);
+      const bool isHump = IsCapital(zWord[i]) && !IsCapital(zWord[i - 1]);
+      if (isHump && hump != "Mc" && hump != "Mac") {
+        ReadHump(hump);
+        start = i;
+      }
+    }
+    ReadHump(zWord.substr(start));
+  }
+
+  void ReadHump(std::string_view zWord) {
+    const bool isLetter = zWord.size() == 1 && LowerCase(zWord[0]) != 'a';
+    isLetter || IsSpelledOut(zWord) ? AddLetters(zWord) : AddWord(zWord);
+  }
+
+  // Symbols
+
+  void ReadSymbol() {
+    const char symbol = At();
+    const std::size_t start = at_;
+    SkipWhile([symbol](char zCharacter) { return zCharacter == symbol; });
+    const std::size_t count = at_ - start;
+    const char before = start > 0 ? text_[start - 1] : ' ';
+    const auto isOneOf = [symbol](std::string_view zSymbols) {
+      return zSymbols.find(symbol) != std::string_view::npos;
+    };
+    if (symbol == '.') {
+      ReadPeriods(count, before);
+    } else if (symbol == '-') {
+      ReadHyphens(count, before);
+    } else if (isOneOf("!?\n")) {
+      AddPause(Kind::Sentence);
+    } else if (isOneOf(",;:()[]{}")) {
+      AddPause(Kind::Clause);
+    } else if (!isOneOf(" \"'`_")) {
+      ReadNamedSymbol(symbol, count, before);
+    }
+  }
+
+  void ReadPeriods(std::size_t zCount, char zBefore) {
+    const bool isInName = zCount == 1 && IsNameCharacter(zBefore) && IsNameCharacter(At());
+    isInName ? AddWord("dot") : AddPause(Kind::Sentence);
+  }
+
+  /// Minus before a number, a pause as a dash, nothing within a word.
+  void ReadHyphens(std::size_t zCount, char zBefore) {
+    const bool isOpen = zBefore == ' ' || zBefore == '\n' || zBefore == '(';
+    if (zCount == 1 && isOpen && StartsWithNumber(Rest())) {
+      AddWord("minus");
+    } else if (zCount > 1 || isOpen) {
+      AddPause(Kind::Clause);
+    }
+  }
+
+  /// A row of the same symbol is a ruled line, which is a pause.
+  void ReadNamedSymbol(char zSymbol, std::size_t zCount, char zBefore) {
+    constexpr std::size_t ShortestRule = 3;
+    if (zCount >= ShortestRule) {
+      AddPause(Kind::Sentence);
+      return;
+    }
+    const bool isBetweenNumbers = IsDigit(At(At() == ' ' ? 1 : 0));
+    const bool isTimes = zSymbol == '*' && isBetweenNumbers && (IsDigit(zBefore) || zBefore == ' ');
+    for (std::size_t i = 0; i < zCount; ++i) {
+      AddWords(isTimes ? "times" : SymbolName(zSymbol));
+    }
+  }
+
+  std::string text_;
+  const SayDataWords& words_;
+  std::size_t at_ = 0;
+  SpokenText spoken_;
+};
+
+}  // namespace
+
+SpokenText NormalizeEnglish(std::string_view zText, const SayDataWords& zWords) {
+  return Normalizer(ToPlainText(zText), zWords).Normalize();
+}
+
+}  // namespace loquitor

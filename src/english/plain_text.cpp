@@ -1,0 +1,266 @@
+#include "english/plain_text.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <iterator>
+#include <utility>
+
+namespace loquitor {
+
+namespace {
+
+struct Replacement {
+  char32_t character;
+  std::string_view text;
+};
+
+/// By code point. Letters of Latin-1 and Latin Extended-A are in the table below.
+constexpr Replacement Replacements[] = {{0xA2, "\xA2"},
+                                        {0xA3, "\xA3"},
+                                        {0xA5, "\xA5"},
+                                        {0xA7, " section "},
+                                        {0xA9, " copyright "},
+                                        {0xAB, "\""},
+                                        {0xAD, ""},
+                                        {0xAE, " registered "},
+                                        {0xB0, "\xB0"},
+                                        {0xB1, " plus or minus "},
+                                        {0xB2, " squared "},
+                                        {0xB3, " cubed "},
+                                        {0xB4, "'"},
+                                        {0xB5, "\xB5"},
+                                        {0xB7, " "},
+                                        {0xBB, "\""},
+                                        {0xBC, " 1/4 "},
+                                        {0xBD, " 1/2 "},
+                                        {0xBE, " 3/4 "},
+                                        {0xD7, " times "},
+                                        {0xF7, " divided by "},
+                                        {0x02BC, "'"},
+                                        {0x03A9, "Ohm"},
+                                        {0x03BC, "\xB5"},
+                                        {0x03C0, " pi "},
+                                        {0x200B, ""},
+                                        {0x200C, ""},
+                                        {0x200D, ""},
+                                        {0x2010, "-"},
+                                        {0x2011, "-"},
+                                        {0x2012, "-"},
+                                        {0x2013, "-"},
+                                        {0x2014, " - "},
+                                        {0x2015, " - "},
+                                        {0x2018, "'"},
+                                        {0x2019, "'"},
+                                        {0x201A, "'"},
+                                        {0x201B, "'"},
+                                        {0x201C, "\""},
+                                        {0x201D, "\""},
+                                        {0x201E, "\""},
+                                        {0x201F, "\""},
+                                        {0x2022, " - "},
+                                        {0x2026, "... "},
+                                        {0x2032, "'"},
+                                        {0x2033, "\""},
+                                        {0x2039, "'"},
+                                        {0x203A, "'"},
+                                        {0x2044, "/"},
+                                        {0x20AC, "\x80"},
+                                        {0x2103,
+                                         "\xB0"
+                                         "C"},
+                                        {0x2109,
+                                         "\xB0"
+                                         "F"},
+                                        {0x2122, " trademark "},
+                                        {0x2126, "Ohm"},
+                                        {0x2212, "-"},
+                                        {0x2248, " about "},
+                                        {0x2260, " is not "},
+                                        {0x2264, " at most "},
+                                        {0x2265, " at least "},
+                                        {0xFB00, "ff"},
+                                        {0xFB01, "fi"},
+                                        {0xFB02, "fl"},
+                                        {0xFB03, "ffi"},
+                                        {0xFB04, "ffl"},
+                                        {0xFE0F, ""},
+                                        {0xFEFF, ""}};
+
+/// The plain letters of U+00C0 to U+017F, each followed by a blank. A lone hyphen: none.
+constexpr std::string_view LatinLetters =
+    "A A A A A A AE C E E E E I I I I D N O O O O O - O U U U U Y Th ss "
+    "a a a a a a ae c e e e e i i i i d n o o o o o - o u u u u y th y "
+    "A a A a A a C c C c C c C c D d D d E e E e E e E e E e G g G g G g G g H h H h "
+    "I i I i I i I i I i IJ ij J j K k k L l L l L l L l L l N n N n N n n N n "
+    "O o O o O o OE oe R r R r R r S s S s S s S s T t T t T t U u U u U u U u U u U u "
+    "W w Y y Y Z z Z z Z z s ";
+constexpr char32_t FirstLatinLetter = 0xC0;
+
+/// The code points of the bytes 0x80 to 0x9F of Windows-1252. Source: the code page's chart; the
+/// five unassigned bytes are themselves.
+constexpr char32_t HighControls[] = {
+    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+bool IsBetween(char32_t zCharacter, char32_t zFirst, char32_t zLast) {
+  return zCharacter >= zFirst && zCharacter <= zLast;
+}
+
+char32_t FromWindows1252(std::uint8_t zByte) {
+  return IsBetween(zByte, 0x80, 0x9F) ? HighControls[zByte - 0x80] : zByte;
+}
+
+/// A character of a text and how many bytes it takes there.
+struct Decoded {
+  char32_t character;
+  std::size_t size;
+};
+
+/// The first character of `zText`, which is not empty. Source: RFC 3629, section 3.
+Decoded DecodeFirst(std::string_view zText) {
+  const auto byte = [zText](std::size_t i) { return static_cast<std::uint8_t>(zText[i]); };
+  const std::uint8_t first = byte(0);
+  const std::size_t size = first < 0x80 ? 1 : first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+  constexpr char32_t Smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+  char32_t character = size == 1 ? first : first & (0xFFU >> (size + 1));
+  bool isWhole = first < 0x80 || (IsBetween(first, 0xC2, 0xF4) && size <= zText.size());
+  for (std::size_t i = 1; isWhole && i < size; ++i) {
+    isWhole = (byte(i) & 0xC0) == 0x80;
+    character = (character << 6) | (byte(i) & 0x3FU);
+  }
+  isWhole = isWhole && character >= Smallest[size] && character <= 0x10FFFF &&
+            !IsBetween(character, 0xD800, 0xDFFF);
+  return isWhole ? Decoded{character, size} : Decoded{FromWindows1252(first), 1};
+}
+
+void AppendUtf8(std::string& zText, char32_t zCharacter) {
+  const auto add = [&zText](char32_t zByte) { zText += static_cast<char>(zByte); };
+  if (zCharacter < 0x80) {
+    add(zCharacter);
+  } else if (zCharacter < 0x800) {
+    add(0xC0 | (zCharacter >> 6));
+  } else if (zCharacter < 0x10000) {
+    add(0xE0 | (zCharacter >> 12));
+    add(0x80 | ((zCharacter >> 6) & 0x3F));
+  } else {
+    add(0xF0 | (zCharacter >> 18));
+    add(0x80 | ((zCharacter >> 12) & 0x3F));
+    add(0x80 | ((zCharacter >> 6) & 0x3F));
+  }
+  if (zCharacter >= 0x80) {
+    add(0x80 | (zCharacter & 0x3F));
+  }
+}
+
+/// The letters of LatinLetters, by their code point less FirstLatinLetter.
+std::vector<std::string_view> LatinLetterTable() {
+  std::vector<std::string_view> table;
+  for (std::string_view rest = LatinLetters; !rest.empty();) {
+    const std::size_t end = rest.find(' ');
+    table.push_back(rest.substr(0, end));
+    rest.remove_prefix(end + 1);
+  }
+  return table;
+}
+
+/// The text to read for `zCharacter`, of U+0080 or above; null when it has no reading.
+const std::string_view* ReplacementOf(char32_t zCharacter) {
+  static const std::vector<std::string_view> latin = LatinLetterTable();
+  static constexpr std::string_view Nothing;
+  static constexpr std::string_view Blank = " ";
+  const auto* const found =
+      std::lower_bound(std::begin(Replacements), std::end(Replacements), zCharacter,
+                       [](const Replacement& r, char32_t c) { return r.character < c; });
+  if (found != std::end(Replacements) && found->character == zCharacter) {
+    return &found->text;
+  }
+  if (IsBetween(zCharacter, FirstLatinLetter,
+                static_cast<char32_t>(FirstLatinLetter + latin.size() - 1))) {
+    return &latin[zCharacter - FirstLatinLetter];
+  }
+  if (IsBetween(zCharacter, 0x300, 0x36F)) {  // combining accents
+    return &Nothing;
+  }
+  const bool isBlank = zCharacter == 0xA0 || IsBetween(zCharacter, 0x2000, 0x200A) ||
+                       zCharacter == 0x2028 || zCharacter == 0x2029 || zCharacter == 0x202F ||
+                       zCharacter == 0x3000;
+  return isBlank ? &Blank : nullptr;
+}
+
+class PlainTextMaker {
+ public:
+  PlainText Make(std::string_view zText) {
+    while (!zText.empty()) {
+      const Decoded decoded = DecodeFirst(zText);
+      Take(decoded.character);
+      zText.remove_prefix(decoded.size);
+    }
+    return std::move(plain_);
+  }
+
+ private:
+  void Take(char32_t zCharacter) {
+    if (IsBetween(zCharacter, 0xFF01, 0xFF5E)) {  // full-width forms of ASCII
+      zCharacter -= 0xFF01 - '!';
+    }
+    const bool isBlank = zCharacter == ' ' || IsBetween(zCharacter, '\t', '\r');
+    if (isBlank) {
+      TakeBlank(zCharacter == '\n');
+    } else if (IsBetween(zCharacter, '!', '~')) {
+      Append(static_cast<char>(zCharacter));
+    } else if (const std::string_view* text =
+                   zCharacter < 0x80 ? nullptr : ReplacementOf(zCharacter)) {
+      for (const char character : *text) {
+        character == ' ' ? TakeBlank(false) : Append(character);
+      }
+    } else {
+      Miss(zCharacter);
+      return;
+    }
+    isMissing_ = false;
+  }
+
+  void TakeBlank(bool zIsLineBreak) {
+    if (zIsLineBreak && isLineEmpty_ && !plain_.text.empty() && plain_.text.back() == ' ') {
+      plain_.text.back() = '\n';
+    }
+    isLineEmpty_ = isLineEmpty_ || zIsLineBreak;
+    if (!plain_.text.empty() && plain_.text.back() != ' ' && plain_.text.back() != '\n') {
+      plain_.text += ' ';
+    }
+  }
+
+  void Append(char zCharacter) {
+    plain_.text += zCharacter;
+    isLineEmpty_ = false;
+  }
+
+  void Miss(char32_t zCharacter) {
+    TakeBlank(false);
+    if (!isMissing_) {
+      plain_.unread.emplace_back();
+    }
+    isMissing_ = true;
+    if (zCharacter < 0x20 || IsBetween(zCharacter, 0x7F, 0x9F)) {
+      char name[8];
+      std::snprintf(name, sizeof name, "U+%04X", static_cast<unsigned>(zCharacter));
+      plain_.unread.back() += name;
+    } else {
+      AppendUtf8(plain_.unread.back(), zCharacter);
+    }
+  }
+
+  PlainText plain_;
+  bool isLineEmpty_ = false;  ///< whether only blanks follow the last line break
+  bool isMissing_ = false;    ///< whether the character before had no reading
+};
+
+}  // namespace
+
+PlainText ToPlainText(std::string_view zText) {
+  return PlainTextMaker().Make(zText);
+}
+
+}  // namespace loquitor

@@ -1,0 +1,99 @@
+#include "english/pronunciation.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace loquitor {
+
+namespace {
+
+struct KnownWord {
+  std::string_view word;
+  std::string_view phones;
+};
+
+/// What a source that drops apostrophes takes for another word, or reads letter by letter.
+constexpr KnownWord KnownWords[] = {
+    {"a", "ax"},
+    {"ain't", "ey1 n t"},
+    {"brr", "b er1"},
+    {"can't", "k ae1 n t"},
+    {"don't", "d ow1 n t"},
+    {"grr", "g er1"},
+    {"he'll", "hh iy1 l"},
+    {"hm", "hh ah1 m"},
+    {"hmm", "hh ah1 m"},
+    {"i'll", "ay1 l"},
+    {"mm", "m"},
+    {"mustn't", "m ah1 s ax n t"},
+    {"nth", "eh1 n th"},
+    {"psst", "p s t"},
+    {"pst", "p s t"},
+    {"sh", "sh"},
+    {"shan't", "sh ae1 n t"},
+    {"she'll", "sh iy1 l"},
+    {"shh", "sh"},
+    {"thirty", "th er1 t iy"},
+    {"tis", "t ih1 z"},
+    {"tsk", "t ih1 s k"},
+    {"we'll", "w iy1 l"},
+    {"we're", "w iy1 r"},
+    {"won't", "w ow1 n t"},
+    {"zzz", "z"},
+};
+
+constexpr std::string_view Not = "n't";
+
+const KnownWord* FindKnown(std::string_view zWord) {
+  const auto* const found =
+      std::find_if(std::begin(KnownWords), std::end(KnownWords),
+                   [zWord](const KnownWord& zKnown) { return zKnown.word == zWord; });
+  return found == std::end(KnownWords) ? nullptr : found;
+}
+
+bool IsContractedNot(std::string_view zWord) {
+  return zWord.size() > Not.size() && zWord.ends_with(Not) && FindKnown(zWord) == nullptr;
+}
+
+/// The word to ask the source for in place of `zWord`.
+std::string AskedWord(const std::string& zWord) {
+  return IsContractedNot(zWord) ? zWord.substr(0, zWord.size() - Not.size()) : zWord;
+}
+
+/// Puts right what the source says of `zWord`.
+void Correct(const std::string& zWord, WordPhones& zPhones) {
+  if (const KnownWord* const known = FindKnown(zWord)) {
+    zPhones = PhonesFromText(known->phones);
+  } else if (IsContractedNot(zWord)) {
+    const bool isAfterR =
+        !zPhones.empty() && (zPhones.back().phone == Phone::R || zPhones.back().phone == Phone::ER);
+    const WordPhones ending = PhonesFromText(isAfterR ? "n t" : "ax n t");
+    zPhones.insert(zPhones.end(), ending.begin(), ending.end());
+  }
+}
+
+}  // namespace
+
+std::vector<WordPhones> Pronounce(PhoneSource& zSource, std::span<const std::string> zWords) {
+  std::vector<WordPhones> phones;
+  for (std::size_t start = 0; start < zWords.size(); start += PhoneSource::MaxWords) {
+    std::vector<std::string> asked;
+    const std::size_t count = std::min(PhoneSource::MaxWords, zWords.size() - start);
+    for (const std::string& word : zWords.subspan(start, count)) {
+      asked.push_back(AskedWord(word));
+    }
+    for (WordPhones& word : zSource.PhonesOf(asked)) {
+      phones.push_back(std::move(word));
+    }
+  }
+  for (std::size_t i = 0; i < phones.size(); ++i) {
+    Correct(zWords[i], phones[i]);
+  }
+  return phones;
+}
+
+WordPhones PronounceWord(PhoneSource& zSource, const std::string& zWord) {
+  return Pronounce(zSource, std::span(&zWord, 1)).front();
+}
+
+}  // namespace loquitor

@@ -1,0 +1,167 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "files/settings_file.h"
+#include "line/send_queue.h"
+#include "line/serial_port.h"
+
+namespace loquitor {
+
+/// What the port box shows.
+enum class PortState { Closed, Open, Failed };
+
+/// Whether the user's clicks, keys and wheel are handled now or stay in the queue for later.
+enum class UserInput { Now, Later };
+
+/// What the sender needs of the program around it: the main window, loquitor-say, or a test.
+/// line/qt/event_turns.h has the last three for programs with a Qt event loop.
+class SenderHost {
+ public:
+  virtual ~SenderHost() = default;
+
+  /// The device of the port number that the user has chosen; empty when there is none. See
+  /// port_numbers.h.
+  virtual std::string PortDevice() const = 0;
+
+  /// Whether the flow control check box is ticked.
+  virtual bool IsFlowControlTicked() const = 0;
+
+  /// Shows the state of the port: white, green or red.
+  virtual void ShowPortState(PortState zState) = 0;
+
+  /// Asks whether a phrase of more than 64 codes is sent without flow control. True for Yes.
+  virtual bool ConfirmLongPhrase() = 0;
+
+  /// The closing timer of the main window. When it fires the host calls
+  /// CodeSender::CloseSerialPort.
+  virtual void StopClosingTimer() = 0;
+  virtual void StartClosingTimer(int zMilliseconds) = 0;
+
+  /// Handles the events that are pending and returns.
+  virtual void LetEventsRun(UserInput zInput) = 0;
+
+  /// Waits for events and handles them: returns after the first ones, and after a few milliseconds
+  /// at the latest. Used while the port cannot take a byte.
+  virtual void WaitForEvents(UserInput zInput) = 0;
+
+  /// While ticking is on the host calls CodeSender::Tick every few milliseconds out of its event
+  /// loop, also out of the loop of a modal window or message box.
+  virtual void SetTicking(bool zIsOn) = 0;
+};
+
+/// Names one send, so that its owner can ask about it later.
+class SendTicket {
+ public:
+  /// Names no send.
+  SendTicket() = default;
+
+ private:
+  friend class CodeSender;
+  explicit SendTicket(std::size_t zNumber) : number_(zNumber) {}
+
+  std::size_t number_ = 0;
+};
+
+/// Sends everything that goes to the chip. Opens the port on demand, writes bytes one at a time and
+/// lets the user interface run between them. All calls are made on one thread. Every call may be
+/// made from the events that run during a send.
+///
+/// A send that starts during another one replaces the rest of that one: the bytes of the new send
+/// go out, then the older send finds nothing left and ends.
+///
+/// Sends nest up to a fixed depth, so that dragging a bar on a slow line does not exhaust the
+/// stack. A send beyond that depth handles no user input while it writes. It first finishes a
+/// command string that has begun. After 0.2 s it hands its remaining bytes to the innermost send
+/// that still accepts user input, so a line that takes no bytes does not lock the user out. Bytes
+/// that are handed over in the same turn of the event loop stay together; see SendQueue::Add.
+class CodeSender {
+ public:
+  /// All three outlive the sender.
+  CodeSender(SerialPort& zPort, SenderHost& zHost, const SettingsFile& zSettings);
+  ~CodeSender();
+  CodeSender(const CodeSender&) = delete;
+  CodeSender& operator=(const CodeSender&) = delete;
+
+  /// Sends `zCodes`, one byte a character, exactly as given. `zIsPhrase`: true for spoken code
+  /// strings (long-phrase question, hardware flow control), false for command strings. `zTicket`:
+  /// set to this send before its first byte, unless the user declines the long phrase. Returns when
+  /// the bytes have left for the line, or the rest was replaced or cleared. A port that cannot be
+  /// opened, or fails during the send, ends the send and shows red; see HasFailed.
+  void SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase, SendTicket* zTicket = nullptr);
+
+  /// Drops the rest of a send under way and sends StopSequence.
+  void ShutUp();
+
+  /// Closes the port if it is open and shows it closed; else does nothing (a red box stays red).
+  /// A send under way ends.
+  void CloseSerialPort();
+
+  /// Empties PendingOutput, so that a send under way ends after the byte that it is writing.
+  void ClearPendingOutput() { queue_.Clear(); }
+
+  /// The bytes of the present send that are not yet written. Valid until the next call.
+  std::string_view PendingOutput() const { return queue_.Bytes(); }
+
+  /// Writes the next byte while the loop of a send is held up by a modal window that was opened
+  /// during it. Does nothing when no byte is pending or the port is not ready.
+  void Tick();
+
+  /// True while a send is under way, or several that nest.
+  bool IsSending() const { return depth_ > 0; }
+
+  /// True while the send `zTicket` is under way and no other send has begun since.
+  bool IsUnderWay(SendTicket zTicket) const {
+    return zTicket.number_ != 0 && zTicket.number_ == current_;
+  }
+
+  /// True when the last send found no open port, or the port has failed since.
+  bool HasFailed() const { return failure_.error != PortError::None; }
+
+  /// Why; with PortError::None when HasFailed is false.
+  const PortFailure& Failure() const { return failure_; }
+
+ private:
+  friend class UserInputHold;
+
+  bool OpenSerialPort(bool zIsPhrase);
+  PortFailure TryToOpen(bool zIsPhrase);
+  bool IsRefused(std::string_view zCodes, bool zIsPhrase);
+  void WriteWithoutUserInput();
+  void WritePendingOutput();
+  void TakeTurn(UserInput zInput);
+  bool IsDone() const;
+  void WriteNextByte();
+  void OnPortFailed();
+
+  SerialPort& port_;
+  SenderHost& host_;
+  const SettingsFile& settings_;
+  SendQueue queue_;
+  std::size_t sendCount_ = 0;  // how many sends have begun
+  std::size_t current_ = 0;    // the latest of them while it is under way
+  int depth_ = 0;              // how many of them are under way
+  int inputHolds_ = 0;         // how many UserInputHolds there are
+  bool isLineSlow_ = false;    // the user has waited long enough, and no byte has left since
+  bool isPortShownOpen_ = false;
+  PortFailure failure_;
+  std::string device_;  // opened last
+};
+
+/// While one lives, sends handle no user input: the user's clicks, keys and wheel wait in the
+/// queue.
+class UserInputHold {
+ public:
+  /// `zSender` outlives it.
+  explicit UserInputHold(CodeSender& zSender) : sender_(zSender) { ++sender_.inputHolds_; }
+  ~UserInputHold() { --sender_.inputHolds_; }
+  UserInputHold(const UserInputHold&) = delete;
+  UserInputHold& operator=(const UserInputHold&) = delete;
+
+ private:
+  CodeSender& sender_;
+};
+
+}  // namespace loquitor

@@ -1,0 +1,136 @@
+#include "line/port_numbers.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+#include <string_view>
+#include <system_error>
+
+namespace loquitor {
+
+namespace {
+
+constexpr int HighestListed = 255;
+
+#ifdef _WIN32
+bool IsDeviceName(std::string_view zText) {
+  return zText.starts_with("COM") || zText.starts_with("com") || zText.starts_with("\\\\");
+}
+
+std::string DeviceWithoutEntry(int zNumber, const std::vector<SerialDevice>&) {
+  return "COM" + std::to_string(zNumber);
+}
+#else
+bool IsDeviceName(std::string_view) {
+  return false;
+}
+
+std::string DeviceWithoutEntry(int zNumber, const std::vector<SerialDevice>& zPresent) {
+  const auto index = static_cast<std::size_t>(zNumber) - 1;
+  if (index >= zPresent.size()) {
+    return {};
+  }
+  return zPresent[index].path;
+}
+#endif
+
+const SerialDevice* Find(std::string_view zPathOrName, const std::vector<SerialDevice>& zPresent) {
+  const auto found =
+      std::find_if(zPresent.begin(), zPresent.end(), [&](const SerialDevice& zDevice) {
+        return zDevice.path == zPathOrName || zDevice.name == zPathOrName;
+      });
+  return found == zPresent.end() ? nullptr : &*found;
+}
+
+/// The device that `zDevice` is, or links to.
+const SerialDevice* FindTarget(const std::string& zDevice,
+                               const std::vector<SerialDevice>& zPresent) {
+  if (const SerialDevice* device = Find(zDevice, zPresent)) {
+    return device;
+  }
+  std::error_code error;  // of a device that does not exist, or a system without such paths
+  return Find(std::filesystem::canonical(zDevice, error).string(), zPresent);
+}
+
+std::string EntryOf(int zNumber, const SettingsFile& zSettings) {
+  return zSettings.GetIniValue("Ports", std::to_string(zNumber), "");
+}
+
+std::string DeviceOfEntry(const std::string& zEntry, const SettingsFile& zSettings,
+                          const std::vector<SerialDevice>& zPresent) {
+  if (const SerialDevice* device = Find(zEntry, zPresent)) {
+    return device->path;
+  }
+  if (IsDeviceName(zEntry)) {
+    return zEntry;
+  }
+  return (zSettings.Folder() / zEntry).string();
+}
+
+/// The line of port number `zNumber`, which leads to `zDevice`. Empty when there is nothing to say.
+std::string DescribePort(int zNumber, const std::string& zDevice, const SerialDevice* zTarget,
+                         bool zHasEntry) {
+  const std::string line = std::to_string(zNumber) + ":  " + zDevice;
+  if (zTarget != nullptr) {
+    return zTarget->description.empty() ? line : line + "  " + zTarget->description;
+  }
+  std::error_code error;
+  if (std::filesystem::exists(zDevice, error)) {
+    return line;  // for example a pseudo-terminal
+  }
+  return zHasEntry ? line + "  (missing)" : "";
+}
+
+/// The line of a device that no number reaches, because its own number has an entry in [Ports].
+std::string DescribeUnreached(const SerialDevice& zDevice,
+                              const std::vector<SerialDevice>& zPresent) {
+  for (int number = 1; number <= HighestListed; ++number) {
+    if (Find(DeviceWithoutEntry(number, zPresent), zPresent) == &zDevice) {
+      return zDevice.path + " has no number: " + std::to_string(number) + " is taken by [Ports]";
+    }
+  }
+  return zDevice.path + " has no number";
+}
+
+}  // namespace
+
+std::string DeviceForPort(int zNumber, const SettingsFile& zSettings,
+                          const DeviceSearch& zPresent) {
+  if (zNumber < 1) {
+    return {};
+  }
+  const std::string entry = EntryOf(zNumber, zSettings);
+  if (std::filesystem::path(entry).is_absolute()) {
+    return entry;
+  }
+  return entry.empty() ? DeviceWithoutEntry(zNumber, zPresent())
+                       : DeviceOfEntry(entry, zSettings, zPresent());
+}
+
+std::string DescribePorts(const SettingsFile& zSettings,
+                          const std::vector<SerialDevice>& zPresent) {
+  std::string text = "Port numbers and their devices:";
+  const auto addLine = [&text](const std::string& zLine) {
+    text += zLine.empty() ? "" : "\n" + zLine;
+  };
+  std::set<const SerialDevice*> reached;
+  for (int number = 1; number <= HighestListed; ++number) {
+    const std::string device = DeviceForPort(number, zSettings, [&] { return zPresent; });
+    if (!device.empty()) {
+      const SerialDevice* target = FindTarget(device, zPresent);
+      reached.insert(target);
+      addLine(DescribePort(number, device, target, !EntryOf(number, zSettings).empty()));
+    }
+  }
+  for (const SerialDevice& device : zPresent) {
+    addLine(reached.contains(&device) ? "" : DescribeUnreached(device, zPresent));
+  }
+  if (text.find('\n') == std::string::npos) {
+    text =
+        "No serial port is present. Plug in the adapter, or name a device in section\n"
+        "[Ports] of Loquitor.ini, for example 1=/dev/ttyUSB0.";
+  }
+  return text + "\nLoquitor.ini is in " + zSettings.Folder().string();
+}
+
+}  // namespace loquitor

@@ -1,0 +1,58 @@
+#include "say/english_input.h"
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <vector>
+
+#include "english/new_words.h"
+#include "english/unread_text.h"
+
+namespace loquitor {
+
+namespace {
+
+void TellUnread(std::string_view zWhat, const std::vector<std::string>& zUnread) {
+  if (!zUnread.empty()) {
+    std::cerr << "loquitor-say: " << zWhat << DescribeUnread(zUnread) << std::endl;
+  }
+}
+
+std::optional<std::string> ReadWhole(const std::string& zFile) {
+  std::ifstream file(zFile, std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(file), {}};
+  return file ? std::make_optional(std::move(bytes)) : std::nullopt;
+}
+
+}  // namespace
+
+EnglishInput::EnglishInput(const CodeTable& zCodeTable, const DictionaryStore& zDictionary,
+                           const SayDataTranslator& zTranslator)
+    : dictionary_(zDictionary), translator_(zTranslator), source_(CreatePhoneSource()) {
+  if (source_ != nullptr) {
+    reader_.emplace(*source_, zCodeTable);
+  }
+}
+
+std::string EnglishInput::ToSayData(std::string_view zText) const {
+  const EnglishReading reading = reader_->ReadText(zText, WordsOf(dictionary_, translator_));
+  TellUnread("cannot read ", reading.unread);
+  return reading.sayData;
+}
+
+std::optional<std::size_t> EnglishInput::AddWords(const std::string& zFile) {
+  const std::optional<std::string> list = ReadWhole(zFile);
+  if (!list) {
+    complaint_ = "cannot read " + zFile;
+    return std::nullopt;
+  }
+  const NewWords words = SoundOutNewWords(*list, *reader_, WordsOf(dictionary_, translator_));
+  TellUnread("no words of Say Data: ", words.unread);
+  if (!words.entries.empty() && !dictionary_.SaveEntries(words.entries)) {
+    complaint_ = "cannot write " + dictionary_.File().string();
+    return std::nullopt;
+  }
+  return words.entries.size();
+}
+
+}  // namespace loquitor

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+
+namespace loquitor {
+
+/// The default sound output of the system, playing for as long as this object lives.
+class AudioDevice {
+ public:
+  /// `zRender` fills in the next samples, VoiceSampleRate a second, on a thread of the device's
+  /// own. Throws std::runtime_error with the cause when there is no output or it cannot be used.
+  explicit AudioDevice(std::function<void(std::span<std::int16_t>)> zRender);
+  ~AudioDevice();
+  AudioDevice(const AudioDevice&) = delete;
+  AudioDevice& operator=(const AudioDevice&) = delete;
+
+ private:
+  struct Stream;
+  std::unique_ptr<Stream> stream_;
+};
+
+}  // namespace loquitor

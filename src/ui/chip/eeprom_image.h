@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/say_data.h"
+
+namespace loquitor {
+
+inline constexpr int PhraseSlotCount = 16;            ///< phrases that the chip stores, from 0
+inline constexpr std::size_t MaxImageLength = 235;    ///< locations 0 to 234 hold the image
+inline constexpr std::size_t ReservedLocations = 21;  ///< 235 to 255: detune and configuration
+inline constexpr std::size_t EepromSize = 256;
+inline constexpr char EndOfPhrase = '\xff';  ///< ends a phrase; as start offset: the slot is empty
+
+/// The code string of a slot, without the byte that ends it; nothing for an empty slot.
+using SlotCodes = std::optional<std::string>;
+
+/// The codes of a Say Data text for its slot. Nothing when it expands to the empty text. The empty
+/// string when it expands to mnemonics that give no code.
+SlotCodes TranslateSlot(const SayDataTranslator& zTranslator, std::string_view zSayData);
+
+/// The bytes for location 0 onward: 16 start offsets (position in the image modulo 256, 255 for an
+/// empty slot), then the codes of each filled slot in slot order, each followed by 255.
+std::string BuildEepromImage(const std::array<SlotCodes, PhraseSlotCount>& zSlots);
+
+/// The command string that writes `zImage` (at most MaxImageLength bytes) to location 0 onward.
+std::string EepromWriteString(std::string_view zImage);
+
+/// How many locations are in use when an image of `zImageLength` bytes is stored.
+constexpr std::size_t UsedLocations(std::size_t zImageLength) {
+  return zImageLength + ReservedLocations;
+}
+
+/// For example "40 used of 256".
+std::string UsageText(std::size_t zUsed);
+
+/// How full the EEPROM is: Roomy up to 240 locations, Tight up to 256, Overfull above.
+enum class UsageBand { Roomy, Tight, Overfull };
+UsageBand BandOfUsage(std::size_t zUsed);
+
+}  // namespace loquitor

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "ui/chip/chip_write.h"
+#include "ui/chip/eeprom_image.h"
+#include "ui/chip/slot_label.h"
+#include "ui/controls/form.h"
+#include "ui/windows/editor_context.h"
+#include "ui/windows/tool_window.h"
+
+namespace loquitor {
+
+/// The editor of the sixteen phrases that the chip stores: shows them, has each edited in the
+/// phrase editor, plays what the chip holds, shows how much of the EEPROM they take and writes
+/// them. The labels hold the phrases; the settings file keeps them between runs.
+class frmEEPROM : public ToolWindow {
+  Q_OBJECT
+ public:
+  frmEEPROM(QWidget* zOwner, const EditorContext& zContext);
+
+  /// The bytes for location 0 onward that the present phrases make with the present dictionary.
+  std::string GetEEPROMPhraseString() const;
+
+  /// Shows how many locations that takes, on red when there are not so many, on yellow when few are
+  /// left.
+  void ReportUsed();
+
+ protected:
+  void Load() override;
+  void Unload() override;
+
+ private:
+  void AddSlot(int zIndex);
+  QWidgetList WriteCutters() const;
+  void ShowPhrase(int zIndex, std::string_view zPhrase);
+
+  void WritePhrases();
+
+  void btnWrite_Click();
+  void btnShutUp_Click();
+  void btnDone_Click();
+  void Phrase_Click(int zIndex);
+  void lbs_Click(int zIndex);
+
+  EditorContext context_;
+  Form form_;
+  std::array<SlotLabel*, PhraseSlotCount> lbs_{};
+  std::array<PhraseLabel*, PhraseSlotCount> phrases_{};
+  ChipWrite* write_ = nullptr;
+};
+
+}  // namespace loquitor

@@ -1,0 +1,43 @@
+#include "ui/controls/hint.h"
+
+#include <QAccessible>
+#include <QTimer>
+#include <QToolTip>
+#include <QVariant>
+#include <QWidget>
+
+namespace loquitor {
+namespace {
+
+constexpr int ShownMilliseconds = 8000;  // time enough to read it twice
+constexpr char OwnDescription[] = "descriptionBeforeTheHint";
+
+/// While the hint is shown it is the accessible description of `zControl`.
+void Describe(QWidget* zControl, const QString& zText) {
+  if (!zControl->property(OwnDescription).isValid()) {
+    zControl->setProperty(OwnDescription, zControl->accessibleDescription());
+  }
+  zControl->setAccessibleDescription(zText);
+  QTimer::singleShot(ShownMilliseconds, zControl, [zControl, zText] {
+    if (zControl->accessibleDescription() == zText) {
+      zControl->setAccessibleDescription(zControl->property(OwnDescription).toString());
+      zControl->setProperty(OwnDescription, {});
+    }
+  });
+}
+
+}  // namespace
+
+void ShowHint(QWidget* zControl, const QString& zText) {
+  if (QToolTip::isVisible() && QToolTip::text() == zText) {
+    return;
+  }
+  const QRect caret = zControl->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+  QToolTip::showText(zControl->mapToGlobal(caret.bottomLeft()), zText, zControl, {},
+                     ShownMilliseconds);
+  Describe(zControl, zText);
+  QAccessibleEvent announcement(zControl, QAccessible::Alert);
+  QAccessible::updateAccessibility(&announcement);
+}
+
+}  // namespace loquitor

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/word_import.h"
+#include "english/blank_entries.h"
+#include "ui/controls/form.h"
+#include "ui/controls/text_area.h"
+#include "ui/windows/editor_context.h"
+#include "ui/windows/tool_window.h"
+
+namespace loquitor {
+
+/// The dictionary editor: the dictionary file as one text that can be typed in, searched, saved,
+/// sorted, cleaned and extended with the words of ImportWords.txt (in the working directory). Only
+/// the saving buttons write the file. Closing the window drops what has not been saved.
+class frmDictEdit : public ToolWindow {
+  Q_OBJECT
+ public:
+  frmDictEdit(QWidget* zOwner, const EditorContext& zContext);
+
+ protected:
+  void Load() override;
+
+ private:
+  void btnSaveChanges_Click();
+  void btnFind_Click();
+  void btnSort_Click();
+  void btnEraseBlank_Click();
+  void btnReadTerms_Click();
+  void btnDone_Click();
+
+  void ConnectControls();
+  QAction* AddAction(const QString& zText, const QList<QKeySequence>& zKeys);
+  void AddActions();
+  void FixBoxWidth();
+  void LoadDictionary();
+  void TellOnceShown(const QString& zText);
+  void ShowWhetherSaved(bool zIsSaved);
+  void SaveAndRewrite(QWidget* zButton, std::string (*zRewrite)(std::string));
+  void ShowRewritten(std::string (*zRewrite)(std::string));
+  bool SaveText();
+  bool MayReplaceFile();
+  void FindNext();
+  void FillBlank();
+  std::optional<FilledEntries> FillWithProgress(const std::string& zText);
+  void ShowSelection();
+  std::size_t TextLength() const;
+  void AppendToText(std::string_view zText);
+  QString ImportFailure(WordImport& zImport);
+  bool IsTooMuch(const WordImport& zImport) const;
+
+  EditorContext context_;
+  Form form_;
+  TextArea* txtDictionary_;
+  QPushButton* btnSaveChanges_;
+  QString sought_;
+  bool isUnread_ = false;  ///< the file exists, but the box does not show what is in it
+};
+
+}  // namespace loquitor

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+namespace loquitor {
+
+/// Calls `zHandler` from the event loop when the system or the terminal asks the program to end:
+/// SIGTERM, SIGINT and SIGHUP no longer end it by themselves. A signal that was ignored when the
+/// program started stays ignored, as nohup expects. The calls end with `zContext`. Call it once.
+/// Does nothing on systems without these signals.
+void HandleEndingSignals(QObject* zContext, std::function<void()> zHandler);
+
+}  // namespace loquitor

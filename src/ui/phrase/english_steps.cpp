@@ -1,0 +1,195 @@
+#include "ui/phrase/english_steps.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QTimer>
+
+#include "english/unread_text.h"
+#include "text/words.h"
+#include "ui/controls/code_page.h"
+#include "ui/controls/hint.h"
+#include "ui/phrase/dictionary_words.h"
+#include "ui/windows/busy.h"
+
+namespace loquitor {
+namespace {
+
+constexpr std::size_t LongestResult = 1'000'000;  // what a line of the box can have
+
+/// English is read in UTF-8.
+std::string ToUtf8(std::string_view zBytes) {
+  return ToQString(zBytes).toStdString();
+}
+
+QString Quoted(std::string_view zWord) {
+  constexpr int shown = 40;
+  const QString word = ToQString(zWord);
+  return u'“' + (word.size() > shown ? word.left(shown) + u'…' : word) + u'”';
+}
+
+}  // namespace
+
+EnglishSteps::EnglishSteps(TextArea* zArea, const EditorContext& zContext)
+    : QObject(zArea), area_(zArea), context_(zContext) {
+  auto* separator = new QAction(area_);
+  separator->setSeparator(true);
+  area_->addAction(separator);
+  AddStep("Insert Its Sounds", Qt::Key_F6, &EnglishSteps::InsertItsSounds);
+  AddStep("Add to Dictionary", Qt::SHIFT | Qt::Key_F6, &EnglishSteps::AddToDictionary);
+  AddStep("English to Sounds", Qt::Key_F9, &EnglishSteps::EnglishToSounds);
+  area_->installEventFilter(this);
+  area_->viewport()->installEventFilter(this);
+  connect(area_, &QPlainTextEdit::textChanged, this, [this] { offered_.clear(); });
+}
+
+void EnglishSteps::AddStep(const QString& zCaption, const QKeySequence& zKey,
+                           void (EnglishSteps::*zStep)()) {
+  const bool canRead = context_.english != nullptr;
+  auto* action =
+      new QAction(canRead ? zCaption : zCaption + " (this build cannot read English)", area_);
+  action->setShortcut(zKey);
+  action->setShortcutVisibleInContextMenu(true);
+  action->setEnabled(canRead);
+  connect(action, &QAction::triggered, this, zStep);
+  area_->addAction(action);
+}
+
+/// Remembers where the menu was opened by the mouse until the next key.
+bool EnglishSteps::eventFilter(QObject*, QEvent* zEvent) {
+  if (zEvent->type() == QEvent::ContextMenu) {
+    const auto* menu = static_cast<QContextMenuEvent*>(zEvent);
+    const bool isMouse = menu->reason() == QContextMenuEvent::Mouse;
+    clicked_ =
+        isMouse ? std::optional(area_->cursorForPosition(menu->pos()).position()) : std::nullopt;
+  } else if (zEvent->type() == QEvent::ShortcutOverride || zEvent->type() == QEvent::KeyPress) {
+    clicked_.reset();
+  }
+  return false;
+}
+
+/// A moment later, because the end of a menu hides hints.
+void EnglishSteps::Tell(const QString& zText) const {
+  QTimer::singleShot(100, area_, [area = area_, zText] { ShowHint(area, zText); });
+}
+
+/// The word under the mouse or at the caret. Tells when there is none.
+std::optional<WordPlace> EnglishSteps::TakeWord() {
+  const int position = clicked_.value_or(area_->SelectionStart());
+  clicked_.reset();
+  std::optional<WordPlace> place = WordAt(area_->Text(), static_cast<std::size_t>(position));
+  if (!place) {
+    Tell("There is no word here. Put the caret into a word.");
+  }
+  return place;
+}
+
+/// What speaks a word: its entry if that gives any code, otherwise its English sounds. Tells when
+/// there are none.
+std::string EnglishSteps::SoundsOf(const WordPlace& zPlace) const {
+  if (context_.translator.FindSilentParts(zPlace.word).empty()) {
+    return context_.dictionary.GetDictionaryValue(DictionaryStore::Section, zPlace.word, "");
+  }
+  const int start = static_cast<int>(zPlace.start);
+  const int end = start + static_cast<int>(zPlace.length);
+  std::string sounds = context_.english->ReadWord(ToUtf8(area_->TextBetween(start, end)));
+  if (sounds.empty()) {
+    Tell(Quoted(zPlace.word) + " cannot be read as English.");
+  }
+  return sounds;
+}
+
+void EnglishSteps::InsertItsSounds() {
+  if (!offered_.empty() && !clicked_) {
+    emit InsertWanted(std::string(offered_));
+    return;
+  }
+  const std::optional<WordPlace> place = TakeWord();
+  if (const std::string sounds = place ? SoundsOf(*place) : ""; !sounds.empty()) {
+    area_->Select(static_cast<int>(place->start), static_cast<int>(place->length));
+    area_->ReplaceSelection(sounds);
+  }
+}
+
+void EnglishSteps::AddToDictionary() {
+  const std::optional<WordPlace> place = TakeWord();
+  if (!place) {
+    return;
+  }
+  const std::string_view section = DictionaryStore::Section;
+  if (!context_.dictionary.GetDictionaryValue(section, place->word, "").empty()) {
+    Tell(Quoted(place->word) + " has an entry in the dictionary. It stays as it is.");
+    return;
+  }
+  if (const std::optional<QString> refusal = RefusalOfWord(place->word)) {
+    Tell(*refusal);
+    return;
+  }
+  const std::string sounds = SoundsOf(*place);
+  if (sounds.empty()) {
+    return;
+  }
+  if (!context_.dictionary.SaveDictionaryValue(section, place->word, sounds)) {
+    Tell("The dictionary could not be saved. Check the disk and whether you may write there.");
+    return;
+  }
+  Tell(Quoted(place->word) + " is now in the dictionary: " + ToQString(sounds));
+  emit EntryAdded();
+}
+
+void EnglishSteps::EnglishToSounds() {
+  clicked_.reset();
+  if (RunBusy(area_->window(), nullptr, [this] { ReadAsEnglish(); })) {
+    area_->setFocus();
+  }
+}
+
+/// Puts the sounds in place of the selection, or of the whole text without one, and tells what is
+/// not in them.
+void EnglishSteps::ReadAsEnglish() {
+  const bool isWhole = area_->SelectionLength() == 0;
+  const std::string text = isWhole ? area_->Text() : area_->SelectedText();
+  const EnglishReading reading =
+      context_.english->ReadText(ToUtf8(text), WordsOf(context_.dictionary, context_.translator));
+  if (reading.sayData.size() > LongestResult) {
+    Tell("Nothing was changed: the sounds would be too long for one line. Select less.");
+    return;
+  }
+  if (reading.sayData.empty()) {
+    Tell("Nothing was changed: there is nothing here that can be read as English.");
+    return;
+  }
+  if (reading.sayData == text) {
+    Tell("Nothing was changed: every word here speaks already.");
+    return;
+  }
+  if (isWhole) {
+    area_->selectAll();
+  }
+  area_->ReplaceSelection(reading.sayData);
+  if (!reading.unread.empty()) {
+    Tell("Left out, because it cannot be read: " +
+         QString::fromStdString(DescribeUnread(reading.unread)));
+  }
+}
+
+void EnglishSteps::OfferSounds(QWidget* zBox, std::string_view zWords) {
+  offered_.clear();
+  if (context_.english == nullptr) {
+    return;
+  }
+  QStringList missing;
+  ForEachWord(zWords, [&](std::string_view zWord) {
+    if (context_.dictionary.GetDictionaryValue(DictionaryStore::Section, zWord, "").empty()) {
+      const std::string sounds = context_.english->ReadWord(ToUtf8(zWord));
+      missing += Quoted(zWord) + (sounds.empty() ? " cannot be read" : "");
+      offered_.append(offered_.empty() || sounds.empty() ? "" : " ").append(sounds);
+    }
+  });
+  if (!missing.isEmpty()) {
+    ShowHint(zBox,
+             "No data in the dictionary: " + missing.join(", ") +
+                 (offered_.empty() ? "." : ".\nF6 inserts these sounds: " + ToQString(offered_)));
+  }
+}
+
+}  // namespace loquitor

@@ -1,0 +1,42 @@
+#include "ui/phrase/say_data_places.h"
+
+#include <algorithm>
+
+#include "core/say_data_runs.h"
+
+namespace loquitor {
+namespace {
+
+constexpr std::string_view Pauses = " ,";
+
+}  // namespace
+
+std::optional<WordPlace> WordAt(std::string_view zSayData, std::size_t zPosition) {
+  SayDataRuns runs(zSayData);
+  for (SayDataRun run; runs.Next(run) && run.start <= zPosition;) {
+    const bool isWord = run.kind == SayDataRun::Kind::Word && run.characters.front() != '\\';
+    if (isWord && zPosition <= run.end) {
+      return WordPlace{run.characters, run.start, run.end - run.start};
+    }
+  }
+  return std::nullopt;
+}
+
+TextSpan WholeWords(std::string_view zText, TextSpan zView, bool zIsCutAtStart, bool zIsCutAtEnd) {
+  const std::size_t before = zText.substr(0, zView.start).find_last_of(Pauses);
+  std::size_t start = before == std::string_view::npos ? 0 : before + 1;
+  if (before == std::string_view::npos && zIsCutAtStart) {
+    start = zText.find_first_of(" ,\\");
+  }
+  std::size_t end = zText.find_first_of(Pauses, zView.end);
+  if (end == std::string_view::npos && zIsCutAtEnd) {
+    end = zText.find_last_of(" ,\\");
+  } else if (end == std::string_view::npos) {
+    end = zText.size();
+  }
+  const bool isEmpty =
+      start == std::string_view::npos || end == std::string_view::npos || end < start;
+  return isEmpty ? TextSpan{0, 0} : TextSpan{start, end};
+}
+
+}  // namespace loquitor

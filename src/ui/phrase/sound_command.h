@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/code_table.h"
+#include "ui/phrase/palette_table.h"
+
+namespace loquitor {
+
+/// The codes that the palette knows by name.
+namespace palette_code {
+inline constexpr std::int16_t Wait = 16;
+inline constexpr std::int16_t Pitch = 22;
+inline constexpr std::int16_t Repeat = 26;
+inline constexpr std::int16_t Reset = 31;
+}  // namespace palette_code
+
+/// Whether a code-table index is that of a note.
+bool IsNote(std::int16_t zCode);
+
+/// The number at the start of a value box's text, rounded, as the byte that is sent; nothing when
+/// it is outside 0 to 255.
+std::optional<std::uint8_t> ValueByte(std::string_view zBoxText);
+
+/// `zCode` as a code string, followed by `zValue` where there is one.
+std::string SoundCodes(std::int16_t zCode, std::optional<std::uint8_t> zValue = std::nullopt);
+
+/// The question before the chip is told to wait; lines joined by CR LF.
+QString WaitNotice();
+
+/// The message for a value box whose number is outside 0 to 255.
+QString ValueNotice(const PaletteMember& zMember);
+
+}  // namespace loquitor

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <bitset>
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "line/code_sender.h"
+#include "line/scp.h"
+#include "ui/synth/synth_registers.h"
+
+namespace loquitor {
+
+/// Writes registers of the synthesizer through the sender, each write as a send of its own.
+///
+/// A write that starts in the events of another one cuts that one short. If both are for the same
+/// register, the newer value is the one that counts. If they are for different registers, the chip
+/// would keep an old value that the window no longer shows. So when the last of these sends has
+/// ended, each register that was cut and not written since is written again, with the value that
+/// the window shows then.
+///
+/// Events run during every write. A change of several controls is therefore made inside Postpone:
+/// all controls are set before the first event runs.
+class RegisterWriter {
+ public:
+  /// `zShownValue` returns the value that the window shows for a register. `zSender` outlives the
+  /// writer.
+  RegisterWriter(CodeSender& zSender, std::function<int(int)> zShownValue);
+
+  /// Writes `zValue` to register `zNumber` (0 to 15), after the sends that are postponed.
+  void Write(int zNumber, int zValue);
+
+  /// Sends the reset string, after the sends that are postponed.
+  void SendReset();
+
+  /// Runs `zChange`, which must not let events run, and postpones what it writes. Drops writes to
+  /// the same registers that were postponed before.
+  void Postpone(const std::function<void()>& zChange);
+
+  /// Sends what is postponed, in order. Cuts a write under way. A reset under way goes out first.
+  void SendPostponed();
+
+  /// As SendPostponed, after the sends of this writer that are under way.
+  void SendPostponedWhenIdle();
+
+  /// Empties PendingOutput and forgets every write that was cut or postponed.
+  void StopSending();
+
+  /// Ends the send under way if it is one of this writer. After this the writer sends nothing.
+  void GiveUp();
+
+  /// True while a send of this writer is under way.
+  bool IsSending() const { return depth_ > 0; }
+
+ private:
+  using Registers = std::bitset<synth::RegisterCount>;
+
+  struct Command {
+    Registers target;  ///< the one register that it writes; none for the reset
+    std::string bytes;
+  };
+
+  static Registers Only(int zNumber) { return Registers(1ULL << zNumber); }
+  using Commands = std::deque<Command>;
+
+  static Command WriteOf(int zNumber, int zValue) {
+    return {Only(zNumber), RegisterWrite(zNumber, zValue)};
+  }
+  void SendInOrder(Command zCommand);
+  void Send(const Command& zCommand);
+  void WriteWhatWasCut();
+
+  CodeSender& sender_;
+  std::function<int(int)> shownValue_;
+  Commands postponed_;
+  bool isPostponing_ = false;
+  bool isResetting_ = false;  ///< the send under way is the reset
+  Registers pending_;         ///< their writes may still be in PendingOutput
+  Registers cut_;             ///< may have been cut short, and not written since
+  SendTicket lastSend_;
+  int depth_ = 0;  ///< how many of the sends under way are this writer's
+  bool hasGivenUp_ = false;
+};
+
+}  // namespace loquitor

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "ui/controls/form.h"
+
+namespace loquitor {
+
+inline constexpr TwipSize SynthClientSize{9375, 7860};
+
+/// Fills the synth control window with its controls, in their tab order.
+void BuildSynthForm(Form& zForm);
+
+}  // namespace loquitor

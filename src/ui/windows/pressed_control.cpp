@@ -1,0 +1,47 @@
+#include "ui/windows/pressed_control.h"
+
+#include <QApplication>
+#include <QInputEvent>
+
+namespace loquitor {
+
+PressedControl::PressedControl() {
+  qApp->installEventFilter(this);
+}
+
+QWidget* PressedControl::Get() const {
+  if (control_ && control_->isVisible()) {
+    return control_;
+  }
+  QWidget* focused = QApplication::focusWidget();
+  return focused != nullptr ? focused : QApplication::activeWindow();
+}
+
+bool PressedControl::eventFilter(QObject* zWatched, QEvent* zEvent) {
+  switch (zEvent->type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+      control_.clear();
+      break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+      if (zWatched->isWidgetType()) {
+        TakeFirst(static_cast<QWidget*>(zWatched), static_cast<QInputEvent*>(zEvent)->timestamp());
+      }
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+/// A press that a control ignores goes on to the widgets around it, with the same time.
+void PressedControl::TakeFirst(QWidget* zWidget, quint64 zTimestamp) {
+  if (!control_ || zTimestamp != timestamp_) {
+    control_ = zWidget;
+    timestamp_ = zTimestamp;
+  }
+}
+
+}  // namespace loquitor

@@ -1,0 +1,72 @@
+#include "ui/windows/tool_window.h"
+
+#include <QKeyEvent>
+#include <QScreen>
+
+#include "ui/controls/form.h"
+#include "ui/controls/keys.h"
+#include "ui/windows/centring.h"
+#include "ui/windows/stray_double_click.h"
+
+namespace loquitor {
+
+ToolWindow::ToolWindow(QWidget* zOwner, const QString& zCaption, TwipSize zClientSize,
+                       Sizing zSizing)
+    : QDialog(zOwner, Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowCloseButtonHint) {
+  setWindowTitle(zCaption);
+  setFont(FormFont());
+  setWindowModality(Qt::WindowModal);  // it blocks its owners, but not the manual
+  IgnoreStrayDoubleClicks(this);
+  if (zSizing == Sizing::Fixed) {
+    setFixedSize(zClientSize.ToPixels());
+  } else {
+    resize(zClientSize.ToPixels());
+  }
+}
+
+void ToolWindow::ShowModal() {
+  LoadOnce();
+  static_cast<void>(exec());  // how a window was closed says nothing
+}
+
+void ToolWindow::Open() {
+  LoadOnce();
+  show();
+}
+
+void ToolWindow::LoadOnce() {
+  if (isLoaded_) {
+    return;
+  }
+  isLoaded_ = true;
+  Centre(this);
+  Load();
+}
+
+void ToolWindow::done(int zResult) {
+  if (!isLoaded_ || isUnloaded_) {
+    QDialog::done(zResult);
+    return;
+  }
+  isUnloaded_ = true;
+  // Hidden first: the owner is free again even if the unloading has to wait for the line.
+  QDialog::done(zResult);
+  Unload();
+  emit Closed();
+}
+
+void ToolWindow::keyPressEvent(QKeyEvent* zEvent) {
+  if (zEvent->key() != Qt::Key_Escape && !IsEnter(*zEvent)) {
+    QDialog::keyPressEvent(zEvent);
+  }
+}
+
+void ToolWindow::changeEvent(QEvent* zEvent) {
+  QDialog::changeEvent(zEvent);
+  if (zEvent->type() == QEvent::ActivationChange && isActiveWindow() && isLoaded_ && !isUnloaded_) {
+    Activate();
+  }
+}
+
+}  // namespace loquitor

@@ -1,0 +1,163 @@
+// English text as it is spoken, before any phone is asked for.
+#include "english/normalizer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "english/number_words.h"
+#include "tests/english/say_data_words_for_tests.h"
+
+namespace loquitor {
+namespace {
+
+using testing::WordsWithEntries;
+
+/// Pieces in one line: spelled letters as capitals, entries in angle brackets, pauses as , and .
+std::string Spoken(std::string_view zText, const SayDataWords& zWords) {
+  std::string line;
+  for (const SpokenPiece& piece : NormalizeEnglish(zText, zWords).pieces) {
+    std::string text = piece.text;
+    switch (piece.kind) {
+      case SpokenPiece::Kind::Clause:
+        text = ",";
+        break;
+      case SpokenPiece::Kind::Sentence:
+        text = ".";
+        break;
+      case SpokenPiece::Kind::Entry:
+        text = "<" + text + ">";
+        break;
+      case SpokenPiece::Kind::Letter:
+        text[0] = static_cast<char>(text[0] - 'a' + 'A');
+        break;
+      case SpokenPiece::Kind::Word:
+      case SpokenPiece::Kind::Mnemonic:
+        break;
+    }
+    line += (line.empty() ? "" : " ") + text;
+  }
+  return line;
+}
+
+struct SpokenCase {
+  const char* text;
+  const char* spoken;
+};
+
+void PrintTo(const SpokenCase& zCase, std::ostream* zOut) {
+  *zOut << zCase.text;
+}
+
+class Normalizing : public ::testing::TestWithParam<SpokenCase> {};
+
+TEST_P(Normalizing, SaysTheText) {
+  EXPECT_EQ(Spoken(GetParam().text, WordsWithEntries({"robot", "five", "r2d2"})),
+            GetParam().spoken);
+}
+
+constexpr SpokenCase Numbers[] = {
+    {"0", "zero"},
+    {"13 85 100 105", "thirteen eighty <five> one hundred one hundred <five>"},
+    {"1,234,567", "one million two hundred thirty four thousand <five> hundred sixty seven"},
+    {"1000000", "one million"},
+    {"999999999999999",
+     "nine hundred ninety nine trillion nine hundred ninety nine billion nine hundred ninety nine "
+     "million nine hundred ninety nine thousand nine hundred ninety nine"},
+    {"1000000000000000",
+     "one zero zero zero zero zero zero zero zero zero zero zero zero zero zero zero"},
+    {"007", "zero zero seven"},
+    {"3.14", "three point one four"},
+    {".5", "zero point <five>"},
+    {"-3 (-4)", "minus three , minus four ,"},
+    {"1984 2005 1905 1900 2024 3000 1,984",
+     "nineteen eighty four two thousand <five> nineteen oh <five> nineteen hundred twenty twenty "
+     "four three thousand one thousand nine hundred eighty four"},
+    {"1st 2nd 3rd 4TH 12th 21st 30th 100th",
+     "first second third fourth twelfth twenty first "
+     "thirtieth one hundredth"},
+    {"1990s 80's", "nineteen nineties eighties"},
+    {"10-20", "ten to twenty"},
+    {"1990-1995", "nineteen ninety to nineteen ninety <five>"},
+    {"555-1234", "<five> <five> <five> , one two three four"},
+    {"1/2 3/4 1 1/2 7/8 3/50",
+     "one half three quarters one and one half seven eighths three slash fifty"},
+    {"2½", "two and one half"},
+    {"192.168.0.1", "one hundred ninety two point one hundred sixty eight point zero point one"},
+    {"12/31/2024", "twelve thirty one twenty twenty four"},
+    {"2024-01-05", "january fifth twenty twenty four"},
+    {"2024-13-05", "two zero two four , one three , zero <five>"},
+};
+INSTANTIATE_TEST_SUITE_P(Numbers, Normalizing, ::testing::ValuesIn(Numbers));
+
+constexpr SpokenCase Measures[] = {
+    {"$5 $1 $5.99 $1.01 $0.50 $2.00",
+     "<five> dollars one dollar <five> dollars and ninety nine cents one dollar and one cent fifty "
+     "cents two dollars"},
+    {"£1.5 million, €3k, 5 € 2.50€ ¥100 50¢",
+     "one point <five> million pounds , three thousand euros , <five> euros two euros and fifty "
+     "cents one hundred yen fifty cents"},
+    {"10% 7.5 %", "ten percent seven point <five> percent"},
+    {"20°C 1 °F 90°", "twenty degrees celsius one degree fahrenheit ninety degrees"},
+    {"5V, 20 mA, 10kΩ, 1 km, 100 µs",
+     "<five> volts , twenty milliamps , ten kilohms , one kilometer "
+     ", one hundred microseconds"},
+    {"3x 10k 5 in a row", "three times ten thousand <five> in a row"},
+    {"3:30 3:05 3:00 15:30:20",
+     "three thirty three oh <five> three o'clock fifteen thirty and "
+     "twenty seconds"},
+    {"3:30 pm, 9 a.m. today", "three thirty P M , nine A M today"},
+    {"At 9 a.m. He left at 10:00 PM.", "at nine A M . he left at ten P M ."},
+    {"16:9", "sixteen to nine"},
+};
+INSTANTIATE_TEST_SUITE_P(Measures, Normalizing, ::testing::ValuesIn(Measures));
+
+constexpr SpokenCase Words[] = {
+    {"Dr. Smith, Mr Lee and St. Peter in Main St. now",
+     "doctor smith , mister lee and saint peter in "
+     "main street now"},
+    {"No. 5 No. Etc. Then", "number <five> no . et cetera . then"},
+    {"e.g. this, i.e. that", "for example this , that is that"},
+    {"U.S.A. is. U.S. Then", "U S A is . U S . then"},
+    {"USB TV LEDs PC's NASA pwm", "U S B T V L E Ds P Cs nasa P W M"},
+    {"World War II", "world war two"},
+    {"we'll isn't Jack's dogs' 'quoted' rock'n'roll", "we'll isn't jack's dogs quoted rock'n'roll"},
+    {"robot Robot's ROBOT", "<robot> robot's <ROBOT>"},
+    {"R2D2 b2b mp3", "<R2D2> B two B M P three"},
+    {"a I A b vitamin A", "a i a B vitamin A"},
+    {"well-known robot-arm", "well known <robot> arm"},
+    {"café naïve Łódź straße e\xCC\x81t\xCC\x81 ﬁx", "cafe naive lodz strasse et fix"},
+    {"caf\xE9 \x93quote\x94", "cafe quote"},
+    {"WiFi YouTube McDonald iPhone", "wi fi you tube mcdonald I phone"},
+    {"me@x.org a & b + c", "me at X dot org a and B plus C"},
+    {"\\PITCH \\100 robot \\iy\\eh", "\\PITCH \\100 <robot> \\iy\\eh"},
+};
+INSTANTIATE_TEST_SUITE_P(Words, Normalizing, ::testing::ValuesIn(Words));
+
+constexpr SpokenCase Pauses[] = {
+    {"one, two; three: four (five) six", "one , two , three , four , <five> , six"},
+    {"One. Two! Three? Four...", "one . two . three . four ."},
+    {"one — two – three -- four", "one , two , three , four"},
+    {"one,\ntwo\nthree\n\nfour", "one , two three . four"},
+    {"?!... one ...!?", "one ."},
+    {"one,.two", "one . two"},
+    {"===== one #####", "one ."},
+};
+INSTANTIATE_TEST_SUITE_P(Pauses, Normalizing, ::testing::ValuesIn(Pauses));
+
+TEST(Normalizing, TellsWhatItCannotRead) {
+  const SpokenText spoken =
+      NormalizeEnglish("one привет two😀🎉 \\XYZZY \a three \\", WordsWithEntries({}));
+  EXPECT_THAT(spoken.unread,
+              ::testing::UnorderedElementsAre("привет", "😀🎉", "U+0007", "\\XYZZY", "\\"));
+  EXPECT_EQ(spoken.pieces.size(), 3U);
+}
+
+TEST(Normalizing, CutsWhatNoWordIs) {
+  const SpokenText spoken = NormalizeEnglish(std::string(150, 'o'), WordsWithEntries({}));
+  ASSERT_EQ(spoken.pieces.size(), 3U);
+  EXPECT_EQ(spoken.pieces[0].text, std::string(60, 'o'));
+  EXPECT_EQ(spoken.pieces[2].text, std::string(30, 'o'));
+}
+
+}  // namespace
+}  // namespace loquitor
