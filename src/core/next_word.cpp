@@ -1,7 +1,5 @@
 #include "core/next_word.h"
 
-#include <utility>
-
 #include "files/profile_lines.h"
 #include "text/letters.h"
 #include "text/words.h"
@@ -33,9 +31,10 @@ std::optional<std::string> FirstAfter(const DictionarySnapshot& zDictionary,
     if (equals == std::string_view::npos) {
       continue;
     }
-    std::string word = ToLower(TrimBlanks(line.text.substr(0, equals)));
-    if (word > zCurrent && word < best && (!zIsWanted || zIsWanted(SayDataOf(zDictionary, word)))) {
-      best = std::move(word);
+    const std::string_view word = TrimBlanks(line.text.substr(0, equals));
+    if (CompareNames(word, zCurrent) > 0 && CompareNames(word, best) < 0 &&
+        (!zIsWanted || zIsWanted(SayDataOf(zDictionary, word)))) {
+      best = ToLower(word);
       isFound = true;
     }
   }
@@ -47,9 +46,8 @@ std::optional<std::string> FirstAfter(const DictionarySnapshot& zDictionary,
 std::optional<std::string> NextWord(const DictionaryStore& zDictionary, std::string_view zCurrent,
                                     const IsWantedSayData& zIsWanted) {
   const DictionarySnapshot dictionary = zDictionary.Snapshot();
-  const std::string current = ToLower(zCurrent);
-  const auto next = FirstAfter(dictionary, current, zIsWanted);
-  return next || current.empty() ? next : FirstAfter(dictionary, {}, zIsWanted);
+  const auto next = FirstAfter(dictionary, zCurrent, zIsWanted);
+  return next || zCurrent.empty() ? next : FirstAfter(dictionary, {}, zIsWanted);
 }
 
 }  // namespace loquitor

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <compare>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -11,13 +12,21 @@
 /// The grammar of profile files, line by line (docs/file-formats.md). Blanks are spaces and tabs.
 namespace loquitor {
 
+/// The order of two names in lower case (Windows-1252), byte by byte. Names that differ at most in
+/// letter case are equal.
+inline std::strong_ordering CompareNames(std::string_view zLeft, std::string_view zRight) {
+  return std::lexicographical_compare_three_way(
+      zLeft.begin(), zLeft.end(), zRight.begin(), zRight.end(), [](char zOne, char zOther) {
+        const auto lower = [](char zLetter) {
+          return static_cast<unsigned char>(LowerCaseTable[static_cast<unsigned char>(zLetter)]);
+        };
+        return lower(zOne) <=> lower(zOther);
+      });
+}
+
 /// True when the two names differ at most in letter case (Windows-1252).
 inline bool EqualNames(std::string_view zLeft, std::string_view zRight) {
-  return std::equal(zLeft.begin(), zLeft.end(), zRight.begin(), zRight.end(),
-                    [](char zOne, char zOther) {
-                      return LowerCaseTable[static_cast<unsigned char>(zOne)] ==
-                             LowerCaseTable[static_cast<unsigned char>(zOther)];
-                    });
+  return CompareNames(zLeft, zRight) == 0;
 }
 
 /// The character that keeps `zKey` from being a key: a line break, an equals sign, or an opening
@@ -77,18 +86,23 @@ struct ProfileEntry {
   std::string_view value;
 };
 
-/// The entry in `zLine`; nothing when it is a header, a comment (begins with a semicolon) or has no
-/// equals sign.
-inline std::optional<ProfileEntry> EntryOf(std::string_view zLine) {
-  const std::string_view line = TrimBlanks(zLine);
-  if (line.empty() || line.front() == '[' || line.front() == ';') {
-    return std::nullopt;
-  }
-  const std::size_t equals = line.find('=');
+/// The key in `zLine`, without the blanks around it; nothing when the line is a header, a comment
+/// (begins with a semicolon) or has no equals sign.
+inline std::optional<std::string_view> KeyOf(std::string_view zLine) {
+  const std::size_t equals = zLine.find('=');
   if (equals == std::string_view::npos) {
     return std::nullopt;
   }
-  return ProfileEntry{TrimBlanks(line.substr(0, equals)), TrimBlanks(line.substr(equals + 1))};
+  const std::string_view key = TrimBlanks(zLine.substr(0, equals));
+  const bool isOther = !key.empty() && (key.front() == '[' || key.front() == ';');
+  return isOther ? std::nullopt : std::optional(key);
+}
+
+/// The entry in `zLine`; nothing when KeyOf finds no key.
+inline std::optional<ProfileEntry> EntryOf(std::string_view zLine) {
+  const auto key = KeyOf(zLine);
+  return key ? std::optional(ProfileEntry{*key, TrimBlanks(zLine.substr(zLine.find('=') + 1))})
+             : std::nullopt;
 }
 
 /// `zValue` without its quotation marks if it is enclosed in one matching pair, single or double.

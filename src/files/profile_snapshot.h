@@ -1,12 +1,13 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "files/platform_files.h"
@@ -34,27 +35,29 @@ class ProfileSnapshot {
   std::string_view Text() const { return file_.View(); }
 
  private:
-  using Number = std::uint32_t;  ///< of an entry; 0 is none
-
-  /// A key, or the header of a section.
-  struct Entry {
+  struct Header {
     std::string_view name;
-    std::string_view value;  ///< of a key
-    Number section = 0;      ///< the header above a key; 0 for a header
-    std::uint32_t hash = 0;  ///< of name and section
+    std::uint32_t begin;  ///< offset of its line
+  };
+  /// A line with a key.
+  struct Key {
+    std::uint32_t hash;   ///< of its name
+    std::uint32_t begin;  ///< offset of the line
+    std::uint32_t end;    ///< offset of its line end
   };
 
-  static Entry EntryFor(Number zSection, std::string_view zName, std::string_view zValue = {});
-  void ReadEntries();
-  void Index(Number zEntry);
-  std::optional<std::size_t> SlotOf(const Entry& zSought) const;
-  Number Find(const Entry& zSought) const;
+  std::vector<Key> ReadLines();
+  void FillBuckets(std::span<const Key> zKeys);
+  void SortCrowdedBuckets();
+  std::string_view LineOf(const Key& zKey) const;
+  std::strong_ordering Compare(const Key& zKey, std::string_view zName, std::uint32_t zBegin) const;
+  const Key* FindKey(std::size_t zHeader, std::string_view zName) const;
 
   LoadedFile file_;
-  std::vector<Entry> entries_;  ///< in the order of the file; the first is a placeholder
-  std::vector<Number> slots_;   ///< hash table with open addressing, at most half full
-  /// The entries that found no slot close to their hash, by section and name in lower case.
-  std::map<std::pair<Number, std::string>, Number> crowded_;
+  std::vector<Header> headers_;                      ///< in the order of the file
+  std::map<std::string, std::size_t> firstHeaders_;  ///< of each name, by the name in lower case
+  std::vector<Key> keys_;                            ///< bucket by bucket
+  std::vector<std::uint32_t> buckets_;  ///< the first key of each bucket, then the number of keys
 };
 
 }  // namespace loquitor
