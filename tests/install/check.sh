@@ -1,4 +1,4 @@
-# What the tests of installing and of ./run share. Expects $1, the folder of the build.
+# Shared by the tests of installing and of ./run. $1 is the folder of the build.
 set -euo pipefail
 source_folder=$(cd "$(dirname "$0")/../.." && pwd)
 build=$1
@@ -17,7 +17,7 @@ expected: $(printf '%q' "$2")
      got: $(printf '%q' "$3")"
 }
 
-# soon COMMAND: asks until the command succeeds, for at most ten seconds.
+# soon COMMAND: repeats the command until it succeeds, for at most ten seconds.
 soon() {
   for _ in $(seq 200); do
     "$@" && return 0
