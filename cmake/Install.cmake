@@ -1,4 +1,4 @@
-# Loquitor runs from one folder with its files beside it, anywhere in the user's home.
+# Everything in one folder, which can be anywhere. Loquitor keeps its files there.
 foreach(program Loquitor loquitor-say virtual-orvatone)
   if(TARGET ${program})
     install(TARGETS ${program} RUNTIME DESTINATION .)
@@ -10,7 +10,7 @@ install(FILES dist/org.loquitor.Loquitor.desktop dist/org.loquitor.VirtualOrvato
 install(FILES README.md CONTRIBUTING.md LICENSE DESTINATION .)
 install(DIRECTORY docs/ DESTINATION docs FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN man EXCLUDE)
 
-# The starter dictionary becomes the owner's at once: installing again must not put it back.
+# The user changes the dictionary, so installing again must not replace it.
 install(CODE "
   set(dictionary \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Loquitor.Dic\")
   if(NOT EXISTS \"\${dictionary}\")
@@ -18,8 +18,8 @@ install(CODE "
   endif()
 ")
 
-# A package puts the same files where the system has a place for each. This component is installed
-# only when it is asked for: cmake --install build --component system --prefix /usr
+# The same files in the standard places of a system, for a package. This component is installed only on
+# request: cmake --install build --component system --prefix /usr
 set(in_system COMPONENT system EXCLUDE_FROM_ALL)
 foreach(program Loquitor loquitor-say virtual-orvatone)
   if(TARGET ${program})

@@ -1,11 +1,11 @@
-# Warnings, sanitizers and include root, the same for every target of the project.
+# Sets warnings, sanitizers and the include root. Called for every target of the project.
 function(loquitor_configure target)
   target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/src")
-  target_compile_features(${target} PUBLIC cxx_std_20)  # for projects that add this one to theirs
+  target_compile_features(${target} PUBLIC cxx_std_20)  # for projects that include this one
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
                                            -Woverloaded-virtual)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # GCC 12 sees overlapping copies in "literal" + string where there are none (its bug 105651).
+    # GCC 12 warns falsely of overlapping copies in "literal" + string (its bug 105651).
     target_compile_options(${target} PRIVATE -Wno-restrict)
   endif()
   if(LOQUITOR_WERROR)
@@ -21,7 +21,7 @@ endfunction()
 # A static library of the project: loquitor_library(name SOURCES a.cpp b.cpp LINK lib1 lib2)
 function(loquitor_library target)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
-  if(NOT ARG_SOURCES)  # a folder that has no sources yet
+  if(NOT ARG_SOURCES)  # a folder without sources
     file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/${target}_empty.cpp" "")
     set(ARG_SOURCES "${CMAKE_CURRENT_BINARY_DIR}/${target}_empty.cpp")
   endif()
@@ -30,7 +30,7 @@ function(loquitor_library target)
   loquitor_configure(${target})
 endfunction()
 
-# One of the installed programs; it lands in bin/.
+# An installed program, built into bin/.
 function(loquitor_program target)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_executable(${target} ${ARG_SOURCES})
@@ -41,8 +41,8 @@ function(loquitor_program target)
   loquitor_configure(${target})
 endfunction()
 
-# A GoogleTest program, its cases found by CTest.
-# MAIN: the program brings its own main (the window tests do, for QApplication).
+# A GoogleTest program. CTest finds its cases.
+# MAIN: the program has a main of its own. The window tests do, for QApplication.
 function(loquitor_test target)
   cmake_parse_arguments(ARG "MAIN" "" "SOURCES;LINK" ${ARGN})
   add_executable(${target} ${ARG_SOURCES})
