@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "bench/support/blank_entries_text.h"
 #include "english/blank_entries.h"
 #include "english/english_reader.h"
 #include "tests/support/temp_folder.h"
@@ -61,23 +62,13 @@ void BM_Read22000Words(benchmark::State& zState) {
 }
 BENCHMARK(BM_Read22000Words)->Unit(benchmark::kMillisecond);
 
-/// 100,000 blank entries of different words.
 void BM_FillBlankEntries(benchmark::State& zState) {
   const Reader reader;
   if (reader.source == nullptr) {
     zState.SkipWithError("this build does not read English");
     return;
   }
-  constexpr std::string_view Consonants = "bdfgklmnprst";
-  constexpr std::string_view Vowels = "aeiou";
-  std::string text = "[words]\n";
-  for (std::size_t word = 0; word < 100'000; ++word) {
-    for (std::size_t rest = word, i = 0; i < 3; ++i, rest /= 60) {
-      text += Consonants[rest % 12];
-      text += Vowels[rest / 12 % 5];
-    }
-    text += "=\n";
-  }
+  const std::string text = bench::BlankEntriesText(100'000);
   const EnglishReader english(*reader.source, reader.table);
   for (auto _ : zState) {
     benchmark::DoNotOptimize(FillBlankEntries(text, english, [](std::size_t) { return true; }));

@@ -2,16 +2,20 @@
 // memory the whole program takes at most.
 #include <benchmark/benchmark.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "bench/support/blank_entries_text.h"
 #include "bench/support/sample_dictionary.h"
 #include "bench/support/window_main.h"
+#include "english/english_reader.h"
 #include "tests/support/program.h"
 #include "ui/dictedit/frm_dict_edit.h"
 
@@ -27,6 +31,10 @@ class Editor {
   explicit Editor(std::int64_t zSize) : sample_(zSize) {
     std::filesystem::current_path(sample_.Folder());
     LengthenEntries();
+    if (phones_) {
+      reader_.emplace(*phones_, program_.codeTable);
+      program_.context.english = &*reader_;
+    }
     std::ofstream list("ImportWords.txt");
     for (int i = 0; i < 100'000; ++i) {
       list << SampleDictionary::Word(i) << (i % 2 == 0 ? "\n" : "q\n");
@@ -39,9 +47,21 @@ class Editor {
     window_->Open();
     Draw();
   }
+  void OpenWith(const std::string& zDictionary) {
+    testing::WriteBytes(sample_.File(), zDictionary);
+    Open();
+  }
   void Close() { window_.reset(); }
   void Click(const char* zName) {
     window_->findChild<QPushButton*>(zName)->click();
+    Draw();
+  }
+  void FillBlankEntries() {
+    for (QAction* action : Box()->actions()) {
+      if (action->text().startsWith("Fill")) {
+        action->trigger();
+      }
+    }
     Draw();
   }
   void Press(QKeySequence::StandardKey zKey) { QTest::keySequence(Box(), QKeySequence(zKey)); }
@@ -71,6 +91,8 @@ class Editor {
   std::filesystem::path folderBefore_ = std::filesystem::current_path();
   SampleDictionary sample_;
   testing::Program program_{sample_.Folder()};
+  std::unique_ptr<PhoneSource> phones_ = CreatePhoneSource();
+  std::optional<EnglishReader> reader_;
   std::unique_ptr<frmDictEdit> window_;
 };
 
@@ -118,6 +140,22 @@ BENCHMARK_CAPTURE(MeasureClick, Save, "btnSaveChanges")->Apply(Sizes);
 BENCHMARK_CAPTURE(MeasureClick, SaveAndSort, "btnSort")->Apply(Sizes);
 BENCHMARK_CAPTURE(MeasureClick, EraseBlankEntries, "btnEraseBlank")->Apply(Sizes);
 BENCHMARK_CAPTURE(MeasureClick, Import, "btnReadTerms")->Apply(Sizes);
+
+/// From the click to the new text, with the progress that the window shows meanwhile.
+void BM_FillBlankEntries(benchmark::State& zState) {
+  Editor editor(1);
+  editor.OpenWith(bench::BlankEntriesText(static_cast<std::size_t>(zState.range(0))));
+  for (auto _ : zState) {
+    editor.FillBlankEntries();
+    zState.PauseTiming();
+    if (editor.Box()->Text().find("=\n") != std::string::npos) {
+      zState.SkipWithError("not every entry was filled");
+    }
+    editor.Press(QKeySequence::Undo);
+    zState.ResumeTiming();
+  }
+}
+BENCHMARK(BM_FillBlankEntries)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_UndoASort(benchmark::State& zState) {
   Editor editor(zState.range(0));

@@ -134,7 +134,8 @@ TEST_F(SafeSaveTest, AKilledProgramLeavesAWholeFileAndNoLitter) {
     }
     ++word;  // whether the save that was cut off came through is not known
     if (word > 2000 || round == 499) {
-      ASSERT_TRUE(ReadBytes(file).ends_with("\r\n"));
+      // The first save after the file was removed may have been cut off.
+      ASSERT_TRUE(!fs::exists(file) || ReadBytes(file).ends_with("\r\n"));
       ASSERT_TRUE(Save("last", "1"));
       ExpectNoLitter();
       fs::remove(file);
