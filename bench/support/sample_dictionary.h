@@ -45,7 +45,7 @@ class SampleDictionary {
     return word.append(static_cast<std::size_t>(zIndex % 6), 'e');
   }
 
-  /// Waits until the file's times tell every later change (see LoadedFile::isSettled).
+  /// Waits until the stamp of the file is reliable (see IsReliable).
   static void LetItSettle() { std::this_thread::sleep_for(std::chrono::milliseconds(50)); }
 
  private:

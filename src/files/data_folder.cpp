@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* Dictionary = "Loquitor.Dic";
 
-/// The absolute path in an environment variable. Relative ones do not count.
+/// The absolute path in an environment variable; nothing when it holds none.
 std::optional<fs::path> PathIn(const char* zVariable) {
   const char* value = std::getenv(zVariable);
   const fs::path path(value == nullptr ? "" : value);
@@ -46,9 +46,9 @@ fs::path StarterFolder(const DataPlaces& zPlaces) {
                                                                          : zPlaces.program;
 }
 
-/// Makes the folder and those above it. False when it cannot be had, or not be written.
+/// Creates the folder and its parents. False when the user cannot write there.
 bool MakeFolder(const fs::path& zFolder) {
-  std::error_code error;  // IsWritableFolder tells
+  std::error_code error;  // IsWritableFolder finds any failure
   fs::create_directories(zFolder, error);
   return IsWritableFolder(zFolder);
 }
@@ -63,7 +63,7 @@ void CopyDictionary(const fs::path& zFrom, const fs::path& zTo) {
     return;
   }
   if (const std::optional<std::string> bytes = ReadWholeFile(zFrom / Dictionary)) {
-    // Without it there are no words, as in a program folder without a dictionary.
+    // If this fails the user starts with an empty dictionary, as without a starter dictionary.
     static_cast<void>(SwapFile(zTo / Dictionary, *bytes, lock.Result()));
   }
 }

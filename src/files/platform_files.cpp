@@ -7,10 +7,10 @@ namespace {
 
 constexpr std::int64_t NanosecondsPerSecond = 1'000'000'000;
 
-/// Kernels date changes by a clock whose coarsest tick is 10 ms. This is twice that.
+/// Kernels take the time of a change from a clock whose coarsest tick is 10 ms. This is twice that.
 constexpr std::int64_t ClockTick = NanosecondsPerSecond / 50;
 
-/// File systems that count whole seconds, some of them two at a time.
+/// For file systems that store whole seconds. Some of them count in steps of two.
 constexpr std::int64_t CoarsestTimes = 2 * NanosecondsPerSecond + NanosecondsPerSecond / 10;
 
 }  // namespace

@@ -147,7 +147,7 @@ bool SetAccessList(const Descriptor&, const std::string&) {
 
 /// Empty when there is no old file; nothing when the old file may not be written.
 std::optional<std::optional<Ownership>> OwnershipToKeep(const fs::path& zFile) {
-  // Opening it for writing is the one test that counts access lists and read-only mounts too.
+  // Opening it for writing is the only test that includes access lists and read-only mounts.
   const Descriptor old(open(zFile.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW));
   if (!old.IsOpen()) {
     return errno == ENOENT ? std::make_optional(std::optional<Ownership>()) : std::nullopt;
@@ -167,8 +167,8 @@ bool Fill(const Descriptor& zFile, std::string_view zBytes,
     return false;
   }
   if (zOwnership) {
-    // Only an administrator may give files away; for everyone else the file is theirs from now on,
-    // and stays their group's if they are in it.
+    // Only an administrator may give files away. For anyone else the new file belongs to them, and
+    // keeps its group if they are a member of it.
     if (fchown(zFile.Number(), zOwnership->user, zOwnership->group) != 0) {
       static_cast<void>(!fchown(zFile.Number(), static_cast<uid_t>(-1), zOwnership->group));
     }
@@ -255,7 +255,7 @@ std::optional<fs::path> FollowLinks(const fs::path& zFile) {
   constexpr int longestChain = 1000;  // of links that change while they are followed
   std::error_code error;
   fs::path file = fs::absolute(zFile, error);
-  // The system decides how many links are too many, for writing as for reading.
+  // Ask the system how many links are too many, so that writing fails where reading does.
   static_cast<void>(fs::status(file, error));
   if (error == std::errc::too_many_symbolic_link_levels) {
     return std::nullopt;

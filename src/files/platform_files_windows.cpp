@@ -22,7 +22,7 @@ constexpr DWORD LongestWaitMilliseconds = 1000;
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr DWORD LargestPiece = 1U << 30;  ///< ReadFile and WriteFile count in 32 bits
 
-/// A handle of a file, closed at its end.
+/// A file handle; the destructor closes it.
 class Handle {
  public:
   Handle(const fs::path& zFile, DWORD zAccess, DWORD zShare, DWORD zDisposition)
@@ -69,7 +69,7 @@ std::optional<FileStamp> StampOf(const Handle& zFile) {
       !GetFileInformationByHandleEx(zFile.Get(), FileBasicInfo, &basic, sizeof basic)) {
     return std::nullopt;
   }
-  // File systems without change times (FAT) give 0 there; they count two seconds at a time anyway.
+  // File systems without change times (FAT) give 0. They count in steps of two seconds anyway.
   const auto modified = static_cast<std::uint64_t>(basic.LastWriteTime.QuadPart);
   const auto changed = static_cast<std::uint64_t>(basic.ChangeTime.QuadPart);
   return FileStamp{file.dwVolumeSerialNumber, Joined(file.nFileIndexHigh, file.nFileIndexLow),
@@ -170,8 +170,8 @@ std::optional<fs::path> FollowLinks(const fs::path& zFile) {
 }
 
 bool IsWritableFolder(const fs::path& zFolder) {
-  // The right to add a file is asked for and not used: only the system knows what the access list
-  // of a folder gives to this user.
+  // Only the system can say what the access list of a folder grants to this user. So ask for the
+  // right to add a file.
   const HANDLE folder = CreateFileW(zFolder.c_str(), FILE_ADD_FILE, ShareAll, nullptr,
                                     OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (folder == INVALID_HANDLE_VALUE) {
@@ -191,7 +191,7 @@ FolderLock::FolderLock(const fs::path& zFolder) {
   }
   handle_ = reinterpret_cast<std::intptr_t>(mutex);
   const DWORD result = WaitForSingleObject(mutex, LongestWaitMilliseconds);
-  // An abandoned mutex is the lock of a process that died; its file is whole as always.
+  // An abandoned mutex is the lock of a process that died. Its file is whole: swaps are atomic.
   const bool isHeld = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
   state_ = isHeld ? State::Held : State::TimedOut;
 }

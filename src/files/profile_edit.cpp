@@ -54,7 +54,8 @@ ProfileEdit EditInSection(ProfileLineReader& zReader, const ProfileLine& zHeader
   return Insertion(lastFull, EntryLine(zKey, zValue));
 }
 
-/// Values on their way into a text, each key once: spelled as it came first, with its last value.
+/// Values to store, each key once. A key that was added again keeps its first spelling and gets its
+/// last value.
 class PendingValues {
  public:
   void Add(std::string_view zKey, std::string zValue) {
@@ -66,7 +67,7 @@ class PendingValues {
     }
   }
 
-  /// Takes the value of `zKey` out; nothing when none waits for it.
+  /// Removes the value of `zKey` and returns it; nothing when there is none.
   std::optional<std::string> Take(std::string_view zKey) {
     const auto place = places_.find(ToLower(zKey));
     if (place == places_.end()) {
@@ -78,7 +79,7 @@ class PendingValues {
     return std::move(value.value);
   }
 
-  /// A line for each value that still waits.
+  /// A line for each value that has not been taken.
   std::string Lines() const {
     std::string lines;
     for (const ProfileValue& value : values_) {
@@ -88,7 +89,7 @@ class PendingValues {
   }
 
  private:
-  std::vector<ProfileValue> values_;  // without a key when taken
+  std::vector<ProfileValue> values_;  // a taken one has no key
   std::unordered_map<std::string, std::size_t> places_;
 };
 
@@ -104,7 +105,7 @@ std::optional<PendingValues> PendingFrom(std::span<const ProfileValue> zValues) 
   return pending;
 }
 
-/// Applies changes that come in the order of their places.
+/// Applies changes in the order of their offsets.
 class TextEditor {
  public:
   explicit TextEditor(std::string_view zText) : rest_(zText) {}
@@ -170,7 +171,7 @@ std::optional<ProfileEdit> EditForValue(std::string_view zText, std::string_view
   }
   const std::string value = InOneLine(zValue);
   ProfileLineReader reader(zText);
-  // No line yet. It counts as one that has an end, so that an empty text gets no line end first.
+  // Before the first line. Its offsets say that it has a line end: an empty text needs none added.
   ProfileLine line{{}, zText.size() + 1, zText.size()};
   while (reader.Next(line)) {
     const auto name = HeaderName(line.text);
@@ -184,7 +185,7 @@ std::optional<ProfileEdit> EditForValue(std::string_view zText, std::string_view
 
 namespace {
 
-/// TextWithValues for one value, the usual case: needs no table.
+/// TextWithValues for one value. This is the usual case, and it needs no table.
 std::optional<std::string> TextWithValue(std::string_view zText, std::string_view zSection,
                                          const ProfileValue& zValue) {
   const auto edit = EditForValue(zText, zSection, zValue.key, zValue.value);
@@ -210,7 +211,7 @@ std::optional<std::string> TextWithValues(std::string_view zText, std::string_vi
   }
   TextEditor editor(zText);
   ProfileLineReader reader(zText);
-  // As in EditForValue, no line yet.
+  // As in EditForValue, before the first line.
   ProfileLine line{{}, zText.size() + 1, zText.size()};
   while (reader.Next(line)) {
     const auto name = HeaderName(line.text);

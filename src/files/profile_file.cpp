@@ -14,7 +14,8 @@ bool IsMissing(const std::filesystem::path& zFile) {
   return std::filesystem::status(zFile, error).type() == std::filesystem::file_type::not_found;
 }
 
-/// Changes the file, whose folder is locked. It must exist and be readable, or not exist at all.
+/// Stores the values; the caller has locked the folder. False also for a file that exists but
+/// cannot be read: it must not be replaced.
 bool Store(const std::filesystem::path& zFile, FolderLock::State zLock, std::string_view zSection,
            std::span<const ProfileValue> zValues) {
   const auto old = LoadFile(zFile);
@@ -77,20 +78,9 @@ void ProfileFile::ReadAgain() const {
   stamp_ = file.stamp;
   isStampReliable_ = file.isStampReliable;
   if (!snapshot_ || snapshot_->Text() != file.View()) {
-    snapshot_.reset();  // its memory may serve the new one
+    snapshot_.reset();  // frees its memory before the new one takes any
     snapshot_ = std::make_shared<const ProfileSnapshot>(std::move(file));
   }
-}
-
-std::string ReadProfileValue(std::string_view zSection, std::string_view zKey,
-                             std::string_view zDefault, std::size_t zBufferLength,
-                             const std::filesystem::path& zFile) {
-  return ProfileFile(zFile).Read(zSection, zKey, zDefault, zBufferLength);
-}
-
-bool WriteProfileValue(std::string_view zSection, std::string_view zKey, std::string_view zValue,
-                       const std::filesystem::path& zFile) {
-  return ProfileFile(zFile).Write(zSection, zKey, zValue);
 }
 
 }  // namespace loquitor

@@ -28,7 +28,7 @@ std::filesystem::path Executable() {
   }
 #elif defined(__APPLE__)
   std::uint32_t size = 0;
-  static_cast<void>(_NSGetExecutablePath(nullptr, &size));  // fails, and tells the size
+  static_cast<void>(_NSGetExecutablePath(nullptr, &size));  // fails, and sets the size
   std::string path(size, '\0');
   if (_NSGetExecutablePath(path.data(), &size) != 0) {
     return {};

@@ -4,8 +4,8 @@
 
 namespace loquitor {
 
-/// The folder of the running program's executable, links resolved; the current folder when the
-/// system does not tell.
+/// The folder of the running program's executable, with symbolic links resolved. The current folder
+/// when the system does not say where the executable is.
 std::filesystem::path ProgramFolder();
 
 }  // namespace loquitor

@@ -9,8 +9,8 @@
 
 namespace loquitor {
 
-/// The settings file (Loquitor.ini) in the folder of the program's files. Every call goes to the
-/// file as it is then. All texts are bytes in Windows-1252.
+/// The settings file (Loquitor.ini). Every call reads or writes the file itself: nothing is kept in
+/// memory that could be stale. All texts are bytes in Windows-1252.
 class SettingsFile {
  public:
   /// `zFolder` is the folder of the program's files.
@@ -22,19 +22,19 @@ class SettingsFile {
     return file_.ReadSetting(zSection, zKey, zDefault);
   }
 
-  /// Writes the value under `zSection`, `zKey`. A value that cannot be stored is not reported.
+  /// Stores `zValue` under `zSection`, `zKey`, by ProfileFile::Write. A failure is not reported.
   void SaveIniValue(std::string_view zSection, std::string_view zKey,
                     std::string_view zValue) const {
     static_cast<void>(file_.Write(zSection, zKey, zValue));
   }
 
-  /// Whole numbers are written in decimal, truth values as the words True and False.
+  /// The same for other types. A number is stored in decimal, a truth value as True or False.
   void SaveIniValue(std::string_view zSection, std::string_view zKey, int zValue) const;
   void SaveIniValue(std::string_view zSection, std::string_view zKey, bool zValue) const;
   void SaveIniValue(std::string_view zSection, std::string_view zKey, const char* zValue) const;
 
-  /// Writes many values of `zSection`, each as SaveIniValue would, in one change of the file: all
-  /// of them or none.
+  /// Stores many values of `zSection` in one change of the file: all of them or none. A failure is
+  /// not reported.
   void SaveIniValues(std::string_view zSection, std::span<const ProfileValue> zValues) const {
     static_cast<void>(file_.Write(zSection, zValues));
   }
@@ -46,16 +46,16 @@ class SettingsFile {
   ProfileFile file_;
 };
 
-/// What GetIniValue returns of `zValue` after it was saved, except that this is not cut to
-/// ProfileFile::MaxSetting bytes, and that GetIniValue returns its default for the empty text.
+/// What GetIniValue returns for `zValue` after it was saved, with two differences: this result is
+/// not cut to ProfileFile::MaxSetting bytes, and the empty text is not replaced by a default.
 std::string ValueAfterSaving(std::string_view zValue);
 
-/// A stored truth value: the word True, in any letter case, and a number other than 0 are true;
-/// everything else is false. Numbers are read as in text boxes.
+/// The truth value that a stored text means. The word True (any letter case) and a number other
+/// than 0 are true, everything else is false. Numbers are read by NumberAtStart.
 bool IsTrueText(std::string_view zText);
 
-/// Whether hardware flow control is stored as wanted ("Serial", "FlowControl"): the numbers 0 and 2
-/// (a greyed box) say no; 1, everything else and no entry say yes.
+/// Whether the setting "Serial", "FlowControl" asks for hardware flow control. It does unless it is
+/// the number 0 or 2 (2 is a greyed check box).
 bool IsFlowControlStored(const SettingsFile& zSettings);
 
 }  // namespace loquitor

@@ -10,8 +10,9 @@
 
 namespace loquitor {
 
-/// The library of named synth sounds (OTSounds.txt) in the folder of the program's files: one
-/// section a sound. Every call goes to the file as it is then. All texts are bytes in Windows-1252.
+/// The library of named synth sounds (OTSounds.txt), one section for each sound. Every call reads
+/// or writes the file itself: nothing is kept in memory that could be stale. All texts are bytes in
+/// Windows-1252.
 class SoundLibrary {
  public:
   /// `zFolder` is the folder of the program's files.
@@ -23,14 +24,14 @@ class SoundLibrary {
     return file_.ReadSetting(zSection, zKey, zDefault);
   }
 
-  /// Stores `zValue`, in decimal, under `zSection`, `zKey`. It is not reported when that fails: the
-  /// file cannot be written, or it cannot hold the name (a closing bracket or a line break in it).
+  /// Stores `zValue` in decimal under `zSection`, `zKey`, by ProfileFile::Write. A failure is not
+  /// reported.
   void SaveSoundValue(std::string_view zSection, std::string_view zKey, int zValue) const {
     static_cast<void>(file_.Write(zSection, zKey, std::to_string(zValue)));
   }
 
-  /// Stores many values of `zSection`, each as SaveSoundValue would, in one change of the file: all
-  /// of them or none, so that it never holds half a sound.
+  /// Stores many values of `zSection` in one change of the file: all of them or none, so that the
+  /// file never holds half a sound. A failure is not reported.
   void SaveSoundValues(std::string_view zSection, std::span<const ProfileValue> zValues) const {
     static_cast<void>(file_.Write(zSection, zValues));
   }

@@ -7,6 +7,7 @@
 
 namespace loquitor {
 
+/// Whether `zCharacter` is a digit 0 to 9.
 constexpr bool IsDigit(char zCharacter) {
   return zCharacter >= '0' && zCharacter <= '9';
 }
@@ -16,6 +17,7 @@ constexpr bool IsLetter(char zCharacter) {
   return (zCharacter >= 'A' && zCharacter <= 'Z') || (zCharacter >= 'a' && zCharacter <= 'z');
 }
 
+/// Whether `zCharacter` is a capital A to Z.
 constexpr bool IsCapital(char zCharacter) {
   return zCharacter >= 'A' && zCharacter <= 'Z';
 }
@@ -63,7 +65,7 @@ constexpr char UpperCase(char zCharacter) {
   return UpperCaseTable[static_cast<unsigned char>(zCharacter)];
 }
 
-/// UpperCase of each byte of `zText`.
+/// `zText` with UpperCase of each byte.
 inline std::string ToUpper(std::string_view zText) {
   std::string upper(zText);
   for (char& character : upper) {
@@ -72,7 +74,7 @@ inline std::string ToUpper(std::string_view zText) {
   return upper;
 }
 
-/// LowerCase of each byte of `zText`.
+/// `zText` with LowerCase of each byte.
 inline std::string ToLower(std::string_view zText) {
   std::string lower(zText);
   for (char& character : lower) {

@@ -37,14 +37,15 @@ std::string_view TakeDigits(std::string_view& zText) {
   return digits;
 }
 
-/// The value of `zDecimal`, which is digits with a point or an exponent; in every locale.
+/// The value of `zDecimal`: digits, perhaps with a point and an exponent. The locale does not
+/// count.
 double ToDouble(const std::string& zDecimal) {
   double value = 0;
   const char* const end = zDecimal.data() + zDecimal.size();
   if (std::from_chars(zDecimal.data(), end, value).ec == std::errc::result_out_of_range) {
     std::istringstream stream(zDecimal);
     stream.imbue(std::locale::classic());
-    stream >> value;  // the largest double when the number is beyond it, 0 when it is too small
+    stream >> value;  // gives the largest double for a number that is too large
     return value > 1 ? std::numeric_limits<double>::infinity() : 0;
   }
   return value;

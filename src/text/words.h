@@ -8,7 +8,7 @@ namespace loquitor {
 /// `zText` without the characters of `zAtStart` at its start and those of `zAtEnd` at its end.
 inline std::string_view Trim(std::string_view zText, std::string_view zAtStart,
                              std::string_view zAtEnd) {
-  // Loops, because they are compiled into a few comparisons; most lines of a file come by here.
+  // Every line of a file passes here, so these are loops that compile into a few comparisons.
   const auto isOneOf = [](std::string_view zSome, char zCharacter) {
     return std::any_of(zSome.begin(), zSome.end(), [=](char zOne) { return zOne == zCharacter; });
   };
