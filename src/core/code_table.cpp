@@ -101,7 +101,7 @@ std::string CodeTable::TokenCodes(std::string_view zToken) const {
   if (index == NotFound) {
     return {};
   }
-  return index < FirstNote ? codes({index}) : codes({PitchCode, GetNotePitch(index)});
+  return index < CodeCount ? codes({index}) : codes({PitchCode, GetNotePitch(index)});
 }
 
 std::uint8_t CodeTable::GetNotePitch(std::int16_t zNoteIndex) const {

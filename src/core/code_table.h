@@ -9,24 +9,26 @@
 namespace loquitor {
 
 /// The codes of the chip and their mnemonics. Entries 0 to 255 are chip codes. Entries 301 to 352
-/// are notes: 300 + 20 x (octave - 1) + position, which is 1 to 12 from C to B. Entries without a
-/// mnemonic are empty. The table is empty until BuildCodeTable and read-only afterwards.
+/// are notes: the index is 300 + 20 x (octave - 1) + position, where the octave is 1 to 3 and the
+/// position 1 to 12 from C to B. Entries without a mnemonic are empty. docs/say-data.md lists all
+/// others.
 class CodeTable {
  public:
   static constexpr std::int16_t EntryCount = 401;
   static constexpr std::int16_t NotFound = 401;   ///< result of GetCodeIndex for no match
-  static constexpr std::int16_t FirstNote = 256;  ///< indexes below are chip codes
+  static constexpr std::int16_t CodeCount = 256;  ///< indexes below this are chip codes
 
-  /// Fills the table.
+  /// Fills the table, which is empty before. Call it once, before any other function.
   void BuildCodeTable();
 
   /// The index of the entry that equals `zMnemonic`, backslash included, in any letter case (A to
   /// Z), or NotFound.
   std::int16_t GetCodeIndex(std::string_view zMnemonic) const;
 
-  /// The code string of one token: a backslash and what follows it, without spaces around it. A
-  /// number from 1 to 255 at its start is a code, `\0` is code 0, and a note is two codes. Empty
-  /// for every other number and for names that no entry has.
+  /// The code string of one token: a backslash and the letters, digits and # after it. `\0` is code
+  /// 0. A number from 1 to 255 at the start is that code. A mnemonic is its code; a note is two
+  /// codes, 22 and its pitch. Empty for a number above 255 and for a name that no entry has.
+  /// `zToken` must not be empty.
   std::string TokenCodes(std::string_view zToken) const;
 
   /// The mnemonic of a chip code with its backslash, or the empty text when it has none.

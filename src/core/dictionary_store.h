@@ -11,9 +11,10 @@
 
 namespace loquitor {
 
-/// One state of the dictionary, for many lookups. It never changes.
+/// One state of the dictionary, for many lookups. Never changes.
 class DictionarySnapshot {
  public:
+  /// `zFile` is one state of the dictionary's file; not null.
   explicit DictionarySnapshot(std::shared_ptr<const ProfileSnapshot> zFile);
 
   /// The entry of `zWord` as DictionaryStore::GetDictionaryValue gives it, or the empty text when
@@ -27,9 +28,9 @@ class DictionarySnapshot {
   std::shared_ptr<const ProfileSnapshot> file_;
 };
 
-/// The pronunciation dictionary (Loquitor.Dic) in the folder of the program's files, read and
-/// written a word at a time. Every call goes to the file as it is then. Texts are Windows-1252
-/// bytes.
+/// The pronunciation dictionary (Loquitor.Dic), read and written word by word. Every call reads or
+/// writes the file itself: nothing is kept in memory that could be stale. All texts are bytes in
+/// Windows-1252.
 class DictionaryStore {
  public:
   static constexpr std::string_view Section = "Words";  ///< the one section of the file
@@ -39,18 +40,20 @@ class DictionaryStore {
   /// `zFolder` is the folder of the program's files.
   explicit DictionaryStore(const std::filesystem::path& zFolder);
 
-  /// The entry of `zWord` (any letter case), at most MaxEntry bytes, without blanks around it or
-  /// trailing NULs. When the file, the section or the word is missing, the result is `zDefault`,
-  /// cut and trimmed likewise. An entry that is present and empty gives the empty text.
+  /// The entry of `zWord` (any letter case) in section `zSection`, cut to MaxEntry bytes and
+  /// trimmed by TrimSpacesAndNuls. When the file, the section or the word is missing, the result is
+  /// `zDefault`, cut and trimmed the same way. An entry that is present and empty gives the empty
+  /// text.
   std::string GetDictionaryValue(std::string_view zSection, std::string_view zWord,
                                  std::string_view zDefault) const;
 
-  /// Stores `zValue` under `zWord`, without its line breaks. False when it could not be stored.
+  /// Stores `zValue` under `zWord` in section `zSection`, without its line breaks. False when it
+  /// could not be stored; see ProfileFile::Write.
   bool SaveDictionaryValue(std::string_view zSection, std::string_view zWord,
                            std::string_view zValue) const;
 
-  /// Stores all `zEntries` as SaveDictionaryValue would one after the other, in one change of the
-  /// file. False, with the file as it was, when any of them could not be stored.
+  /// Stores all `zEntries` in Section, in one change of the file. False when any of them could not
+  /// be stored; then none is.
   bool SaveEntries(std::span<const ProfileValue> zEntries) const {
     return file_.Write(Section, zEntries);
   }

@@ -17,10 +17,9 @@ namespace {
 // dictionary whose entries double at every level: one on the length of the result, and one on the
 // work in entries, which also counts entries that add nothing to the result.
 
-/// What one look-up of a word inside an entry costs, in characters read.
+/// The work of looking up a word inside an entry, as a number of characters read.
 constexpr std::size_t LookUpWork = 32;
-/// How many characters of entries are read at most, for each byte of the Say Data and each byte
-/// that the result may have.
+/// The most work in entries, for each byte of the Say Data and each byte that the result may have.
 constexpr std::size_t EntryWorkPerByte = 8;
 
 /// The entry of a word under expansion, or the Say Data itself.
@@ -84,7 +83,7 @@ class Expansion {
     }
   }
 
-  /// The words of the Say Data itself are always looked up: they are as many as the caller wrote.
+  /// The words of the Say Data itself are always looked up: the caller limits their number.
   bool AllowsLookUp() { return walks_.size() == 1 || AllowsWork(LookUpWork); }
 
   bool AllowsWork(std::size_t zWork) {

@@ -11,11 +11,12 @@ namespace loquitor {
 using EntryLookUp = std::function<std::string(std::string_view zWord)>;
 
 /// Replaces the words of `zSayData` by their entries, recursively, and pauses by their mnemonics
-/// (docs/say-data.md). A word that is being expanded, in any letter case, counts as missing. The
-/// result ends before the first part that would make it longer than `zMaxLength` bytes.
+/// (docs/say-data.md). A word that occurs in its own expansion, in any letter case, counts as
+/// missing there. The result ends before the first part that would make it longer than `zMaxLength`
+/// bytes.
 ///
-/// The time is in proportion to `zMaxLength` and the length of `zSayData`, whatever the entries
-/// are. Entries that would cost more are left out. Nesting is bounded by memory only.
+/// Takes time proportional to `zMaxLength` plus the length of `zSayData`, whatever the entries are:
+/// entries that would take longer are left out. Only memory limits the depth of nesting.
 std::string ExpandWords(std::string_view zSayData, const EntryLookUp& zEntryOf,
                         std::size_t zMaxLength);
 

@@ -7,10 +7,10 @@
 namespace loquitor {
 namespace {
 
-/// Means "no word found"; no word that sorts from here on is found.
+/// Only words before this one are found.
 constexpr std::string_view Sentinel = "zzzzzzzzz!!!";
 
-/// What loading the blank-separated words of `zWords` makes of an empty Say Data.
+/// What loading the space-separated words of `zWords` puts into an empty Say Data box.
 std::string SayDataOf(const DictionarySnapshot& zDictionary, std::string_view zWords) {
   std::string sayData;
   ForEachWord(zWords, [&](std::string_view zWord) {
@@ -19,7 +19,7 @@ std::string SayDataOf(const DictionarySnapshot& zDictionary, std::string_view zW
   return sayData;
 }
 
-/// The first wanted word after `zCurrent` and before the sentinel, both excluded.
+/// The first wanted word after `zCurrent` and before the sentinel.
 std::optional<std::string> FirstAfter(const DictionarySnapshot& zDictionary,
                                       std::string_view zCurrent, const IsWantedSayData& zIsWanted) {
   std::string best(Sentinel);

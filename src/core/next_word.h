@@ -9,21 +9,21 @@
 
 namespace loquitor {
 
-/// Whether a search ends at a word. `zSayData` is what loading the word puts into an empty box:
-/// each entry and one blank.
+/// Whether a search may end at a word. `zSayData` is what loading the word puts into an empty Say
+/// Data box: its entry and a space. For a key with spaces in it, the entry of each of its words and
+/// a space.
 using IsWantedSayData = std::function<bool(std::string_view zSayData)>;
 
-/// The word of the dictionary file that follows `zCurrent` in alphabetical order. After the last
-/// word comes the first. Nothing when one pass through all words finds none.
+/// The word of the dictionary file that follows `zCurrent` in the order of their bytes. The first
+/// word follows the last one. With `zIsWanted`, words whose Say Data it refuses are skipped.
+/// Nothing when there is no such word.
 ///
 /// A word is the text before the first equals sign of a line, in any section, in lower case and
-/// without the blanks around it. `zCurrent` is compared in lower case too. Words are ordered by
-/// their bytes; words from "zzzzzzzzz!!!" on are never found. With `zIsWanted`, only words whose
-/// Say Data it accepts are found. A key with blanks in it counts as several words, each with its
-/// entry.
+/// without the blanks around it. `zCurrent` is compared in lower case too. Words from
+/// "zzzzzzzzz!!!" on are never found.
 ///
-/// Reads the file once or twice, and asks `zIsWanted` at most once for each word in each pass. A
-/// missing file has no words.
+/// Searches one state of the file, in at most two passes, and asks `zIsWanted` at most once for
+/// each line in each pass. A missing file has no words.
 std::optional<std::string> NextWord(const DictionaryStore& zDictionary, std::string_view zCurrent,
                                     const IsWantedSayData& zIsWanted = nullptr);
 

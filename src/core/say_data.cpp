@@ -16,8 +16,7 @@ SayDataTranslator::SayDataTranslator(const CodeTable& zCodeTable,
 
 namespace {
 
-/// Looks words up in the dictionary as it is now, so that all of them come from one state of the
-/// file.
+/// Looks words up in the dictionary as it is now: all of them come from one state of the file.
 EntryLookUp PresentEntries(const DictionaryStore& zDictionary) {
   return [dictionary = zDictionary.Snapshot()](std::string_view zWord) {
     return std::string(dictionary.Entry(zWord));

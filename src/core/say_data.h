@@ -16,18 +16,16 @@ class SayDataTranslator {
   /// Both must outlive the translator.
   SayDataTranslator(const CodeTable& zCodeTable, const DictionaryStore& zDictionary);
 
-  /// Replaces the dictionary words of `zSayData` by their entries, recursively, and pauses by their
-  /// mnemonics; the result is mnemonic text. A word that is being expanded counts as missing, and
-  /// what would make the result longer than MaxExpansion is dropped. All words come from one state
-  /// of the dictionary, that at the call. Never fails.
+  /// The mnemonic text of `zSayData`: ExpandWords with the entries of the dictionary at the time of
+  /// the call, and MaxExpansion as the limit. Never fails.
   std::string ExpandSayData(std::string_view zSayData) const;
 
-  /// The code string, one byte a code, of mnemonic text that ExpandSayData has made. Tokens that
-  /// are neither a mnemonic nor a number from 0 to 255 are dropped. Never fails.
+  /// The code string, one byte for each code, of mnemonic text that ExpandSayData has made. Tokens
+  /// for which CodeTable::TokenCodes has no codes are dropped. Never fails.
   std::string MnemonicsToCodes(std::string_view zText) const;
 
-  /// The words and mnemonics of `zSayData` for which the chip gets no code. Fast enough to ask
-  /// after every key. All words come from one state of the dictionary, that at the call.
+  /// The words and mnemonics of `zSayData` for which the chip gets no code, by the dictionary at
+  /// the time of the call. Fast enough to call after every key.
   std::vector<SilentPart> FindSilentParts(std::string_view zSayData) const;
 
   /// The most mnemonic text that one expansion makes, in bytes.
@@ -38,12 +36,12 @@ class SayDataTranslator {
   const DictionaryStore& dictionary_;
 };
 
-/// Mnemonic text in the form that is split into tokens: in upper case, with one space and a
-/// backslash in place of each run of characters other than A to Z, 0 to 9 and #. Such a run at the
-/// end goes.
+/// Mnemonic text in the form that is split into tokens: in upper case, with a space and a backslash
+/// in place of each run of characters other than A to Z, 0 to 9 and #. Such a run at the end is
+/// dropped.
 std::string NormalizeCodeText(std::string_view zText);
 
-/// The codes of a code string in decimal, separated by ", ".
+/// The codes of a code string as decimal numbers, separated by ", ".
 std::string CodeListText(std::string_view zOrvatoneCodes);
 
 }  // namespace loquitor

@@ -10,8 +10,7 @@ namespace loquitor {
 /// or a number sign.
 bool IsNameCharacter(char zCharacter);
 
-/// Characters of Say Data of one kind that follow each other, or have only ignored characters
-/// between them.
+/// Characters of one kind in Say Data, with nothing but ignored characters between them.
 struct SayDataRun {
   enum class Kind { Word, Spaces, Commas };
 
@@ -22,19 +21,18 @@ struct SayDataRun {
 };
 
 /// Reads the runs of a Say Data text from first to last (docs/say-data.md). Spaces at the end of
-/// the text are no run, because they give no pause.
+/// the text give no pause, so they are not a run.
 class SayDataRuns {
  public:
   /// `zSayData` must outlive the reader.
   explicit SayDataRuns(std::string_view zSayData) : rest_(zSayData), size_(zSayData.size()) {}
 
-  /// Puts the next run into `zRun`; false after the last one.
+  /// Puts the next run into `zRun`. False when there is none.
   bool Next(SayDataRun& zRun);
 
-  /// How many characters have been read.
+ private:
   std::size_t Position() const { return size_ - rest_.size(); }
 
- private:
   std::string_view rest_;
   std::size_t size_;
 };

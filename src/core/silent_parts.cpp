@@ -40,9 +40,10 @@ void ForEachToken(std::string_view zSayData, const SayDataRun& zRun, const Actio
   zDo(token, start, end);
 }
 
-/// The words that a text leads to, and which of them give a code. A word gives one when its entry
-/// has a mnemonic or a pause of its own, or names a word that gives one. So the words that name a
-/// word are kept with it, and a sound is handed on from word to word as soon as it is found.
+/// The words that a text leads to, and which of them give a code. A word gives a code when its
+/// entry has a mnemonic or a pause, or contains a word that gives one. Each word keeps a list of
+/// the words whose entries contain it, so that a code that is found can be passed on to them at
+/// once.
 class WordSounds {
  public:
   WordSounds(const EntryLookUp& zEntryOf, const CodeTable& zCodeTable)
@@ -94,7 +95,7 @@ class WordSounds {
     }
   }
 
-  /// Hands a sound to `zWord` and to all that leads to it.
+  /// Marks `zWord` and every word that leads to it.
   static void GiveSound(Word& zWord) {
     std::vector<Word*> sounding{&zWord};
     while (!sounding.empty()) {

@@ -12,20 +12,20 @@ namespace loquitor {
 /// A part of a Say Data text for which the chip gets no code.
 struct SilentPart {
   enum class Kind {
-    Word,     ///< not in the dictionary, or its entry gives no code either
-    Mnemonic  ///< a backslash without the name of a code and without a number from 0 to 255
+    Word,     ///< a word without an entry, or whose entry gives no code
+    Mnemonic  ///< a backslash that is not followed by the name of a code or a number 0 to 255
   };
 
   Kind kind;
   std::size_t start;   ///< offset of its first character in the text
-  std::size_t length;  ///< up to its last character; characters that Say Data ignores may be inside
+  std::size_t length;  ///< in characters, including those inside that Say Data ignores
 };
 
-/// The silent words and mnemonics of `zSayData`, in their order. Spaces, commas and ignored
-/// characters are never among them. A word whose entry gives nothing but pauses is not silent.
+/// The silent words and mnemonics of `zSayData`, in the order of the text. Spaces, commas and
+/// ignored characters are never silent parts. A word whose entry gives only pauses is not silent.
 ///
-/// Each word is looked up once, and only entries without a sound of their own lead to further ones.
-/// Costs time in proportion to `zSayData` and the entries looked up, cycles among them included.
+/// Each word is looked up at most once. Takes time proportional to the length of `zSayData` and of
+/// the entries that are looked up, even if they refer to each other in a circle.
 std::vector<SilentPart> FindSilentParts(std::string_view zSayData, const EntryLookUp& zEntryOf,
                                         const CodeTable& zCodeTable);
 

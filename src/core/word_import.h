@@ -9,9 +9,8 @@
 namespace loquitor {
 
 /// Reads a word list and collects the words that the dictionary lacks. The list may hold any bytes
-/// and comes in pieces of any size. Each run of the letters A to Z and a to z is a word, which is
-/// converted to lower case. All other bytes separate words. A new word that occurs again is
-/// collected again.
+/// and comes in pieces of any size. A word is a run of the letters A to Z and a to z, converted to
+/// lower case. All other bytes separate words. A new word that occurs twice is collected twice.
 class WordImport {
  public:
   /// Whether the dictionary has no entry for a word in lower case.
@@ -19,22 +18,22 @@ class WordImport {
 
   explicit WordImport(IsNewWord zIsNewWord) : isNewWord_(std::move(zIsNewWord)) {}
 
-  /// Takes the next bytes of the list. A word at their end may continue in the next piece.
+  /// Reads the next bytes of the list. A word at their end may continue in the next piece.
   void Feed(std::string_view zBytes);
 
-  /// Takes the last word. To be called once, after the last piece.
+  /// Ends the last word. Call it once, after the last piece.
   void Finish() { TakeWord(); }
 
-  /// What to add to the box: for each new word the word, an equals sign and a line break (LF).
+  /// What to add to the dictionary's text: each new word, followed by an equals sign and a LF.
   const std::string& AddedText() const { return addedText_; }
 
   /// Moves AddedText out; it is empty afterwards.
   std::string TakeAddedText() { return std::exchange(addedText_, {}); }
 
-  /// The number of words in AddedText.
+  /// The number of new words so far.
   std::size_t Count() const { return count_; }
 
-  /// The size so far of a word at the end of the last piece.
+  /// The size in bytes of the word at the end of the last piece, which may continue.
   std::size_t UnfinishedSize() const { return word_.size(); }
 
  private:

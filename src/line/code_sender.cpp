@@ -8,9 +8,9 @@ namespace {
 
 constexpr std::size_t LongestUnasked = 64;  // codes of a phrase that the chip's own buffer holds
 constexpr int ClosingDelay = 1000;          // milliseconds
-constexpr int DeepestSend = 8;  // sends within each other; a few kilobytes of stack each
+constexpr int DeepestSend = 8;              // nested sends; each takes a few kilobytes of stack
 
-// A turn lasts 2 ms at most, so a register write passes even at 2400 baud.
+// A turn lasts 2 ms at most, so these are 0.2 s. A register write takes less even at 2400 baud.
 constexpr int TurnsBeforeUserActs = 100;
 
 }  // namespace
@@ -94,7 +94,7 @@ PortFailure CodeSender::TryToOpen(bool zIsPhrase) {
 
 void CodeSender::WriteWithoutUserInput() {
   if (depth_ > DeepestSend) {
-    return;  // a timer made this send during such a one, which writes these bytes too
+    return;  // made by a timer during another send beyond the depth, which writes these bytes too
   }
   ++depth_;
   for (int turns = 0; turns < TurnsBeforeUserActs && !isLineSlow_ && !queue_.IsEmpty(); ++turns) {
@@ -147,7 +147,7 @@ void CodeSender::WriteNextByte() {
 
 void CodeSender::OnPortFailed() {
   if (!isPortShownOpen_) {
-    return;  // closed on purpose, or told already
+    return;  // closed on purpose, or shown already
   }
   isPortShownOpen_ = false;
   failure_ = {.error = PortError::Lost, .device = device_};

@@ -10,14 +10,18 @@
 
 namespace loquitor {
 
-/// What the port box shows.
-enum class PortState { Closed, Open, Failed };
+/// The state of the port, for the user.
+enum class PortState {
+  Closed,
+  Open,
+  Failed,  ///< could not be opened, or failed while it was open
+};
 
 /// Whether the user's clicks, keys and wheel are handled now or stay in the queue for later.
 enum class UserInput { Now, Later };
 
 /// What the sender needs of the program around it: the main window, loquitor-say, or a test.
-/// line/qt/event_turns.h has the last three for programs with a Qt event loop.
+/// line/qt/event_turns.h implements the last three for programs with a Qt event loop.
 class SenderHost {
  public:
   virtual ~SenderHost() = default;
@@ -29,26 +33,30 @@ class SenderHost {
   /// Whether the flow control check box is ticked.
   virtual bool IsFlowControlTicked() const = 0;
 
-  /// Shows the state of the port: white, green or red.
+  /// Shows the user the state of the port. The main window has a box that is white while it is
+  /// closed, green while it is open, and red after a failure.
   virtual void ShowPortState(PortState zState) = 0;
 
-  /// Asks whether a phrase of more than 64 codes is sent without flow control. True for Yes.
+  /// Asks the user whether to send a phrase of more than 64 codes without flow control. True for
+  /// Yes.
   virtual bool ConfirmLongPhrase() = 0;
 
-  /// The closing timer of the main window. When it fires the host calls
-  /// CodeSender::CloseSerialPort.
+  /// Stops the closing timer if it runs.
   virtual void StopClosingTimer() = 0;
+
+  /// Starts the closing timer, from the beginning if it runs. `zMilliseconds` later the host calls
+  /// CodeSender::CloseSerialPort.
   virtual void StartClosingTimer(int zMilliseconds) = 0;
 
   /// Handles the events that are pending and returns.
   virtual void LetEventsRun(UserInput zInput) = 0;
 
-  /// Waits for events and handles them: returns after the first ones, and after a few milliseconds
+  /// Waits for events and handles them. Returns after the first ones, and after a few milliseconds
   /// at the latest. Used while the port cannot take a byte.
   virtual void WaitForEvents(UserInput zInput) = 0;
 
-  /// While ticking is on the host calls CodeSender::Tick every few milliseconds out of its event
-  /// loop, also out of the loop of a modal window or message box.
+  /// Switches ticking on or off. While it is on, the host calls CodeSender::Tick every few
+  /// milliseconds from its event loop, also while a modal window or a message box runs that loop.
   virtual void SetTicking(bool zIsOn) = 0;
 };
 
@@ -66,15 +74,15 @@ class SendTicket {
 };
 
 /// Sends everything that goes to the chip. Opens the port on demand, writes bytes one at a time and
-/// lets the user interface run between them. All calls are made on one thread. Every call may be
-/// made from the events that run during a send.
+/// lets the user interface run between them. Call it from one thread only. Every call may be made
+/// from the events that run during a send.
 ///
 /// A send that starts during another one replaces the rest of that one: the bytes of the new send
 /// go out, then the older send finds nothing left and ends.
 ///
 /// Sends nest up to a fixed depth, so that dragging a bar on a slow line does not exhaust the
-/// stack. A send beyond that depth handles no user input while it writes. It first finishes a
-/// command string that has begun. After 0.2 s it hands its remaining bytes to the innermost send
+/// stack. A send beyond that depth handles no user input while it writes. A command string that has
+/// begun goes out whole before it. After 0.2 s it hands its remaining bytes to the innermost send
 /// that still accepts user input, so a line that takes no bytes does not lock the user out. Bytes
 /// that are handed over in the same turn of the event loop stay together; see SendQueue::Add.
 class CodeSender {
@@ -85,28 +93,34 @@ class CodeSender {
   CodeSender(const CodeSender&) = delete;
   CodeSender& operator=(const CodeSender&) = delete;
 
-  /// Sends `zCodes`, one byte a character, exactly as given. `zIsPhrase`: true for spoken code
-  /// strings (long-phrase question, hardware flow control), false for command strings. `zTicket`:
-  /// set to this send before its first byte, unless the user declines the long phrase. Returns when
-  /// the bytes have left for the line, or the rest was replaced or cleared. A port that cannot be
-  /// opened, or fails during the send, ends the send and shows red; see HasFailed.
+  /// Sends `zCodes`, one byte for each character, exactly as given.
+  ///
+  /// `zIsPhrase` is true for spoken code strings, false for command strings. Before a spoken one of
+  /// more than 64 codes the host is asked, unless flow control is ticked; if it declines, nothing
+  /// is sent. A port that is opened for a spoken one uses hardware flow control if that is ticked.
+  ///
+  /// `zTicket` is set to this send before its first byte, unless the host declines.
+  ///
+  /// Returns when the bytes have left for the line, or when the rest was replaced or cleared.
+  /// Beyond the fixed depth it also returns when the rest was handed over. If the port cannot be
+  /// opened or fails during the send, the send ends and the host shows the failure; see HasFailed.
   void SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase, SendTicket* zTicket = nullptr);
 
   /// Drops the rest of a send under way and sends StopSequence.
   void ShutUp();
 
-  /// Closes the port if it is open and shows it closed; else does nothing (a red box stays red).
-  /// A send under way ends.
+  /// Closes the port if it is open, and shows it closed. A send under way ends. Does nothing when
+  /// the port is not open, so a failure stays shown.
   void CloseSerialPort();
 
-  /// Empties PendingOutput, so that a send under way ends after the byte that it is writing.
+  /// Empties PendingOutput. A send under way then ends without another byte.
   void ClearPendingOutput() { queue_.Clear(); }
 
-  /// The bytes of the present send that are not yet written. Valid until the next call.
+  /// The bytes of the send under way that are not written yet. Valid until the next call.
   std::string_view PendingOutput() const { return queue_.Bytes(); }
 
-  /// Writes the next byte while the loop of a send is held up by a modal window that was opened
-  /// during it. Does nothing when no byte is pending or the port is not ready.
+  /// Writes the next byte. This keeps a send going while a modal window that was opened during it
+  /// holds up its own loop. Does nothing when no byte is pending or the port is not ready.
   void Tick();
 
   /// True while a send is under way, or several that nest.
@@ -117,10 +131,10 @@ class CodeSender {
     return zTicket.number_ != 0 && zTicket.number_ == current_;
   }
 
-  /// True when the last send found no open port, or the port has failed since.
+  /// True when the last send could not open the port, or the port has failed since.
   bool HasFailed() const { return failure_.error != PortError::None; }
 
-  /// Why; with PortError::None when HasFailed is false.
+  /// Why HasFailed is true. Its error is PortError::None when HasFailed is false.
   const PortFailure& Failure() const { return failure_; }
 
  private:
@@ -144,14 +158,13 @@ class CodeSender {
   std::size_t current_ = 0;    // the latest of them while it is under way
   int depth_ = 0;              // how many of them are under way
   int inputHolds_ = 0;         // how many UserInputHolds there are
-  bool isLineSlow_ = false;    // the user has waited long enough, and no byte has left since
+  bool isLineSlow_ = false;    // a send without user input gave up, and no byte was written since
   bool isPortShownOpen_ = false;
   PortFailure failure_;
-  std::string device_;  // opened last
+  std::string device_;  // the one that was opened last
 };
 
-/// While one lives, sends handle no user input: the user's clicks, keys and wheel wait in the
-/// queue.
+/// While one lives, sends handle no user input: clicks, keys and the wheel wait in the queue.
 class UserInputHold {
  public:
   /// `zSender` outlives it.

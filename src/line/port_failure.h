@@ -10,24 +10,24 @@ enum class PortError {
   None,
   NoDevice,      ///< the port number leads to no device
   Missing,       ///< the device does not exist
-  NotSerial,     ///< it is no serial port
-  InUse,         ///< another program has it
-  NotPermitted,  ///< the user may not open it
-  NotASpeed,     ///< the stored baud rate is none that the port can use
+  NotSerial,     ///< the device is no serial port
+  InUse,         ///< another program has the device open
+  NotPermitted,  ///< the user may not open the device
+  NotASpeed,     ///< the stored baud rate is no speed that the port can use
   Unusable,      ///< the system gave another reason
-  Lost,          ///< it failed after it was opened
+  Lost,          ///< the port failed after it was opened
 };
 
-/// What the last attempt to use a port came to.
+/// The result of an attempt to use a port.
 struct PortFailure {
   PortError error = PortError::None;
-  std::string device = {};    ///< as the settings name it; empty for NoDevice
-  std::string group = {};     ///< for NotPermitted: whose members may open the device; may be empty
+  std::string device = {};    ///< the device that was to be opened; empty for NoDevice
+  std::string group = {};     ///< for NotPermitted: the group that may open it; empty if unknown
   std::string baudRate = {};  ///< for NotASpeed: the stored text
 };
 
-/// Says in one or two sentences what is wrong with port `zNumber`, the number as the user wrote it
-/// (may be empty), and what to do. Empty when nothing is wrong.
+/// One or two sentences for the user: what is wrong with port `zNumber`, and what to do. `zNumber`
+/// is the number as the user typed it; it may be empty. The result is empty when nothing is wrong.
 std::string DescribeFailure(const PortFailure& zFailure, std::string_view zNumber);
 
 }  // namespace loquitor

@@ -48,7 +48,7 @@ const SerialDevice* FindTarget(const std::string& zDevice,
   if (const SerialDevice* device = Find(zDevice, zPresent)) {
     return device;
   }
-  std::error_code error;  // of a device that does not exist, or a system without such paths
+  std::error_code error;  // the path is then empty, which no device has
   return Find(std::filesystem::canonical(zDevice, error).string(), zPresent);
 }
 
@@ -67,7 +67,8 @@ std::string DeviceOfEntry(const std::string& zEntry, const SettingsFile& zSettin
   return (zSettings.Folder() / zEntry).string();
 }
 
-/// The line of port number `zNumber`, which leads to `zDevice`. Empty when there is nothing to say.
+/// The line of port number `zNumber`, which means `zDevice`. Empty for a number without an entry
+/// whose device does not exist.
 std::string DescribePort(int zNumber, const std::string& zDevice, const SerialDevice* zTarget,
                          bool zHasEntry) {
   const std::string line = std::to_string(zNumber) + ":  " + zDevice;

@@ -8,31 +8,35 @@
 
 namespace loquitor {
 
-/// A serial device of this machine. Texts are spelled as the platform spells file names (UTF-8 on
+/// A serial device of this machine. Texts are encoded as the platform encodes file names (UTF-8 on
 /// most systems).
 struct SerialDevice {
   std::string name;         ///< short name, for example ttyUSB0 or COM3
   std::string path;         ///< what opens it, for example /dev/ttyUSB0
-  std::string description;  ///< what the adapter calls itself; may be empty
+  std::string description;  ///< the adapter's own name; may be empty
 };
 
 /// Lists the devices that are present, in natural order of their names (ttyUSB2 before ttyUSB10).
-/// Takes milliseconds, so it is called only where the answer matters.
+/// This takes milliseconds, so DeviceForPort calls it only when the result depends on it.
 using DeviceSearch = std::function<std::vector<SerialDevice>()>;
 
-/// The device of port number `zNumber`; empty when there is none, as for every number below 1.
+/// The device of port number `zNumber`. Empty when there is none, as for every number below 1.
 ///
-/// The entry of that number in section [Ports] of the settings decides. The name of a device that
-/// is present means that device. An absolute path is used as it is. A relative one starts at the
-/// folder of the settings. On Windows a name that begins with COM or \\ is used as it is. Without
-/// an entry the device is COMn on Windows, and elsewhere the n-th of those present. Whether the
-/// device exists, and is a serial port, shows when it is opened.
+/// An entry with the number as its key in section [Ports] of the settings decides:
+///
+/// - an absolute path is used as it is,
+/// - the name or path of a present device means that device,
+/// - on Windows, a name that begins with COM or \\ is used as it is,
+/// - anything else is a path relative to the folder of the settings.
+///
+/// Without an entry the device is COMn on Windows, and elsewhere the n-th of the present devices.
+/// The device need not exist or be a serial port; opening it finds that out.
 std::string DeviceForPort(int zNumber, const SettingsFile& zSettings, const DeviceSearch& zPresent);
 
-/// Lists which port number leads where: a line for each number from 1 to 255 that has a device or
-/// an entry in [Ports], then one for each device that no number reaches. Advice when there is
-/// nothing to list. The last line names the folder of the settings. Lines are joined by a line
-/// feed.
+/// A text for the user that lists the port numbers. After a heading it has a line for each number
+/// from 1 to 255 whose device exists or that has an entry in [Ports], then a line for each device
+/// of `zPresent` that no number reaches. If there is nothing to list, it has advice instead. The
+/// last line names the folder of the settings. Lines are joined by line feeds.
 std::string DescribePorts(const SettingsFile& zSettings, const std::vector<SerialDevice>& zPresent);
 
 }  // namespace loquitor

@@ -6,8 +6,9 @@
 
 namespace loquitor {
 
-/// The bytes that are still to be written. They belong to one send, or to several that were made in
-/// the same turn of the event loop.
+/// The bytes that are still to be written. They belong to one send, or to several that were added.
+/// `zIsPhrase` is true for a spoken code string, which may be cut anywhere, and false for a command
+/// string, which Add lets out whole once it has begun.
 class SendQueue {
  public:
   /// Replaces all bytes by those of one send.
@@ -23,7 +24,7 @@ class SendQueue {
   /// Drops all bytes.
   void Clear();
 
-  /// Removes the first byte and returns it. Only when there is one.
+  /// Removes the first byte and returns it. The queue must not be empty.
   char TakeByte() { return bytes_[takenCount_++]; }
 
   /// The bytes in the queue. Valid until the next call that changes it.
@@ -37,10 +38,10 @@ class SendQueue {
  private:
   void DropWhatMayBeReplaced();
 
-  std::string bytes_;  // the taken ones stay at its start, so that taking costs nothing
+  std::string bytes_;  // begins with those already taken, so that taking one moves no others
   std::size_t takenCount_ = 0;
   std::size_t lastBegin_ = 0;  // where the bytes of the last turn begin
-  bool isLastPhrase_ = false;  // what those are
+  bool isLastPhrase_ = false;  // whether those are a phrase
   bool isAdding_ = false;      // Add was called in this turn
   bool wasCleared_ = false;
 };

@@ -6,7 +6,7 @@ namespace loquitor {
 
 namespace {
 
-// A queue of sixteen bytes lasts 8 ms at 19200 bits a second; looking every 2 ms keeps it filled.
+// A queue of sixteen bytes lasts 8 ms at 19200 bits per second. A tick every 2 ms keeps it filled.
 constexpr int TickMilliseconds = 2;
 
 QEventLoop::ProcessEventsFlags FlagsFor(UserInput zInput) {
@@ -27,8 +27,8 @@ void EventTurns::LetEventsRun(UserInput zInput) {
 
 void EventTurns::WaitForEvents(UserInput zInput) {
   Q_ASSERT(ticks_.isActive());
-  // When this is called from a posted event, the dispatcher does not know of the events posted
-  // after it, and would leave them until another one is posted.
+  // When this is called from a posted event, the dispatcher does not know of the events that were
+  // posted after it. It would leave them until another one is posted.
   QCoreApplication::sendPostedEvents();
   QCoreApplication::processEvents(FlagsFor(zInput) | QEventLoop::WaitForMoreEvents);
 }

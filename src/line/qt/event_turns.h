@@ -7,15 +7,15 @@
 
 namespace loquitor {
 
-/// Three functions of SenderHost on the Qt event loop; see there. Needs a QCoreApplication.
+/// The last three functions of SenderHost, on the Qt event loop. Needs a QCoreApplication.
 class EventTurns {
  public:
-  /// `zOnTick` calls CodeSender::Tick.
+  /// `zOnTick` must call CodeSender::Tick.
   explicit EventTurns(std::function<void()> zOnTick);
 
   void LetEventsRun(UserInput zInput);
 
-  /// Only while ticking: the tick ends a wait in which nothing else happens.
+  /// To be called only while ticking is on: the tick ends a wait in which nothing else happens.
   void WaitForEvents(UserInput zInput);
 
   void SetTicking(bool zIsOn);

@@ -30,7 +30,7 @@ PortError ErrorOf(QSerialPort::SerialPortError zError) {
 QtSerialPort::QtSerialPort() {
   QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
                    [this](QSerialPort::SerialPortError zError) { OnError(zError); });
-  // What arrives is never used, but must not pile up.
+  // Nothing that arrives is used, but it must not pile up.
   QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { DiscardReceived(); });
 }
 
@@ -51,7 +51,7 @@ PortFailure QtSerialPort::Open(const SerialPortSettings& zSettings) {
   if (failure.error == PortError::NotASpeed) {
     failure.baudRate = zSettings.baudRate;
   }
-  // A driver that does not call an unused transmitter empty does not know.
+  // A driver that does not report an unused transmitter as empty does not know.
   tellsTransmitter_ = isOpen_ && IsTransmitterEmpty(port_);
   return failure;
 }
@@ -113,7 +113,7 @@ bool QtSerialPort::WriteByte(std::uint8_t zByte) {
   if (!isOpen_ || port_.write(&byte, 1) != 1) {
     return false;
   }
-  static_cast<void>(port_.flush());  // false also when there was nothing to do; errors are latched
+  static_cast<void>(port_.flush());  // false also when there was nothing to do; OnError sees errors
   return isOpen_;
 }
 

@@ -7,28 +7,28 @@
 
 namespace loquitor {
 
-/// A serial port of the machine. Needs a QCoreApplication. Failures are noticed while its event
-/// loop runs, also when nothing is being sent.
+/// A serial port by Qt SerialPort. Needs a QCoreApplication. Its event loop notices failures, even
+/// when nothing is being sent.
 class QtSerialPort : public SerialPort {
  public:
   QtSerialPort();
   ~QtSerialPort() override;
 
-  /// `zSettings.device`: the name or path of a serial device or pseudo-terminal, symbolic links
-  /// included, as the file system spells it.
+  /// `zSettings.device` is the path of a serial device or pseudo-terminal, or of a symbolic link to
+  /// one, as the file system spells it.
   PortFailure Open(const SerialPortSettings& zSettings) override;
   void Close() override;
   bool IsOpen() const override { return isOpen_; }
   void DiscardReceived() override;
   bool IsReadyForByte() const override;
 
-  /// The byte is in the hands of the operating system when this returns true.
+  /// The operating system has the byte when this returns true.
   bool WriteByte(std::uint8_t zByte) override;
 
   int UnsentBytes() const override;
 
-  /// Closes the port when the line has taken what was handed over; discards nothing. Call it only
-  /// when UnsentBytes is 0, because it blocks while the line is held back.
+  /// Closes the port after the line has taken every byte; discards nothing. Call it only when
+  /// UnsentBytes is 0, because it blocks while the line is held back.
   void CloseWhenSent();
 
   void SetFailureHandler(std::function<void()> zHandler) override;
@@ -44,7 +44,7 @@ class QtSerialPort : public SerialPort {
   LineLock lock_;
   std::function<void()> failureHandler_;
   bool isOpen_ = false;
-  bool tellsTransmitter_ = false;  // the driver knows whether the transmitter is empty
+  bool tellsTransmitter_ = false;  // the driver says whether the transmitter is empty
   bool hasFailed_ = false;         // failed, but the layer below is not closed yet
 };
 

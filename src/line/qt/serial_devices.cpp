@@ -21,7 +21,7 @@ std::vector<SerialDevice> DevicesInAnyOrder() {
 
 #else
 
-/// macOS lists each device twice: cu.NAME for calling out, tty.NAME for lines that call in.
+/// macOS lists each device twice: as cu.NAME for calling out and as tty.NAME for being called.
 bool IsSecondName([[maybe_unused]] const QString& zName) {
 #ifdef Q_OS_MACOS
   return zName.startsWith("tty.");

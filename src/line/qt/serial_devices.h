@@ -6,8 +6,8 @@
 
 namespace loquitor {
 
-/// The serial devices that this machine has now, in natural order of their names. Asks the
-/// operating system each time (some milliseconds).
+/// The serial devices that are present now, in natural order of their names. Asks the operating
+/// system each time, which takes some milliseconds.
 std::vector<SerialDevice> PresentSerialDevices();
 
 /// Sorts by name in natural order: runs of digits compare as numbers.

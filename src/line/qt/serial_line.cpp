@@ -17,7 +17,7 @@ namespace loquitor {
 
 namespace {
 
-/// What the system's error `zError` says about a device that was to be opened.
+/// What the error number `zError` says about a device that was to be opened.
 PortError ErrorOf(int zError) {
   switch (zError) {
     case EACCES:
@@ -65,7 +65,7 @@ bool IsTransmitterEmpty([[maybe_unused]] const QSerialPort& zPort) {
 
 bool TakesByteNow(const QSerialPort& zPort) {
   pollfd line{.fd = zPort.handle(), .events = POLLOUT, .revents = 0};
-  return ::poll(&line, 1, 0) > 0;  // also for a line that has hung up: the write then tells
+  return ::poll(&line, 1, 0) > 0;  // also for a line that has hung up: the write then fails
 }
 
 void WaitForLine(const QSerialPort& zPort) {

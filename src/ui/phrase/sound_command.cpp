@@ -8,7 +8,7 @@
 namespace loquitor {
 
 bool IsNote(std::int16_t zCode) {
-  return zCode >= CodeTable::FirstNote;
+  return zCode >= CodeTable::CodeCount;
 }
 
 std::optional<std::uint8_t> ValueByte(std::string_view zBoxText) {
