@@ -12,10 +12,10 @@ namespace {
 constexpr double FrameMs = 2;
 static_assert(VocalTract::FrameSamples == VoiceSampleRate * 2 / 1000);
 
-/// Nobody is ever quite silent within a phrase.
+/// Within a phrase the breath never stops.
 constexpr double RestingBreath = 0.002;
 
-/// A stretch of a sound in which the sources of sound stay as they are. Amplitudes are factors.
+/// A part of a sound in which its sources have constant amplitudes, which are factors.
 struct Phase {
   double ms;
   double voice;
@@ -47,7 +47,8 @@ bool IsSyllabic(const Sound& zSound, const SoundContext& zContext) {
   return mayCarry && isAfterConsonant && !isBeforeVowel;
 }
 
-/// The length of a vowel by what follows it, after Klatt (1979).
+/// The duration of a vowel, which depends on what follows it. Source: Klatt (1979), see
+/// sound_table.cpp.
 double VowelMs(const Sound& zSound, const SoundContext& zContext) {
   double ms = 0.8 * zSound.ms;
   if (!zContext.isLastVowel) {
@@ -88,7 +89,7 @@ double FricativeMs(const Sound& zSound, const SoundContext& zContext) {
   return ms;
 }
 
-/// The parts of a stop, as the sounds around it make them.
+/// The parts of a stop, which depend on its neighbours.
 struct StopParts {
   double closureMs;
   double burst;
@@ -100,7 +101,7 @@ StopParts PartsOf(const Sound& zSound, const SoundContext& zContext) {
   StopParts parts{zSound.closureMs, FromDecibels(zSound.burstDecibels), zSound.breathMs,
                   FromDecibels(-21)};
   if (zContext.before == nullptr) {
-    parts.closureMs = zSound.isVoiced ? 30 : 4;  // nothing is heard of a closure after silence
+    parts.closureMs = zSound.isVoiced ? 30 : 4;  // after silence a closure cannot be heard
   } else if (IsObstruent(zContext.before)) {
     parts.closureMs *= 0.75;
   }
@@ -170,7 +171,7 @@ double Ease(double zShare) {
   return share * share * (3 - 2 * share);
 }
 
-/// The formants where two sounds meet, and the ways there within each of them.
+/// The formants at the border of two sounds, and the durations of the transitions to and from them.
 struct Meeting {
   std::array<double, 3> formants;
   double beforeMs;
@@ -194,7 +195,7 @@ Meeting Meet(const Sound& zBefore, const Sound& zAfter) {
   return meeting;
 }
 
-/// The targets that the sound strives for between its borders, from its beginning to its end.
+/// The targets of a sound between its borders.
 struct Course {
   std::array<double, 3> from;
   std::array<double, 3> to;
@@ -211,7 +212,7 @@ Course CourseOf(const Sound& zSound, const SoundContext& zContext) {
   return {AsArray(zSound.from), AsArray(zSound.to), 0.15, 0.85};
 }
 
-/// The meeting with the sound before, from the formants that the tract had at its end.
+/// The meeting with the sound before, at the formants that the tract had at the end of that sound.
 Meeting MeetingBefore(const Sound& zSound, const SoundContext& zContext, const Course& zCourse) {
   if (zContext.before == nullptr) {
     return {zCourse.from, 0, 0};
@@ -248,7 +249,7 @@ void MoveFormants(std::vector<TractFrame>& zFrames, const Sound& zSound,
   }
 }
 
-/// A nasal lowers the soft palate before it and a little after it.
+/// A nasal lowers the soft palate already before it begins and for a little while after it.
 void LowerPalate(std::vector<TractFrame>& zFrames, const Sound& zSound,
                  const SoundContext& zContext) {
   const bool isNasal = zSound.kind == SoundKind::Nasal;
@@ -271,11 +272,11 @@ std::array<double, 3> BandwidthsOf(const Sound& zSound, const TractFrame& zFrame
   if (zSound.kind == SoundKind::Nasal) {
     return {60, 200, 250};
   }
-  const bool isOpen = zFrame.breath > 0 && zFrame.voice <= 0;  // sound is lost below the folds
+  const bool isOpen = zFrame.breath > 0 && zFrame.voice <= 0;  // open folds absorb sound
   return isOpen ? std::array<double, 3>{250, 150, 220} : std::array<double, 3>{50, 70, 110};
 }
 
-/// After the last sound of a phrase the voice fades.
+/// Fades the end of the last sound of a phrase.
 void FadeOut(std::vector<TractFrame>& zFrames) {
   constexpr double fadeMs = 50;
   const double ms = FrameMs * static_cast<double>(zFrames.size());
@@ -297,7 +298,7 @@ bool IsVowel(const Sound& zSound) {
 std::vector<TractFrame> Articulate(const Sound& zSound, const SoundContext& zContext,
                                    const Manner& zManner) {
   std::vector<TractFrame> frames;
-  double due = 0;  // so that the lengths of the phases round as a whole
+  double due = 0;  // a sum, so that rounding errors of the phases do not add up
   for (const Phase& phase : PhasesOf(zSound, zContext)) {
     due += phase.ms / zManner.tempo;
     TractFrame frame{.voice = phase.voice * zManner.loudness,

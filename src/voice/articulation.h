@@ -7,27 +7,27 @@
 
 namespace loquitor {
 
-/// What is around a sound. A missing neighbour is silence.
+/// The neighbours of a sound. A null neighbour is silence.
 struct SoundContext {
   const Sound* before = nullptr;
   const Sound* after = nullptr;
   bool isLastVowel = true;           ///< no other vowel follows in this phrase
-  const TractFrame* from = nullptr;  ///< the last frame of `before`, from which to move on
+  const TractFrame* from = nullptr;  ///< the last frame of `before`; null when that is null
 };
 
-/// How a sound is said: the modifiers and controls that hold for it.
+/// How a sound is said: the effect of the modifiers and controls that apply to it.
 struct Manner {
-  double tempo = 1;     ///< its duration is divided by this
+  double tempo = 1;     ///< the duration is divided by this
   double loudness = 1;  ///< a factor
   bool isSoft = false;  ///< breathy
 };
 
-/// The movement of a sound, frame by frame: targets, duration and the ways to and from its
-/// neighbours. At least one frame.
+/// The movement of a sound, one frame for each 2 ms: its targets, and the transitions from and to
+/// its neighbours. At least one frame. docs/voice.md describes the rules.
 std::vector<TractFrame> Articulate(const Sound& zSound, const SoundContext& zContext,
                                    const Manner& zManner);
 
-/// True for the sounds that a syllable is built around.
+/// True for vowels and diphthongs.
 bool IsVowel(const Sound& zSound);
 
 }  // namespace loquitor

@@ -10,8 +10,8 @@ namespace {
 constexpr double VoiceGain = 0.2;
 constexpr double OscillatorGain = 0.5;
 
-/// Leaves what is below the knee as it is and bends what is above, however high, so that it stays
-/// below 1.
+/// Leaves amplitudes below the knee as they are and compresses higher ones, so that the result is
+/// always below 1.
 double Limit(double zSound) {
   constexpr double knee = 0.7;
   const double excess = (std::abs(zSound) - knee) / (1 - knee);
@@ -39,7 +39,8 @@ EventAction DecodeEvent(std::uint8_t zEvent) {
 ChipSound::ChipSound(PhraseLookup zPhrase, int zPatienceMs)
     : phrase_(zPhrase), player_(std::move(zPhrase), zPatienceMs) {}
 
-/// What sounds now ends within 3 ms, too slowly for a click.
+/// Lets the present sound fade out within a few milliseconds, so that cutting it off does not
+/// click.
 void ChipSound::FadeLastSample() {
   tail_ = last_;
   nextSample_ = VocalTract::FrameSamples;

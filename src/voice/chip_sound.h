@@ -14,40 +14,43 @@ namespace loquitor {
 /// (docs/wire-format.md).
 struct EventAction {
   bool saysPhrase;
-  int phrase;   ///< 0 to 15
-  bool isCall;  ///< the phrase comes before what waits in the queue, not after it
-  bool emptiesQueue;
-  bool restarts;  ///< goes on after a Wait
+  int phrase;         ///< 0 to 15
+  bool isCall;        ///< the phrase goes before the queue, not after it
+  bool emptiesQueue;  ///< before the phrase is added
+  bool restarts;      ///< ends a Wait
 };
+
+/// Decodes an event byte. Every byte is valid.
 EventAction DecodeEvent(std::uint8_t zEvent);
 
-/// Everything that the chip makes heard: the voice and its effects, and the synthesizer. A stand-in
-/// for the chip's own sound, described in docs/voice.md. The same calls give the same samples.
+/// The sound of the chip: the voice with its effects, and the synthesizer. It stands in for the
+/// chip's own sound; docs/voice.md describes it. The same calls give the same samples.
 class ChipSound {
  public:
-  /// See CodePlayer.
+  /// The arguments are those of CodePlayer.
   explicit ChipSound(PhraseLookup zPhrase, int zPatienceMs = 0);
 
-  /// Puts codes into the queue. A code and its value may come in different calls.
+  /// Adds codes to the end of the queue. A code and its value may come in different calls.
   void Say(std::string_view zCodes) { player_.Add(zCodes); }
 
-  /// Writes a register of the synthesizer; it sounds until it is changed.
+  /// Writes a register of the synthesizer; see Oscillators::SetRegister.
   void SetRegister(int zRegister, int zValue) { oscillators_.SetRegister(zRegister, zValue); }
 
-  /// Silence: the queue is empty, the voice and the synthesizer are at their defaults.
+  /// Silences the chip: empties the queue, ends a Wait, and returns the voice and the synthesizer
+  /// to their defaults.
   void Reset();
 
-  /// Empties the queue, restarts and says the phrase, in this order, as far as the event asks for
-  /// it.
+  /// Does what the event asks for, in this order: empties the queue, ends a Wait, says the phrase.
   void RunEvent(const EventAction& zEvent);
 
-  /// True while codes are being said or wait to be said; not while a Wait holds them.
+  /// True while codes are being said or are queued. False while a Wait holds them.
   bool IsSpeaking() const { return !player_.IsIdle(); }
 
-  /// True when nothing sounds and nothing will until the next call: also while a Wait holds.
+  /// True when nothing sounds except the end of a fade, and nothing will until another call changes
+  /// that. Also true during a Wait.
   bool IsQuiet() const;
 
-  /// The next samples, 16000 a second.
+  /// Renders the next samples, VoiceSampleRate per second.
   void Render(std::span<std::int16_t> zSamples);
 
  private:
@@ -60,7 +63,7 @@ class ChipSound {
   VocalTract::Samples frame_{};
   std::size_t nextSample_ = VocalTract::FrameSamples;
   double last_ = 0;  // the last sample before the limiter
-  double tail_ = 0;  // what fades of a sound that was cut off
+  double tail_ = 0;  // the fading rest of a sound that was cut off
 };
 
 }  // namespace loquitor

@@ -22,8 +22,6 @@ constexpr int Volume = 20;
 constexpr int Speed = 21;
 constexpr int Pitch = 22;
 constexpr int Bend = 23;
-constexpr int PinControl = 24;
-constexpr int PinState = 25;
 constexpr int Repeat = 26;
 constexpr int Call = 28;
 constexpr int Play = 29;
@@ -40,12 +38,12 @@ struct Pause {
 constexpr std::array<Pause, 7> Pauses{
     {{0, false}, {100, false}, {300, false}, {700, false}, {10, true}, {36, true}, {60, true}}};
 
-/// True where a phrase ends.
+/// Whether the sounds before `zCode` are said as the end of a phrase.
 bool EndsPhrase(int zCode) {
   const bool isPlainPause = zCode >= 0 && zCode < static_cast<int>(Pauses.size()) &&
                             !Pauses[static_cast<std::size_t>(zCode)].hasTransition;
-  const bool isStoredPhrase =
-      zCode == code::Call || zCode == code::Play;  // taken for a new beginning
+  // The look-ahead does not go into stored phrases.
+  const bool isStoredPhrase = zCode == code::Call || zCode == code::Play;
   return isPlainPause || isStoredPhrase || zCode == code::Wait || zCode == code::Delay;
 }
 
@@ -105,8 +103,8 @@ double CodePlayer::Tempo() const {
   return modifiers_.tempo * (settings_.speed + 14) / 128.0;
 }
 
-/// Takes codes until one of them sounds. A phrase that plays itself and holds no sound must not
-/// hold everything up, so that the number of codes is limited.
+/// Takes codes until one of them sounds. A phrase that plays itself and has no sound would never
+/// end, so the number of codes is limited.
 void CodePlayer::StartNext() {
   constexpr int mostCodesAtOnce = 1000;
   if (framesToWait_ > 0) {
@@ -204,9 +202,7 @@ void CodePlayer::TakeValue(int zCode, int zValue) {
     case code::Delay:
       StartPause(10.0 * zValue, false);
       break;
-    case code::PinControl:
-    case code::PinState:
-    default:
+    default:  // the codes of the output pins, which make no sound
       break;
   }
 }
@@ -221,7 +217,7 @@ void CodePlayer::StartPause(double zMs, bool zHasTransition) {
   }
 }
 
-/// Looks ahead in the queue as far as this phrase goes.
+/// Looks ahead in the queue to the end of this phrase.
 SoundContext CodePlayer::Surroundings(const Sound& zSound) const {
   SoundContext context{.before = before_, .from = before_ != nullptr ? &lastFrame_ : nullptr};
   if (repeatsLeft_ > 0) {

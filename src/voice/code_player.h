@@ -15,41 +15,44 @@
 
 namespace loquitor {
 
-/// The codes of the stored phrase in a slot; empty for a slot that is empty or does not exist.
+/// The codes of the stored phrase in slot `zSlot`, which may be 0 to 255. Empty for a slot that is
+/// empty or does not exist.
 using PhraseLookup = std::function<std::string(int zSlot)>;
 
-/// Says a queue of codes: sounds, effects, pauses and commands, in order.
-/// Codes that mean nothing to the chip are passed over.
+/// Says a queue of codes in order: sounds, effects, pauses and commands. Skips codes that mean
+/// nothing to the chip.
 class CodePlayer {
  public:
   static constexpr std::size_t MaxQueue = std::size_t{1} << 20;  ///< codes
 
-  /// `zPatienceMs`: how long the first code after a silence waits for those that follow, because a
-  /// sound is said differently by what comes next. 0 where all codes are there from the beginning.
+  /// `zPhrase` is called for the codes 28 and 29. `zPatienceMs` is how long the first code after a
+  /// silence waits for further codes, because the next sound changes how a sound is said. 0 is
+  /// right where all codes are added at once.
   explicit CodePlayer(PhraseLookup zPhrase, int zPatienceMs = 0);
 
-  /// Puts codes at the end of the queue. What does not fit is lost, as on the chip.
+  /// Adds codes to the end of the queue. Codes that do not fit are lost, as on the chip.
   void Add(std::string_view zCodes);
 
-  /// Puts codes before everything that waits in the queue.
+  /// Puts codes in front of the queue. If they do not all fit, all of them are lost.
   void AddFirst(std::string_view zCodes);
 
-  /// Empties the queue and stops the sound that is being said.
+  /// Empties the queue and stops the present sound.
   void Clear();
 
-  /// Clear, the settings of the voice at their defaults, and no Wait.
+  /// Clear, and ends a Wait and returns the voice's settings to their defaults.
   void Reset();
 
-  /// Goes on after a Wait.
+  /// Ends a Wait.
   void Restart() { isWaiting_ = false; }
 
   /// True between a Wait and a Restart or Reset.
   bool IsWaiting() const { return isWaiting_; }
 
-  /// True when nothing is left to say, or a Wait holds it.
+  /// True when nothing is left to say, or during a Wait. A command at the end of the queue whose
+  /// value is missing does not count.
   bool IsIdle() const;
 
-  /// The next 2 ms.
+  /// The samples of the next 2 ms.
   VocalTract::Samples Next();
 
  private:
@@ -92,7 +95,7 @@ class CodePlayer {
   VocalTract tract_;
   std::vector<TractFrame> frames_;  // of the sound that is being said
   std::size_t nextFrame_ = 0;
-  const Sound* before_ = nullptr;  // the sound that the next one is joined to
+  const Sound* before_ = nullptr;  // the sound that the next one follows without a gap
   TractFrame lastFrame_;
   double pitch_ = 0;
   EffectPlayer effect_;

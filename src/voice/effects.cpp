@@ -14,7 +14,7 @@ using enum Wave;
 
 constexpr double ToneMs = 200;
 
-/// The telephone's keys: two sines each (ITU-T Q.23).
+/// A telephone key: two sines (ITU-T Q.23).
 constexpr Effect TouchTone(std::uint8_t zCode, double zLowHz, double zHighHz) {
   return {.code = zCode,
           .wave = Sine,
@@ -311,7 +311,7 @@ double Between(double zStart, double zEnd, double zShare) {
   return zStart * std::pow(zEnd / zStart, zShare);
 }
 
-/// The height of a stroke, `zMs` after its beginning.
+/// The amplitude of a stroke, `zMs` after its start.
 double Height(const Effect& zEffect, double zMs) {
   const double left = zEffect.strokeMs * zEffect.soundingShare - zMs;
   const double edge = std::clamp(std::min(zMs, left) / EdgeMs, 0.0, 1.0);

@@ -6,42 +6,45 @@
 
 namespace loquitor {
 
+/// The form of an oscillation.
 enum class Wave : std::uint8_t { Sine, Square, Saw, Triangle, Noise };
 
-/// One value of a wave of height 1 at `zPhase` (0 to 1). `Noise` has no value of its own and gives
-/// 0.
+/// The value of a wave with amplitude 1 at `zPhase` (0 to 1). 0 for `Noise`, which is not a
+/// function of the phase.
 double WaveAt(Wave zWave, double zPhase);
 
-/// The recipe of a sound effect: a tone or noise that moves, by itself or in repeated strokes.
+/// The recipe of a sound effect: a tone or noise in one stroke, or in several that repeat.
 struct Effect {
   std::uint8_t code;
   Wave wave;
-  double startHz;  ///< at the beginning of each stroke
-  double endHz;    ///< at its end; the way is even in pitch
-  double strokeMs;
-  double ms;                 ///< the whole effect
-  double soundingShare = 1;  ///< of each stroke; the rest is silent
+  double startHz;            ///< at the start of each stroke
+  double endHz;              ///< at the end of each stroke; the pitch changes evenly
+  double strokeMs;           ///< duration of a stroke
+  double ms;                 ///< duration of the whole effect
+  double soundingShare = 1;  ///< share of each stroke that sounds; the rest is silent
   double fadeMs = 0;         ///< time constant of the decay in each stroke; 0 does not decay
-  double wobbleHz = 0;       ///< vibrato
-  double wobbleShare = 0;    ///< of the frequency, up and down
-  double ringHz = 0;         ///< multiplied with a sine of this frequency; 0 is off
-  double secondHz = 0;       ///< a second, steady sine in place of half the loudness; 0 is off
-  double filterStartHz = 0;  ///< of a resonance that moves through each stroke; 0 is off
-  double filterEndHz = 0;
+  double wobbleHz = 0;       ///< rate of a vibrato
+  double wobbleShare = 0;    ///< depth of the vibrato, as a share of the frequency
+  double ringHz = 0;         ///< frequency of a sine that multiplies the wave; 0 is off
+  double secondHz = 0;       ///< frequency of a steady sine that makes up half the sound; 0 is off
+  double filterStartHz = 0;  ///< a resonance's frequency at the start of each stroke; 0 is off
+  double filterEndHz = 0;    ///< and at its end
 };
 
-/// The row of an effect code, 200 to 254, or nothing for every other code.
+/// The effect of a code from 200 to 254; null for every other code.
 const Effect* FindEffect(std::uint8_t zCode);
 
 /// Plays one effect.
 class EffectPlayer {
  public:
-  /// Starts from the beginning. `zTempo` divides its times, `zLoudness` is its height.
+  /// Starts an effect from its beginning. Its durations are divided by `zTempo`. `zLoudness` is its
+  /// amplitude.
   void Start(const Effect& zEffect, double zTempo, double zLoudness);
 
+  /// True when the effect has been played to its end, and before the first Start.
   bool IsOver() const { return at_ >= length_; }
 
-  /// The next sample, between minus and plus the loudness.
+  /// The next sample, between minus and plus the loudness. There must have been a Start.
   double Next();
 
  private:

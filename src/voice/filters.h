@@ -6,34 +6,40 @@
 
 namespace loquitor {
 
-/// Samples per second of everything that src/voice makes.
+/// Samples per second of all sound.
 constexpr int VoiceSampleRate = 16000;
 
-/// The factor of an amplitude ratio in decibels.
+/// The amplitude factor of `zDecibels`.
 inline double FromDecibels(double zDecibels) {
   return std::pow(10.0, zDecibels / 20.0);
 }
 
 /// A pair of poles: the digital resonator of D. H. Klatt, "Software for a cascade/parallel formant
-/// synthesizer", J. Acoust. Soc. Am. 67 (1980), with a gain of 1 at 0 Hz.
+/// synthesizer", J. Acoust. Soc. Am. 67 (1980), with a gain of 1 at 0 Hz. Passes its input on
+/// unchanged until it is tuned.
 class Resonator {
  public:
-  /// Both in hertz, the frequency below half the sample rate. Keeps what rings in it.
+  /// Sets the frequency, below half the sample rate, and the bandwidth, both in hertz. What rings
+  /// in it goes on ringing.
   void Tune(double zFrequency, double zBandwidth) {
     const double radius = std::exp(-std::numbers::pi * zBandwidth / VoiceSampleRate);
     c_ = -radius * radius;
     b_ = 2 * radius * std::cos(2 * std::numbers::pi * zFrequency / VoiceSampleRate);
     a_ = 1 - b_ - c_;
   }
+
+  /// The output sample for the next input sample.
   double Next(double zInput) {
     const double output = a_ * zInput + b_ * last_ + c_ * beforeLast_;
     beforeLast_ = last_;
     last_ = output;
     return output;
   }
+
+  /// Forgets what rings in it.
   void Silence() { last_ = beforeLast_ = 0; }
 
-  /// The gain at `zFrequency`.
+  /// The gain at `zFrequency` in hertz.
   double GainAt(double zFrequency) const {
     const double angle = 2 * std::numbers::pi * zFrequency / VoiceSampleRate;
     const double real = 1 - b_ * std::cos(angle) - c_ * std::cos(2 * angle);
@@ -50,7 +56,7 @@ class Resonator {
   double beforeLast_ = 0;
 };
 
-/// A pair of zeros: undoes the Resonator of the same frequency and bandwidth.
+/// A pair of zeros: the inverse of the Resonator with the same frequency and bandwidth.
 class AntiResonator {
  public:
   void Tune(double zFrequency, double zBandwidth) { pole_.Tune(zFrequency, zBandwidth); }
@@ -67,10 +73,11 @@ class AntiResonator {
   Resonator pole_;  ///< remembers inputs, where a Resonator remembers outputs
 };
 
-/// White noise, evenly distributed between -1 and 1, the same in every run. The generator is that
-/// of Numerical Recipes (W. H. Press et al.), modulo 2^32.
+/// White noise, evenly distributed between -1 and 1, the same in every run. Source: the linear
+/// congruential generator of W. H. Press et al., "Numerical Recipes", modulo 2^32.
 class NoiseSource {
  public:
+  /// The next sample.
   double Next() {
     state_ = state_ * 1664525U + 1013904223U;
     return static_cast<double>(static_cast<std::int32_t>(state_)) / 2147483648.0;

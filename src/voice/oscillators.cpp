@@ -18,7 +18,7 @@ constexpr std::array<int, Oscillators::RegisterCount> Highest{
 constexpr int TonesEnveloped = 64;
 constexpr int NoisesHalfEnveloped = 128;
 constexpr int FirstNoise = 3;            // oscillators 4 and 5
-constexpr double EnvelopeHertz = 0.125;  // for each step of its register
+constexpr double EnvelopeHertz = 0.125;  // per step of its register
 constexpr double VolumeLimit = 63;
 constexpr double GainGlide = 1.0 / 48;  // time constant of 3 ms
 constexpr double UsualVolume = 96;

@@ -14,27 +14,27 @@ class Oscillators {
 
   Oscillators() { Reset(); }
 
-  /// A value outside the register's range counts as the nearest one inside. Registers that do not
-  /// exist are ignored.
+  /// Sets register `zRegister` (0 to 15) to `zValue`. A value outside the register's range counts
+  /// as the nearest one in it. Other registers are ignored.
   void SetRegister(int zRegister, int zValue);
 
-  /// The quiet state, at once: no oscillator sounds, master volume 96.
+  /// Returns to the quiet state at once: no oscillator sounds, and the master volume is 96.
   void Reset();
 
-  /// True when an oscillator has a volume and a frequency.
+  /// True when an oscillator has both a volume and a frequency above 0.
   bool IsSounding() const;
 
-  /// The factor that the master volume asks for everything that sounds: 1 at 96.
+  /// The factor that the master volume applies to all sound, the voice too: 1 at 96.
   double MasterGain() const;
 
-  /// The next sample; a sum of volumes of 63, the limit of the tone generators, has the height 1.
+  /// The next sample, without the master volume. Volumes that add up to 63 give an amplitude of 1.
   double Next();
 
  private:
   struct Oscillator {
     double phase = 0;
-    double gain = 0;   // glides to the volume, so that nothing clicks
-    double level = 0;  // of noise, held for half a period
+    double gain = 0;   // approaches the volume slowly, so that nothing clicks
+    double level = 0;  // the present value of noise, held for half a period
   };
   double Tone(Oscillator& zOscillator, double zHertz);
   double HeldNoise(Oscillator& zOscillator, double zHertz);

@@ -11,9 +11,9 @@ using enum NoisePlace;
 
 // Vowels: G. E. Peterson, H. L. Barney, "Control methods used in a study of the vowels", J. Acoust.
 // Soc. Am. 24 (1952), men. Consonants and diphthongs: table II of Klatt (1980). Durations: D. H.
-// Klatt, "Synthesis by rule of segmental durations in English sentences" (1979). Ranks and pulls
-// follow J. N. Holmes, I. G. Mattingly, J. N. Shearme, "Speech synthesis by rule", Language and
-// Speech 7 (1964). docs/voice.md says what was changed and why.
+// Klatt, "Synthesis by rule of segmental durations in English sentences" (1979). Ranks and pulls:
+// J. N. Holmes, I. G. Mattingly, J. N. Shearme, "Speech synthesis by rule", Language and Speech 7
+// (1964). docs/voice.md says what was changed and why.
 
 constexpr Border VowelBorder{1, 0.5, 0.5, 35, 35};
 constexpr Border LiquidBorder{4, 0.4, 0.4, 35, 45};

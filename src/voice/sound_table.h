@@ -7,7 +7,7 @@
 
 namespace loquitor {
 
-/// How a sound is made; the rules of articulation.h differ by it.
+/// How a sound is made. Each kind has its own rules in articulation.cpp.
 enum class SoundKind { Vowel, Glide, Nasal, Breath, Fricative, Stop };
 
 /// The first three formants in hertz.
@@ -17,39 +17,39 @@ struct Formants {
   double f3;
 };
 
-/// How a sound and its neighbour share the way between their formants. At the border the formants
-/// are those of the sound with the higher rank, moved by its pulls (0 to 1, for F1 and for F2 and
-/// F3) toward its neighbour's.
+/// The transition between a sound and its neighbour. The sound with the higher rank decides. At the
+/// border the formants are its own, moved toward those of its neighbour by its pulls: 0 does not
+/// move them, 1 moves them all the way.
 struct Border {
   int rank;
-  double f1Pull;
-  double pull;
-  double insideMs;   ///< of the way within the sound
-  double outsideMs;  ///< within its neighbour
+  double f1Pull;     ///< for the first formant
+  double pull;       ///< for the second and third formant
+  double insideMs;   ///< duration of the transition within the sound
+  double outsideMs;  ///< and within its neighbour
 };
 
-/// The targets of one sound at the usual speed.
+/// The targets of one sound at the default speed. Decibels are relative to the voice of a vowel.
 struct Sound {
   std::uint8_t code;
   SoundKind kind;
-  double ms;  ///< vowel: at the end of a phrase; obstruent: its noise
-  Formants from;
-  Formants to;  ///< differs from `from` in diphthongs
+  double ms;      ///< duration; of a vowel at the end of a phrase, of a stop its noise alone
+  Formants from;  ///< at the start
+  Formants to;    ///< at the end; differs from `from` in diphthongs
   Border border;
   bool isVoiced = true;
-  double voiceDecibels = 0;  ///< below a vowel's
+  double voiceDecibels = 0;
   NoisePlace place = NoisePlace::None;
-  double noiseDecibels = 0;  ///< of the steady noise, against a vowel's voice
-  double closureMs = 0;      ///< stops and affricates
+  double noiseDecibels = 0;  ///< of the steady noise
+  double closureMs = 0;      ///< of stops and affricates, as all below
   double burstMs = 0;
   double burstDecibels = 0;
-  double breathMs = 0;  ///< aspiration after the burst
+  double breathMs = 0;  ///< of the aspiration after the burst
 };
 
-/// The sounds 128 to 199, in code order.
+/// The sounds of the codes 128 to 199, in this order.
 std::span<const Sound> SoundTable();
 
-/// The row of a code, or nothing for a code that is no sound of the voice.
+/// The sound of a code from 128 to 199; null for every other code.
 const Sound* FindSound(std::uint8_t zCode);
 
 }  // namespace loquitor

@@ -6,7 +6,7 @@ namespace loquitor {
 
 namespace {
 
-/// The formants above the third hardly differ among sounds: those of a tube of 17 cm.
+/// The formants above the third hardly differ among sounds. These are those of a tube of 17 cm.
 struct Pole {
   double frequency;
   double bandwidth;
@@ -15,8 +15,8 @@ constexpr std::array<Pole, 5> UpperFormants{
     {{3400, 250}, {4400, 300}, {5400, 450}, {6400, 600}, {7400, 700}}};
 
 constexpr double OpenQuotient = 0.6;  // of the glottal cycle
-constexpr double Jitter = 0.006;      // of the length of a cycle, at most
-constexpr double TiltCutoff = 2600;   // hertz; the folds do not close all at once
+constexpr double Jitter = 0.006;      // largest random change of a cycle's pitch
+constexpr double TiltCutoff = 2600;   // hertz; the folds do not close abruptly
 constexpr double MouthGain = 1.5;
 constexpr double NasalPole = 270;      // hertz
 constexpr double NasalZeroRise = 190;  // hertz, for a full murmur
@@ -34,10 +34,9 @@ struct NoiseSpectrum {
 constexpr double Off = -200;
 constexpr Band NoBand{1000, 1000, Off};
 
-/// Measured spectra put into three bands and a flat part: A. Jongman, R. Wayland, S. Wong,
-/// "Acoustic characteristics of English fricatives", J. Acoust. Soc. Am. 108 (2000), and for the
-/// bursts K. N. Stevens, "Acoustic Phonetics" (1998), chapter 7. In the
-/// order of NoisePlace.
+/// Measured spectra, as three bands and a flat part, in the order of NoisePlace. Sources: A.
+/// Jongman, R. Wayland, S. Wong, "Acoustic characteristics of English fricatives", J. Acoust. Soc.
+/// Am. 108 (2000), and for the bursts K. N. Stevens, "Acoustic Phonetics" (1998), chapter 7.
 constexpr std::array<NoiseSpectrum, 9> Spectra{{
     {{NoBand, NoBand, NoBand}, Off},
     {{{{500, 500, 0}, {1400, 900, -5}, NoBand}}, -16},
@@ -54,8 +53,9 @@ const NoiseSpectrum& SpectrumOf(NoisePlace zPlace) {
   return Spectra.at(static_cast<std::size_t>(zPlace));
 }
 
-/// What rounds a unit step off, `zDistance` (0 to 1) samples from it: added before the step and
-/// taken away after it, this keeps tones above half the sample rate from folding back (PolyBLEP).
+/// The correction of a sample that is `zDistance` (0 to 1) samples away from a unit step. It is
+/// added to the sample before the step and subtracted from the sample after it. So tones above half
+/// the sample rate do not alias (PolyBLEP).
 double StepRest(double zDistance) {
   return 0.5 * (1 - zDistance) * (1 - zDistance);
 }
@@ -89,8 +89,7 @@ void VocalTract::TuneNoise(NoisePlace zPlace) {
   const NoiseSpectrum& spectrum = SpectrumOf(zPlace);
   for (std::size_t i = 0; i < BandCount; ++i) {
     bands_[i].Tune(spectrum.bands[i].frequency, spectrum.bands[i].bandwidth);
-    const double sign =
-        i % 2 == 0 ? 1 : -1;  // so that neighbours do not cancel between their peaks
+    const double sign = i % 2 == 0 ? 1 : -1;  // neighbours do not cancel between their peaks
     bandGains_[i] = sign * FromDecibels(spectrum.bands[i].decibels) /
                     bands_[i].GainAt(spectrum.bands[i].frequency);
   }
@@ -105,8 +104,8 @@ void VocalTract::Tune(const TractFrame& zFrame) {
   TuneNoise(zFrame.place);
 }
 
-/// The next sample of the flow's derivative: the polynomial pulse of D. H. Klatt and L. C. Klatt,
-/// J. Acoust. Soc. Am. 87 (1990), with its closing smoothed.
+/// The next sample of the derivative of the glottal flow. Source: the polynomial pulse of D. H.
+/// Klatt and L. C. Klatt, J. Acoust. Soc. Am. 87 (1990), here with its closing smoothed.
 double VocalTract::NextPulse(double zPitch) {
   if (zPitch <= 0) {
     return 0;
@@ -115,7 +114,7 @@ double VocalTract::NextPulse(double zPitch) {
   double output = 0;
   const double before = phase_;
   phase_ += step;
-  if (before < OpenQuotient && phase_ >= OpenQuotient) {  // the jump from -1 to 0 has come
+  if (before < OpenQuotient && phase_ >= OpenQuotient) {  // just past the step from -1 to 0
     output -= StepRest((phase_ - OpenQuotient) / step);
   }
   if (phase_ >= 1) {
@@ -125,7 +124,7 @@ double VocalTract::NextPulse(double zPitch) {
   if (phase_ < OpenQuotient) {
     const double x = phase_ / OpenQuotient;
     output += 2 * x - 3 * x * x;
-    if (phase_ + step >= OpenQuotient) {  // it comes next
+    if (phase_ + step >= OpenQuotient) {  // just before the step
       output += StepRest((OpenQuotient - phase_) / step);
     }
   }

@@ -7,7 +7,7 @@
 
 namespace loquitor {
 
-/// The spectra of noise that is made in the mouth, by place.
+/// The place in the mouth where noise is made. Each has its own spectrum.
 enum class NoisePlace { None, Lips, LipsTeeth, Teeth, Gum, GumRound, Palate, SoftFront, SoftBack };
 
 /// What the vocal tract does during one frame. Frequencies and bandwidths are in hertz; amplitudes
@@ -15,15 +15,15 @@ enum class NoisePlace { None, Lips, LipsTeeth, Teeth, Gum, GumRound, Palate, Sof
 struct TractFrame {
   std::array<double, 3> formants{500, 1500, 2500};
   std::array<double, 3> bandwidths{60, 90, 150};
-  double voice = 0;   ///< of the vocal folds
-  double breath = 0;  ///< noise of the open vocal folds, through all formants
-  double noise = 0;   ///< noise made in the mouth
-  NoisePlace place = NoisePlace::None;
-  double nasality = 0;  ///< 0 mouth only, 1 the murmur of a nasal
+  double voice = 0;   ///< amplitude of the vocal folds
+  double breath = 0;  ///< amplitude of the noise of the open vocal folds, through all formants
+  double noise = 0;   ///< amplitude of the noise made in the mouth
+  NoisePlace place = NoisePlace::None;  ///< of `noise`; None keeps the last place
+  double nasality = 0;                  ///< 0 for the mouth only, 1 for the murmur of a nasal
 };
 
-/// A cascade and parallel formant synthesizer: one frame of movement in, samples out.
-/// docs/voice.md describes it. The same frames give the same samples.
+/// A cascade and parallel formant synthesizer, which turns frames into samples. docs/voice.md
+/// describes it. The same frames give the same samples.
 class VocalTract {
  public:
   static constexpr std::size_t FrameSamples = VoiceSampleRate / 500;  ///< 2 ms
@@ -31,11 +31,11 @@ class VocalTract {
 
   VocalTract();
 
-  /// The samples of one frame. `zPitch` in hertz; 0 whispers. Amplitudes glide from one frame to
-  /// the next, so that nothing clicks.
+  /// The samples of one frame. `zPitch` is in hertz; 0 whispers. Amplitudes change smoothly from
+  /// one frame to the next, so that nothing clicks.
   Samples Speak(const TractFrame& zFrame, double zPitch);
 
-  /// Forgets what still rings.
+  /// Silences the tract at once: nothing rings on.
   void Silence();
 
  private:
@@ -56,8 +56,8 @@ class VocalTract {
   double flatGain_ = 0;
   NoisePlace place_ = NoisePlace::None;
   NoiseSource noise_;
-  double phase_ = 0;    ///< of the glottal cycle, 0 to 1
-  double stretch_ = 1;  ///< of this cycle, by jitter
+  double phase_ = 0;    ///< in the glottal cycle, 0 to 1
+  double stretch_ = 1;  ///< jitter of this cycle: a factor of its pitch
   double tilt_ = 0;
   double voice_ = 0;
   double breath_ = 0;

@@ -21,7 +21,7 @@ void AddNumber(std::string& zBytes, std::uint32_t zNumber, int zSize) {
   }
 }
 
-/// The chunks of a WAV file up to its samples, numbers with the low byte first.
+/// Everything in a WAV file before its samples. Numbers have the low byte first.
 std::string Header(std::uint32_t zSampleBytes) {
   constexpr std::uint32_t plainSamples = 1;
   constexpr std::uint32_t channels = 1;

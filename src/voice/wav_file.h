@@ -7,11 +7,12 @@
 
 namespace loquitor {
 
-/// A WAV file of 16-bit mono samples, VoiceSampleRate of them a second. It is a valid file after
-/// every Write.
+/// A WAV file of 16-bit mono samples, VoiceSampleRate per second. It is a valid file after every
+/// Write that succeeds.
 class WavFile {
  public:
-  /// Creates the file or empties it. Throws std::system_error with the path and the cause.
+  /// Creates the file or empties it. Throws std::system_error with the path and the cause when it
+  /// cannot be written.
   explicit WavFile(const std::filesystem::path& zPath);
 
   /// Appends samples. Throws std::system_error when they cannot be written, or when the file would
@@ -24,7 +25,7 @@ class WavFile {
 
   std::filesystem::path path_;
   std::ofstream file_;
-  std::uint32_t bytes_ = 0;  // of samples
+  std::uint32_t bytes_ = 0;  // size of the samples
 };
 
 }  // namespace loquitor
