@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iostream>
+#include <span>
 #include <sstream>
 #include <string>
 #include <unordered_map>
@@ -82,7 +83,8 @@ int main(int zCount, char** zArguments) {
       continue;
     }
     Phones own;
-    for (const Segment& segment : PronounceWord(*source, ToLower(word))) {
+    const std::string lower = ToLower(word);
+    for (const Segment& segment : Pronounce(*source, std::span(&lower, 1)).front()) {
       own.push_back(WithoutSchwa(segment.phone));
     }
     const auto closest = std::min_element(

@@ -12,7 +12,7 @@ namespace {
 
 using enum Abbreviation::Needs;
 
-// The first one whose need is met is taken.
+// The first one whose needs are met counts.
 constexpr Abbreviation Abbreviations[] = {
     {"mr", Nothing, "mister"},
     {"mrs", Nothing, "missus"},
@@ -172,7 +172,7 @@ constexpr Unit Units[] = {
     {"x", "times", "times", true},
 };
 
-/// With a vowel letter and spelled all the same.
+/// Words in capitals that are spelled although they have a vowel letter.
 constexpr std::string_view SpelledCapitals[] = {
     "AAA",  "ABC",  "ABS", "AC",  "ADC", "ADHD", "AI",   "AKA", "AM",  "AOL",  "API", "ATM", "AVR",
     "CAD",  "CEO",  "CIA", "CPU", "DAC", "DIY",  "DNA",  "EPA", "ESP", "ETA",  "EU",  "FAQ", "FBI",

@@ -4,46 +4,47 @@
 
 namespace loquitor {
 
-/// How an abbreviation is read.
+/// An abbreviation and its words. docs/english.md lists all.
 struct Abbreviation {
   enum class Needs { Nothing, Period, PeriodAndNumber, PeriodAndCapital };
 
-  std::string_view shortForm;  ///< in lower case, without its period
-  Needs needs;                 ///< what has to follow for it to be one
-  std::string_view words;
-  bool mayEndSentence = false;  ///< its period may be a full stop too
+  std::string_view shortForm;   ///< in lower case, without its period
+  Needs needs;                  ///< what must follow the short form
+  std::string_view words;       ///< in lower case
+  bool mayEndSentence = false;  ///< its period may also end the sentence
 };
 
 /// What follows a short form in the text.
 struct AfterShortForm {
   bool hasPeriod;
-  bool isBeforeNumber;
-  bool isBeforeCapital;
+  bool isBeforeNumber;   ///< a digit follows, after the period and a space if there are any
+  bool isBeforeCapital;  ///< a space and a capital follow, after the period if there is one
 };
 
-/// The abbreviation that `zShortForm` (any letter case) is; null when it is none.
+/// The first abbreviation with this short form (any letter case) whose needs are met; null when
+/// there is none.
 const Abbreviation* FindAbbreviation(std::string_view zShortForm, const AfterShortForm& zAfter);
 
-/// A unit after a number.
+/// A unit that may follow a number.
 struct Unit {
   std::string_view symbol;
-  std::string_view one;
-  std::string_view many;
-  bool isWordToo = false;  ///< is a unit only when it touches the number
+  std::string_view one;    ///< its name after the number 1
+  std::string_view many;   ///< its name after other numbers
+  bool isWordToo = false;  ///< the symbol is a unit only right after the number, without a space
 };
 
-/// The unit with `zSymbol`, letter case counting; null when there is none.
+/// The unit with this symbol; letter case counts. Null when there is none.
 const Unit* FindUnit(std::string_view zSymbol);
 
-/// Whether `zWord` is spelled out: it has no vowel letter, or is written in capitals and known to
-/// be spelled, such as USB.
+/// Whether `zWord` is spelled letter by letter: it has no vowel letter and is none of the few such
+/// words that are spoken (hmm), or it is in capitals and on a list (USB).
 bool IsSpelledOut(std::string_view zWord);
 
-/// The number that `zWord` is as a Roman numeral from II to XX in capitals, in words; empty when it
-/// is none.
+/// The words of a Roman numeral in capitals with the value 2 to 20, except the single letters V and
+/// X. Empty for any other word.
 std::string_view RomanNumeralWords(std::string_view zWord);
 
-/// The name of a symbol, empty when it has none: "percent" for %.
+/// The name of a symbol, such as "percent" for %. Empty when it has none.
 std::string_view SymbolName(char zSymbol);
 
 }  // namespace loquitor

@@ -14,16 +14,16 @@ namespace loquitor {
 /// A dictionary text with its blank entries filled.
 struct FilledEntries {
   std::string text;
-  std::size_t count = 0;            ///< how many entries got sounds
-  std::vector<std::string> unread;  ///< words that stay blank because they have no reading
+  std::size_t count = 0;            ///< how many entries were filled
+  std::vector<std::string> unread;  ///< the words whose entries stay blank
 };
 
-/// Gives every entry of the dictionary text `zBoxText` (lines ended by LF) that has nothing but
-/// blanks after its first equals sign the sounds of its word. All other lines stay as they are;
-/// a word that Say Data cannot hold stays blank.
+/// Fills each blank entry of the dictionary text `zBoxText` (lines separated by LF) with the sounds
+/// of its word. An entry is blank when only blanks follow its first equals sign. It stays blank
+/// when the word has no reading or Say Data cannot hold it. All other lines stay as they are.
 ///
-/// `zGoOn` is asked after each line with the bytes read so far. When it returns false, the result
-/// is nothing.
+/// Calls `zGoOn` after each line with the number of bytes read so far. Nothing when that returns
+/// false.
 std::optional<FilledEntries> FillBlankEntries(
     std::string_view zBoxText, const EnglishReader& zReader,
     const std::function<bool(std::size_t zBytesRead)>& zGoOn);

@@ -1,5 +1,6 @@
-// The consonants of a word: a table of rules, read like that of the vowels. A consonant before a
-// vowel takes the form for that vowel; another one the form for the sound before it.
+// The consonants of a word: a table of rules. The first rule for a phone whose condition holds is
+// applied. A consonant before a vowel takes the form for that vowel; any other consonant takes the
+// form for the sound before it.
 
 #include <algorithm>
 #include <span>
@@ -10,7 +11,7 @@ namespace loquitor {
 
 namespace {
 
-/// What a condition may look at: a consonant in its word.
+/// A consonant in its word: what a condition may look at.
 struct ConsonantPlace {
   std::span<const SoundPiece> pieces;
   std::size_t at;
@@ -211,7 +212,8 @@ constexpr ConsonantRule ConsonantRules[] = {
     {Phone::S, Always, Sound::SE},
 };
 
-/// Every consonant has a rule that always holds; y is part of a vowel.
+/// There always is one: each consonant has a rule with the condition Always. Y never comes here,
+/// because a vowel rule takes it.
 const ConsonantRule& RuleAt(const ConsonantPlace& zPlace) {
   return *std::find_if(
       std::begin(ConsonantRules), std::end(ConsonantRules), [&zPlace](const ConsonantRule& zRule) {

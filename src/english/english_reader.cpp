@@ -20,15 +20,15 @@ using Kind = SpokenPiece::Kind;
 
 constexpr std::string_view SentencePause = "\\P3";
 
-/// Whether the words around a piece see it as a word of their sentence.
+/// Whether the source of phones gets the piece, as a word or as the neighbour of one.
 bool IsWordInSentence(const SpokenPiece& zPiece) {
   const bool isReadable = zPiece.text.size() <= PhoneSource::MaxWordLength &&
                           zPiece.text.find_first_of("0123456789#") == std::string::npos;
   return zPiece.kind == Kind::Word || (zPiece.kind == Kind::Entry && isReadable);
 }
 
-/// The phones of each piece from `zFrom` to before `zTo`, which are at most a sentence; none for
-/// those that are no word.
+/// The phones of each of `zPieces`, which are a sentence or a part of one. None for a piece that is
+/// neither a word nor a letter.
 std::vector<WordPhones> SentencePhones(PhoneSource& zSource, std::span<const SpokenPiece> zPieces) {
   std::vector<std::string> words;
   for (const SpokenPiece& piece : zPieces) {
@@ -53,7 +53,7 @@ std::vector<WordPhones> SentencePhones(PhoneSource& zSource, std::span<const Spo
 
 using PieceIterator = std::vector<SpokenPiece>::const_iterator;
 
-/// Where the sentence that begins at `zFrom` ends, or as much of it as the source takes at once.
+/// The end of the sentence that begins at `zFrom`, or of as much of it as the source takes at once.
 PieceIterator EndOfSentence(PieceIterator zFrom, PieceIterator zEnd) {
   const auto limit = zFrom + std::min<std::ptrdiff_t>(zEnd - zFrom, PhoneSource::MaxWords);
   const auto isSentence = [](const SpokenPiece& p) { return p.kind == Kind::Sentence; };
@@ -61,7 +61,7 @@ PieceIterator EndOfSentence(PieceIterator zFrom, PieceIterator zEnd) {
   return found == limit ? limit : found + 1;
 }
 
-/// The word as its vowels are compared with its phones: letters alone.
+/// The letters of the word. Their vowels are paired with its phones.
 std::string SpellingOf(const SpokenPiece& zPiece) {
   std::string spelling = zPiece.text;
   std::erase(spelling, '\'');
@@ -83,7 +83,7 @@ std::string EnglishReader::Mnemonics(const WordPhones& zPhones, std::string_view
   return mnemonics;
 }
 
-/// The Say Data of each piece, empty for a word without a reading.
+/// The Say Data of each piece. Empty for a pause and for a word without a reading.
 std::vector<std::string> EnglishReader::PieceSounds(const std::vector<SpokenPiece>& zPieces,
                                                     std::string_view zSeparator) const {
   std::vector<std::string> sounds;

@@ -13,23 +13,25 @@ namespace loquitor {
 /// English as Say Data.
 struct EnglishReading {
   std::string sayData;
-  std::vector<std::string> unread;  ///< what has no reading, in UTF-8, in the order of the text
+  /// What has no reading, in UTF-8: first characters, then mnemonics, then words.
+  std::vector<std::string> unread;
 };
 
-/// Reads English text: the words of the dictionary stay what they are, every other word becomes
-/// mnemonics. The rules are in docs/english.md.
+/// Reads English text: words of the dictionary stay as they are, all other words become mnemonics.
+/// The rules are in docs/english.md.
 class EnglishReader {
  public:
-  /// Both are kept by reference and must outlive the reader.
+  /// Both must outlive the reader.
   EnglishReader(PhoneSource& zSource, const CodeTable& zCodeTable);
 
-  /// Say Data that speaks `zText`. Words are separated by one blank, the mnemonics of a word follow
-  /// each other without any; a clause ends in a comma, a sentence in \P3. Reading the result again
-  /// gives the same. Costs the length of the text.
+  /// Say Data that speaks `zText` (UTF-8, as NormalizeEnglish takes it). Words are separated by a
+  /// space; the mnemonics of a word follow each other without one. A clause ends in a comma, a
+  /// sentence in \P3. Reading the result again gives the same result. Takes time proportional to
+  /// the length of the text.
   EnglishReading ReadText(std::string_view zText, const SayDataWords& zWords) const;
 
-  /// Say Data to store as the entry of `zWord`: mnemonics alone, separated by blanks. Empty when
-  /// the word has no reading or the entry would be longer than a dictionary holds.
+  /// Say Data to store as the entry of `zWord`: mnemonics only, separated by spaces. Empty when the
+  /// word has no reading or the entry would be longer than DictionaryStore::MaxEntry.
   std::string ReadWord(std::string_view zWord) const;
 
  private:

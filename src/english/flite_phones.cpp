@@ -1,9 +1,8 @@
-// The phones of words by the text analysis of flite: parts of speech, a lexicon, letter-to-sound
-// rules. No voice is loaded and nothing is synthesized.
+// The phones of words by flite's text analysis: parts of speech, a lexicon, letter-to-sound rules.
+// No voice is loaded and nothing is synthesized.
 //
-// flite ends the program on what it holds for a fatal error. The words that PhoneSource allows are
-// what keeps it from that: no character except letters and apostrophes ever reaches it, and no
-// token is long.
+// flite ends the program on errors that it takes for fatal. The words that PhoneSource allows cause
+// none: they are short, and have only letters and apostrophes.
 
 #include "english/phone_source.h"
 
@@ -25,7 +24,7 @@ struct DeleteVoice {
   void operator()(cst_voice* zVoice) const { delete_voice(zVoice); }
 };
 
-/// Adds the phones of a word of flite to `zPhones`.
+/// Adds the phones of one of flite's words to `zPhones`.
 void AddPhones(const cst_item* zWord, WordPhones& zPhones) {
   const cst_item* const word = item_as(zWord, "SylStructure");
   for (const cst_item* syllable = item_daughter(word); syllable != nullptr;
@@ -83,7 +82,7 @@ class FlitePhones : public PhoneSource {
   }
 
   std::unique_ptr<cst_voice, DeleteVoice> voice_;
-  cst_lexicon* lexicon_;  // of flite's own
+  cst_lexicon* lexicon_;  // belongs to flite
 };
 
 }  // namespace

@@ -6,7 +6,8 @@
 
 namespace loquitor {
 
-/// The phones of the name of a letter a to z; of its plural when an s follows it.
+/// The phones of a letter's name. `zLetter` is a letter a to z, or such a letter and an s for the
+/// plural.
 WordPhones LetterName(std::string_view zLetter);
 
 }  // namespace loquitor

@@ -9,16 +9,17 @@
 
 namespace loquitor {
 
-/// The words of a list that the dictionary cannot speak yet.
+/// The words of a list that the dictionary has no sounds for.
 struct NewWords {
   std::vector<ProfileValue>
       entries;                      ///< the words in lower case, in their order, with their sounds
   std::vector<std::string> unread;  ///< words that Say Data cannot hold, or without a reading
 };
 
-/// Finds the words of `zList` that `zWords` has no entry for, and their sounds. A word is letters
-/// and digits with at least one letter. One with an apostrophe or an accent cannot be a word of Say
-/// Data and is among `unread`; everything else between the words separates them.
+/// Finds the words of `zList` (UTF-8) that `zWords` has no entry for, and their sounds. A word is a
+/// run of letters, digits, #, apostrophes and characters beyond ASCII, with at least one letter.
+/// Apostrophes at its ends are removed. Say Data cannot hold a word with an apostrophe or a
+/// character beyond ASCII, so such a word is in `unread`. Each word is listed once.
 NewWords SoundOutNewWords(std::string_view zList, const EnglishReader& zReader,
                           const SayDataWords& zWords);
 

@@ -17,8 +17,8 @@ namespace {
 
 using Kind = SpokenPiece::Kind;
 
-/// Walks the plain text from its start to its end. Each Read routine reads what is at `at_` and
-/// moves past it.
+/// Reads the plain text from its start to its end. Each Read function reads what is at `at_` and
+/// moves `at_` past it.
 class Normalizer {
  public:
   Normalizer(PlainText zPlain, const SayDataWords& zWords)
@@ -61,7 +61,7 @@ class Normalizer {
     spoken_.pieces.push_back({zKind, std::string(zText)});
   }
 
-  /// Nothing is paused for at the beginning; of two pauses the longer one counts.
+  /// There is no pause at the beginning. Of two pauses in a row the longer one counts.
   void AddPause(Kind zKind) {
     if (spoken_.pieces.empty()) {
       return;
@@ -74,7 +74,7 @@ class Normalizer {
     }
   }
 
-  /// Words of the program's own, as in NumberReading.
+  /// Adds words in the form of NumberReading::words.
   void AddWords(std::string_view zWords) {
     ForEachWord(zWords, [this](std::string_view zWord) {
       if (zWord == ",") {
@@ -198,7 +198,7 @@ class Normalizer {
     return true;
   }
 
-  /// Whether a period that belongs to the word before ends the sentence, too.
+  /// Whether the period of an abbreviation, which has been read, also ends the sentence.
   bool EndsSentenceHere() const {
     return at_ >= text_.size() || At() == '\n' ||
            (At() == ' ' && (At(1) == '\0' || IsCapital(At(1))));
@@ -232,7 +232,7 @@ class Normalizer {
     }
   }
 
-  /// In capitals or without a vowel.
+  /// For the word before 's: Bs and USBs are plurals.
   static bool IsSpelled(std::string_view zWord) {
     const bool isOneCapital = zWord.size() == 1 && IsCapital(zWord[0]);
     return isOneCapital || IsSpelledOut(zWord);
@@ -262,7 +262,7 @@ class Normalizer {
     }
   }
 
-  /// A and I are words, unless the A is the letter itself, as in vitamin A.
+  /// A and I are words, except for the A in "vitamin A".
   void ReadSingleLetter(std::string_view zLetter) {
     const char letter = LowerCase(zLetter[0]);
     const bool isBeforeWord = At() == ' ' && (IsLetter(At(1)) || IsDigit(At(1)) || At(1) == '"');
@@ -318,7 +318,7 @@ class Normalizer {
     isInName ? AddWord("dot") : AddPause(Kind::Sentence);
   }
 
-  /// Minus before a number, a pause as a dash, nothing within a word.
+  /// A hyphen is "minus" before a number, a pause as a dash, and silent within a word.
   void ReadHyphens(std::size_t zCount, char zBefore) {
     const bool isOpen = zBefore == ' ' || zBefore == '\n' || zBefore == '(';
     if (zCount == 1 && isOpen && StartsWithNumber(Rest())) {
@@ -328,7 +328,7 @@ class Normalizer {
     }
   }
 
-  /// A row of the same symbol is a ruled line, which is a pause.
+  /// A row of the same symbol is a ruled line and gives a pause.
   void ReadNamedSymbol(char zSymbol, std::size_t zCount, char zBefore) {
     constexpr std::size_t ShortestRule = 3;
     if (zCount >= ShortestRule) {

@@ -11,11 +11,12 @@ namespace loquitor {
 /// A piece of an English text as it is spoken.
 struct SpokenPiece {
   enum class Kind {
-    Entry,     ///< a word of the dictionary, as it was typed: letters, digits and #
-    Word,      ///< a word to find the phones of: 1 to 60 characters a to z and apostrophe
-    Letter,    ///< a letter to spell, a to z; "ds" is the plural
-    Mnemonic,  ///< one or several without blanks between, with their backslashes, as typed
-    Clause,    ///< a short pause; never two pauses in a row
+    Entry,     ///< a word of the dictionary, as in the text: letters, digits and #
+    Word,      ///< any other word, as PhoneSource takes it
+    Letter,    ///< a letter to spell, a to z, or such a letter and an s for the plural
+    Mnemonic,  ///< one or several without spaces between them, with their backslashes, as in the
+               ///< text
+    Clause,    ///< a short pause; a pause never follows another
     Sentence,  ///< a long pause
   };
 
@@ -26,13 +27,13 @@ struct SpokenPiece {
 /// An English text as it is spoken.
 struct SpokenText {
   std::vector<SpokenPiece> pieces;
-  std::vector<std::string> unread;  ///< what has no reading, in UTF-8, in the order of the text
+  std::vector<std::string> unread;  ///< what has no reading, in UTF-8: characters, then mnemonics
 };
 
-/// Turns English text into what is said: numbers, abbreviations and symbols in words, capitals
-/// spelled, a pause for each stop. `zText` is UTF-8 (a byte that is none of it counts as
-/// Windows-1252). What docs/english.md does not list has no reading; it is told in `unread` and
-/// everything around it is read. The time is proportional to the length of the text.
+/// Turns English text into what is said: numbers, abbreviations and symbols become words, acronyms
+/// are spelled, punctuation becomes pauses. `zText` is UTF-8; a byte that is not UTF-8 counts as
+/// Windows-1252. What has no reading by docs/english.md is in `unread`, and everything around it is
+/// read. Takes time proportional to the length of the text.
 SpokenText NormalizeEnglish(std::string_view zText, const SayDataWords& zWords);
 
 }  // namespace loquitor

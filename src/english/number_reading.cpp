@@ -1,6 +1,6 @@
-// Readers are tried one after the other, from the most particular form (a time, a date) to the
-// plain number. Each looks at the text from the start of the number and says how much of it it has
-// read, or nothing.
+// The readers are tried one after the other, from special forms (a time, a date) to the plain
+// number. Each starts at the first character of the number. It returns nothing when the text does
+// not have its form.
 
 #include "english/number_reading.h"
 
@@ -20,7 +20,7 @@ namespace {
 
 using Reading = std::optional<NumberReading>;
 
-/// A place in the text that moves on as things are taken.
+/// A position in a text. The Take functions move it past what they take.
 class Cursor {
  public:
   explicit Cursor(std::string_view zText) : text_(zText) {}
@@ -39,7 +39,8 @@ class Cursor {
 
   std::string_view TakeDigits() { return TakeWhile(IsDigit); }
   std::string_view TakeLetters() { return TakeWhile(IsLetter); }
-  /// Exactly `zCount` digits that no other follows; empty, and nothing is taken, otherwise.
+  /// Exactly `zCount` digits without another one after them. If they are not there, takes nothing
+  /// and returns the empty text.
   std::string_view TakeDigits(std::size_t zCount) {
     for (std::size_t i = 0; i < zCount; ++i) {
       if (!IsDigit(Next(i))) {
@@ -114,7 +115,7 @@ Amount TakeAmount(Cursor& zCursor) {
   return amount;
 }
 
-/// The number without the zeros before it.
+/// CardinalWords without the leading zeros.
 std::string ValueWords(std::string_view zDigits) {
   const std::size_t first = zDigits.find_first_not_of('0');
   return CardinalWords(first == std::string_view::npos ? "0" : zDigits.substr(first));
@@ -125,7 +126,7 @@ std::string AmountWords(const Amount& zAmount) {
   return zAmount.decimals.empty() ? whole : whole + " point " + DigitWords(zAmount.decimals);
 }
 
-/// Whether four digits are read as a year where nothing says otherwise.
+/// Whether a plain number is read as a year.
 bool IsYear(std::string_view zDigits) {
   return zDigits.size() == 4 &&
          ((zDigits >= "1100" && zDigits <= "1999") || (zDigits >= "2010" && zDigits <= "2099"));
@@ -135,8 +136,8 @@ std::string PlainWords(std::string_view zDigits) {
   return IsYear(zDigits) ? YearWords(zDigits) : CardinalWords(zDigits);
 }
 
-/// Takes "million" and the like after a blank, or k, M at the number; what it is in words with a
-/// blank before it, or nothing.
+/// Takes a word such as "million" after a space, or k, K or M right after the number. Returns the
+/// word with a space before it, or the empty text.
 std::string TakeScale(Cursor& zCursor) {
   Cursor after = zCursor;
   const bool hasBlank = after.Take(' ');
@@ -195,7 +196,8 @@ bool EndsSentence(std::string_view zRest) {
          (zRest[0] == ' ' && IsCapital(zRest[1]));
 }
 
-/// Takes am, p.m. and the like, with a blank before it or not; " A M", or nothing.
+/// Takes am, p.m. and similar forms, with or without a space before them. Returns " A M" or " P M",
+/// or the empty text.
 std::string TakeHalfOfDay(Cursor& zCursor) {
   Cursor after = zCursor;
   after.Take(' ');
@@ -273,7 +275,7 @@ Reading ReadIsoDate(Cursor zCursor) {
                        zCursor.At()};
 }
 
-/// 12/31/2024: its numbers in order, as nothing says which of them is the month.
+/// 12/31/2024: the numbers in their order, because either of the first two may be the month.
 Reading ReadSlashDate(Cursor zCursor) {
   constexpr std::size_t LongestDay = 2;
   std::string words;
@@ -347,7 +349,7 @@ Reading ReadDigitGroups(Cursor zCursor) {
   return isPhoneNumber ? Reading({words, zCursor.At()}) : std::nullopt;
 }
 
-/// The first number of 10-20; the second is a number of its own.
+/// The first number of 10-20, with a "to". The second one is read as the next number.
 Reading ReadRange(Cursor zCursor) {
   const Amount first = TakeAmount(zCursor);
   if (!zCursor.Take('-') || !IsDigit(zCursor.Next())) {
@@ -358,7 +360,7 @@ Reading ReadRange(Cursor zCursor) {
                        zCursor.At()};
 }
 
-/// Two years are a range before they are groups of digits.
+/// 1990-1999, which otherwise looks like groups of digits.
 Reading ReadYearRange(Cursor zCursor) {
   Cursor after = zCursor;
   const std::string_view first = after.TakeDigits();
@@ -379,7 +381,7 @@ Reading ReadDotted(Cursor zCursor) {
   return points > 1 ? Reading({words, zCursor.At()}) : std::nullopt;
 }
 
-/// Takes the unit that follows, with a blank before it or not.
+/// Takes the unit that follows, with or without a space before it. Null when there is none.
 const Unit* TakeUnit(Cursor& zCursor) {
   constexpr std::size_t LongestUnit = 5;
   Cursor after = zCursor;
@@ -411,7 +413,7 @@ Reading ReadMeasure(Cursor zCursor) {
 }
 
 /// 5 €
-Reading ReadMoneyBehind(Cursor zCursor) {
+Reading ReadMoneyBeforeSign(Cursor zCursor) {
   const Amount amount = TakeAmount(zCursor);
   zCursor.Take(' ');
   const Currency* const currency = CurrencyOf(zCursor.Next());
@@ -429,7 +431,7 @@ Reading ReadHour(Cursor zCursor) {
   return isHour ? Reading({ValueWords(hour) + half, zCursor.At()}) : std::nullopt;
 }
 
-/// 1 1/2: the whole number, with an "and" for the fraction that follows.
+/// The 1 of 1 1/2, with an "and". The fraction is read as the next number.
 Reading ReadWholeBeforeFraction(Cursor zCursor) {
   const std::string_view whole = zCursor.TakeDigits();
   if (whole.empty() || !zCursor.Take(' ') || !IsDigit(zCursor.Next()) || !ReadFraction(zCursor)) {
@@ -445,10 +447,10 @@ Reading ReadPlain(Cursor zCursor) {
 }
 
 constexpr Reading (*Readers[])(Cursor) = {
-    ReadMoney,   ReadDotted,      ReadTime,        ReadRatio,
-    ReadIsoDate, ReadSlashDate,   ReadFraction,    ReadDecade,
-    ReadOrdinal, ReadYearRange,   ReadDigitGroups, ReadRange,
-    ReadHour,    ReadMoneyBehind, ReadMeasure,     ReadWholeBeforeFraction,
+    ReadMoney,   ReadDotted,          ReadTime,        ReadRatio,
+    ReadIsoDate, ReadSlashDate,       ReadFraction,    ReadDecade,
+    ReadOrdinal, ReadYearRange,       ReadDigitGroups, ReadRange,
+    ReadHour,    ReadMoneyBeforeSign, ReadMeasure,     ReadWholeBeforeFraction,
     ReadPlain};
 
 }  // namespace

@@ -6,21 +6,22 @@
 
 namespace loquitor {
 
-/// A number as it is read.
+/// A number in words.
 struct NumberReading {
-  /// In lower case, separated by blanks. A single capital is a letter that is spelled (P M); a
-  /// comma a pause.
+  /// Words in lower case, separated by spaces. A single capital is a letter to spell (P M). A comma
+  /// between spaces is a pause.
   std::string words;
-  std::size_t size;  ///< how many characters of the text that is, more than 0
+  std::size_t size;  ///< how many characters of the text were read, more than 0
 };
 
-/// Whether `zText` begins with a number: digits, or a decimal point or a sign of currency, or both,
-/// and digits.
+/// Whether `zText` begins with a number: an optional currency sign, an optional decimal point, a
+/// digit.
 bool StartsWithNumber(std::string_view zText);
 
-/// Reads the number at the beginning of `zText`, which has one, with what belongs to it: the signs
-/// of currency, percent and units around it, a time of day, a date, a fraction, the ending of an
-/// ordinal. `zText` is as ToPlainText makes it. Costs the length of what it reads.
+/// Reads the number at the start of `zText` and what belongs to it: a currency sign, a unit, the
+/// rest of a time or a date, a fraction, the ending of an ordinal. `zText` must be plain text (see
+/// ToPlainText) for which StartsWithNumber is true. Takes time proportional to the length of the
+/// number.
 NumberReading ReadNumber(std::string_view zText);
 
 }  // namespace loquitor

@@ -35,7 +35,7 @@ void AddWord(std::string& zWords, std::string_view zWord) {
   zWords += zWord;
 }
 
-/// 0 to 99; nothing for 0.
+/// Adds the words of 1 to 99, and nothing for 0.
 void AddBelowHundred(std::string& zWords, std::uint64_t zNumber) {
   if (zNumber >= std::size(BelowTwenty)) {
     AddWord(zWords, Tens[zNumber / 10]);
@@ -62,7 +62,7 @@ std::uint64_t ValueOf(std::string_view zDigits) {
   return value;
 }
 
-/// Puts `zEnding` in place of what `zWords` has from `zAt` on.
+/// `zWords` with `zEnding` in place of everything from offset `zAt` on.
 std::string EndingWith(std::string zWords, std::size_t zAt, std::string_view zEnding) {
   zWords.resize(zAt);
   return zWords.append(zEnding);

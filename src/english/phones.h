@@ -7,7 +7,8 @@
 
 namespace loquitor {
 
-/// The phones of American English, named as pronouncing dictionaries name them. AX is the schwa.
+/// The phones of American English, with the names of the CMU Pronouncing Dictionary, and AX for the
+/// schwa.
 enum class Phone : std::uint8_t {
   // clang-format off
   AA, AE, AH, AO, AW, AX, AY, EH, ER, EY, IH, IY, OW, OY, UH, UW,  // vowels
@@ -15,14 +16,15 @@ enum class Phone : std::uint8_t {
   // clang-format on
 };
 
+/// True for AA to UW.
 constexpr bool IsVowel(Phone zPhone) {
   return zPhone <= Phone::UW;
 }
 
-/// A phone of a word. The stress is that of its syllable.
+/// A phone of a word.
 struct Segment {
   Phone phone;
-  bool isStressed;
+  bool isStressed;  ///< whether its syllable is
 
   bool operator==(const Segment&) const = default;
 };
@@ -30,11 +32,11 @@ struct Segment {
 /// The phones of one word, in order.
 using WordPhones = std::vector<Segment>;
 
-/// The phone named `zName` in lower case; nothing when there is none.
+/// The phone with the name `zName`, in lower case. Nothing when there is none.
 std::optional<Phone> PhoneNamed(std::string_view zName);
 
-/// Phones written as "m ah1 n d ey": lower-case names separated by single blanks, a 1 after the
-/// vowel of a stressed syllable. Names that are none are left out.
+/// Reads phones such as "m ah1 n d ey": names in lower case, separated by spaces, with a 1 after
+/// each stressed phone. Unknown names are skipped.
 WordPhones PhonesFromText(std::string_view zText);
 
 }  // namespace loquitor

@@ -15,7 +15,8 @@ struct Replacement {
   std::string_view text;
 };
 
-/// By code point. Letters of Latin-1 and Latin Extended-A are in the table below.
+/// In the order of the code points. The table below has the letters of Latin-1 and Latin
+/// Extended-A.
 constexpr Replacement Replacements[] = {{0xA2, "\xA2"},
                                         {0xA3, "\xA3"},
                                         {0xA5, "\xA5"},
@@ -87,7 +88,8 @@ constexpr Replacement Replacements[] = {{0xA2, "\xA2"},
                                         {0xFE0F, ""},
                                         {0xFEFF, ""}};
 
-/// The plain letters of U+00C0 to U+017F, each followed by a blank. A lone hyphen: none.
+/// The plain letters of U+00C0 to U+017F, each followed by a space. The hyphens are the places of
+/// the multiplication and division signs.
 constexpr std::string_view LatinLetters =
     "A A A A A A AE C E E E E I I I I D N O O O O O - O U U U U Y Th ss "
     "a a a a a a ae c e e e e i i i i d n o o o o o - o u u u u y th y "
@@ -97,8 +99,8 @@ constexpr std::string_view LatinLetters =
     "W w Y y Y Z z Z z Z z s ";
 constexpr char32_t FirstLatinLetter = 0xC0;
 
-/// The code points of the bytes 0x80 to 0x9F of Windows-1252. Source: the code page's chart; the
-/// five unassigned bytes are themselves.
+/// The code points of the bytes 0x80 to 0x9F of Windows-1252. Source: the chart of the code page.
+/// The five unassigned bytes stand for the code points of the same value.
 constexpr char32_t HighControls[] = {
     0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -112,7 +114,7 @@ char32_t FromWindows1252(std::uint8_t zByte) {
   return IsBetween(zByte, 0x80, 0x9F) ? HighControls[zByte - 0x80] : zByte;
 }
 
-/// A character of a text and how many bytes it takes there.
+/// A character of a text and the number of its bytes.
 struct Decoded {
   char32_t character;
   std::size_t size;
@@ -154,7 +156,7 @@ void AppendUtf8(std::string& zText, char32_t zCharacter) {
   }
 }
 
-/// The letters of LatinLetters, by their code point less FirstLatinLetter.
+/// The letters of LatinLetters. The index is the code point minus FirstLatinLetter.
 std::vector<std::string_view> LatinLetterTable() {
   std::vector<std::string_view> table;
   for (std::string_view rest = LatinLetters; !rest.empty();) {
@@ -165,7 +167,7 @@ std::vector<std::string_view> LatinLetterTable() {
   return table;
 }
 
-/// The text to read for `zCharacter`, of U+0080 or above; null when it has no reading.
+/// The text to read for `zCharacter`, which is U+0080 or above. Null when it has no reading.
 const std::string_view* ReplacementOf(char32_t zCharacter) {
   static const std::vector<std::string_view> latin = LatinLetterTable();
   static constexpr std::string_view Nothing;

@@ -12,7 +12,7 @@ struct KnownWord {
   std::string_view phones;
 };
 
-/// What a source that drops apostrophes takes for another word, or reads letter by letter.
+/// Words that a source takes for other words because it drops apostrophes, or spells.
 constexpr KnownWord KnownWords[] = {
     {"a", "ax"},
     {"ain't", "ey1 n t"},
@@ -60,7 +60,7 @@ std::string AskedWord(const std::string& zWord) {
   return IsContractedNot(zWord) ? zWord.substr(0, zWord.size() - Not.size()) : zWord;
 }
 
-/// Puts right what the source says of `zWord`.
+/// Corrects what the source says for `zWord`.
 void Correct(const std::string& zWord, WordPhones& zPhones) {
   if (const KnownWord* const known = FindKnown(zWord)) {
     zPhones = PhonesFromText(known->phones);
@@ -90,10 +90,6 @@ std::vector<WordPhones> Pronounce(PhoneSource& zSource, std::span<const std::str
     Correct(zWords[i], phones[i]);
   }
   return phones;
-}
-
-WordPhones PronounceWord(PhoneSource& zSource, const std::string& zWord) {
-  return Pronounce(zSource, std::span(&zWord, 1)).front();
 }
 
 }  // namespace loquitor

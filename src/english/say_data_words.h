@@ -8,16 +8,16 @@
 
 namespace loquitor {
 
-/// What Say Data already means, so that English text may use it.
+/// What English text may use of Say Data.
 struct SayDataWords {
-  /// Whether the dictionary speaks a word: it has an entry that is not empty.
+  /// Whether the dictionary has an entry for a word that is not empty.
   std::function<bool(std::string_view zWord)> hasEntry;
-  /// Whether a text of a backslash, letters, digits and # is a mnemonic or a code.
+  /// Whether a backslash and letters, digits and # after it are a mnemonic or a code.
   std::function<bool(std::string_view zMnemonic)> isMnemonic;
 };
 
-/// The words of `zDictionary` as it is now; changes to it later do not count. `zTranslator` is kept
-/// by reference.
+/// The words of `zDictionary` as it is now; later changes do not count. `zTranslator` must outlive
+/// the result.
 SayDataWords WordsOf(const DictionaryStore& zDictionary, const SayDataTranslator& zTranslator);
 
 }  // namespace loquitor

@@ -9,8 +9,8 @@
 
 namespace loquitor {
 
-/// A stretch of a word once its vowels are sounds of the chip: a vowel with its sound, or a
-/// consonant that waits for one.
+/// A part of a word between the two steps below: a vowel with its sound, or a consonant that has no
+/// sound yet.
 struct SoundPiece {
   Phone phone;      ///< of a vowel: the first phone that it covers
   bool isStressed;  ///< whether its syllable is
@@ -18,17 +18,17 @@ struct SoundPiece {
   Sound vowel;  ///< the sound of a vowel; meaningless for a consonant
 };
 
-/// The first step from phones to sounds: `zPhones` with each vowel, and each vowel and r or l that
-/// are one sound, as the chip speaks it. `zSpelling` is the word in lower case; how a vowel is
-/// written decides some cases.
+/// The first step from phones to sounds: finds the sounds of the vowels. A sound may cover a vowel
+/// and the y before it or the r or l after it. A vowel that is not spoken is left out. `zSpelling`
+/// is the word in lower case; it decides some cases.
 std::vector<SoundPiece> VowelsToSounds(const WordPhones& zPhones, std::string_view zSpelling);
 
-/// The second step: the sounds of all pieces in order. Consonants have forms for front and back
-/// vowels beside them.
+/// The second step: the sounds of all pieces in order. The chip has forms of a consonant for front
+/// and for back vowels.
 std::vector<Sound> PiecesToSounds(const std::vector<SoundPiece>& zPieces,
                                   std::string_view zSpelling);
 
-/// The sounds of a word, by both steps. The rules are explained in docs/english.md.
+/// The sounds of a word, by both steps. docs/english.md explains the rules.
 std::vector<Sound> SoundsOfWord(const WordPhones& zPhones, std::string_view zSpelling);
 
 }  // namespace loquitor

@@ -5,7 +5,8 @@
 
 namespace loquitor {
 
-/// The sounds of the chip that speech is made of, by their codes; named as their mnemonics.
+/// The sounds of the chip that speech is made of. The values are their codes, the names their
+/// mnemonics.
 enum class Sound : std::uint8_t {
   // clang-format off
   IY = 128, IH, EY, EH, AY, AX, UX, AW, OH, OW, UH, UW,
@@ -19,6 +20,7 @@ enum class Sound : std::uint8_t {
   // clang-format on
 };
 
+/// Whether `zSounds` has `zSound`.
 constexpr bool IsOneOf(Sound zSound, std::initializer_list<Sound> zSounds) {
   for (const Sound sound : zSounds) {
     if (sound == zSound) {
@@ -28,15 +30,15 @@ constexpr bool IsOneOf(Sound zSound, std::initializer_list<Sound> zSounds) {
   return false;
 }
 
-/// Whether a vowel is spoken in the front of the mouth when it begins. The other vowels are back
-/// vowels.
+/// Whether a vowel begins in the front of the mouth. A consonant before it then takes its front
+/// form, and otherwise its back form.
 constexpr bool IsFrontVowel(Sound zVowel) {
   using enum Sound;
   return IsOneOf(
       zVowel, {IY, IH, EY, EH, AY, EYIY, EYRR, IYRR, IYEH, IYUW, EHLE, AXRR, RR, OHIH, OHIY, IHWW});
 }
 
-/// Whether a consonant after the vowel takes its back form.
+/// Whether a vowel ends in the back of the mouth. A consonant after it then takes its back form.
 constexpr bool ClosesBack(Sound zVowel) {
   using enum Sound;
   return IsOneOf(zVowel, {AX, UX, AW, OH, OW, UH, UW, AXUW, AYWW, OWWW, IYUW, IHWW});

@@ -10,7 +10,7 @@ namespace {
 constexpr std::size_t MostParts = 8;
 constexpr std::size_t LongestPart = 40;
 
-/// `zPart` cut to LongestPart bytes, at the end of a character.
+/// `zPart`, cut at the end of a character if it is longer than LongestPart bytes.
 std::string Shortened(std::string_view zPart) {
   if (zPart.size() <= LongestPart) {
     return std::string(zPart);

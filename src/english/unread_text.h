@@ -5,8 +5,8 @@
 
 namespace loquitor {
 
-/// What to tell of `zUnread` in one line, in UTF-8: each different part once in quotation marks, as
-/// far as it is short, and how many more there are. Empty when all was read.
+/// A line of text for the user that lists `zUnread` (UTF-8): the first eight different parts in
+/// quotation marks, each cut to 40 bytes, and the number of the others. Empty when `zUnread` is.
 std::string DescribeUnread(const std::vector<std::string>& zUnread);
 
 }  // namespace loquitor

@@ -1,5 +1,5 @@
 // The vowels of a word: a table of rules. The first rule whose phones are at a place and whose
-// condition holds is taken. Phones that no rule takes are consonants and stay.
+// condition holds is applied. Phones for which there is no rule are consonants.
 
 #include <algorithm>
 #include <array>
@@ -13,13 +13,13 @@ namespace loquitor {
 
 namespace {
 
-/// What a condition may look at: a place in a word.
+/// A place in a word: what a condition may look at.
 struct VowelPlace {
   std::span<const Segment> phones;
   std::size_t at;             ///< the first phone that the rule takes
   std::size_t next;           ///< the first phone after those
   std::string_view spelling;  ///< the word
-  std::string_view letters;   ///< of the vowel; empty when they are not known
+  std::string_view letters;   ///< that spell the vowel; empty when unknown
   bool isFirstVowel;
 
   bool IsAtEnd() const { return next == phones.size(); }
@@ -51,7 +51,7 @@ constexpr Condition StressedOrFirst = [](const VowelPlace& p) {
 constexpr Condition UnstressedSyllabic = [](const VowelPlace& p) {
   return !p.IsStressed() && !p.IsBeforeVowel() && !p.IsBefore(Phone::Y);
 };
-/// As in button: the t goes over into the n.
+/// As in button, where the t leads straight to the n.
 constexpr Condition InFinalTN = [](const VowelPlace& p) {
   return p.at >= 2 && p.IsAfter(Phone::T) && IsVowel(p.phones[p.at - 2].phone) &&
          p.IsBefore(Phone::N) && p.next + 1 == p.phones.size();
@@ -118,7 +118,7 @@ struct VowelRule {
       : phones{zPhone}, phoneCount(1), condition(zCondition), sound(), isSilent(true) {}
 };
 
-// In a word's phones an ah without stress is ax.
+// An AH without stress counts as AX here.
 constexpr VowelRule VowelRules[] = {
     {Phone::Y, Phone::UW, Always, Sound::IYUW},
     {Phone::Y, Phone::UH, Always, Sound::IYUW},
@@ -187,7 +187,7 @@ bool Takes(const VowelRule& zRule, VowelPlace& zPlace) {
   return zRule.condition(zPlace);
 }
 
-/// The rule for `zPlace`, whose end it sets; null for a consonant.
+/// The rule for `zPlace`; null for a consonant. Sets `zPlace.next`.
 const VowelRule* RuleAt(VowelPlace& zPlace) {
   const auto* const rule =
       std::find_if(std::begin(VowelRules), std::end(VowelRules),
