@@ -1,8 +1,8 @@
 #include "say/english_input.h"
 
+#include <array>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <vector>
 
 #include "english/new_words.h"
@@ -18,10 +18,15 @@ void TellUnread(std::string_view zWhat, const std::vector<std::string>& zUnread)
   }
 }
 
+/// The bytes of a file, which may be a pipe; nothing when it cannot be read.
 std::optional<std::string> ReadWhole(const std::string& zFile) {
   std::ifstream file(zFile, std::ios::binary);
-  std::string bytes{std::istreambuf_iterator<char>(file), {}};
-  return file ? std::make_optional(std::move(bytes)) : std::nullopt;
+  std::string bytes;
+  for (std::array<char, 4096> piece{}; file.good();) {
+    file.read(piece.data(), piece.size());
+    bytes.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+  }
+  return file.eof() ? std::make_optional(std::move(bytes)) : std::nullopt;
 }
 
 }  // namespace

@@ -11,24 +11,25 @@
 
 namespace loquitor {
 
-/// English as loquitor-say reads it. What it cannot read is told on standard error.
+/// Reads English for loquitor-say. Reports what it cannot read on standard error.
 class EnglishInput {
  public:
-  /// All are kept by reference and must outlive it.
+  /// All must outlive it.
   EnglishInput(const CodeTable& zCodeTable, const DictionaryStore& zDictionary,
                const SayDataTranslator& zTranslator);
 
-  /// False in a build that cannot read English; then nothing else may be called.
+  /// False in a build that cannot read English. Nothing else may be called then.
   bool IsAvailable() const { return source_ != nullptr; }
 
-  /// Say Data that speaks `zText`, by the dictionary as it is now.
+  /// Say Data that speaks `zText` (UTF-8), by the dictionary as it is now.
   std::string ToSayData(std::string_view zText) const;
 
-  /// Stores the sounds of every word of `zFile` that the dictionary has no sounds for, in one
-  /// change of its file. How many words those are; nothing when a file could not be read or
-  /// written, Complaint says which.
+  /// Adds to the dictionary the words of the list `zFile` that it has no sounds for, in one change
+  /// of its file. Returns the number of added words. Nothing when a file could not be read or
+  /// written; Complaint says which.
   std::optional<std::size_t> AddWords(const std::string& zFile);
 
+  /// What went wrong in AddWords.
   const std::string& Complaint() const { return complaint_; }
 
  private:

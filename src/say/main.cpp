@@ -32,13 +32,13 @@ int Complain(std::string_view zMessage, ExitStatus zStatus) {
   return zStatus;
 }
 
-/// Flushes standard output. Returns the exit status of a program that did all else.
+/// Flushes standard output. Returns the exit status if nothing else has failed.
 int FinishOutput() {
   return std::cout.flush() ? Done : Complain("cannot write to standard output", Failed);
 }
 
-/// Hands each text to `zHandle` until that returns false: the text of the arguments, or
-/// each line of standard input. Returns false when the input could not be read to its end.
+/// Calls `zHandle` with the text of the arguments, or with each line of standard input until it
+/// returns false. Returns false when the input could not be read to its end.
 template <typename Handle>
 bool ForEachText(const SayOptions& zOptions, Handle zHandle) {
   if (zOptions.text) {
@@ -54,10 +54,10 @@ int ComplainOfInput() {
   return Complain("cannot read standard input", Failed);
 }
 
-/// What becomes of a text of the input.
+/// Converts a text of the input.
 using Conversion = std::function<std::string(const std::string& zText)>;
 
-/// Prints what `zConvert` makes of each text, a line for a line.
+/// Prints the result of `zConvert` for each text, one line for each.
 int PrintEach(const SayOptions& zOptions, const Conversion& zConvert) {
   const bool isRead = ForEachText(zOptions, [&](const std::string& zText) {
     std::cout << zConvert(zText) << '\n';
@@ -71,7 +71,7 @@ int PrintEach(const SayOptions& zOptions, const Conversion& zConvert) {
   return isRead ? status : ComplainOfInput();
 }
 
-/// The phrases of the EEPROM editor take the place of those in the chip.
+/// Records each text in a WAV file. The chip's stored phrases are those of the EEPROM editor.
 int Record(const SayOptions& zOptions, const Conversion& zToCodes,
            const SayDataTranslator& zTranslator, const SettingsFile& zSettings) {
   const auto phrase = [&](int zSlot) {
@@ -114,7 +114,7 @@ int Send(const SayOptions& zOptions, const Conversion& zToCodes, const SettingsF
     isSaid = speaker.Say(zToCodes(zText));
     return isSaid;
   });
-  speaker.Finish();  // what was said before a complaint still goes out
+  speaker.Finish();  // what was said before a failure still goes out
   if (!isSaid) {
     return Complain(speaker.Complaint(), Failed);
   }

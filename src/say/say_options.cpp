@@ -37,7 +37,7 @@ const std::string_view SayHelpText =
 
 namespace {
 
-/// Takes an option into `zOptions`; false when it is none that exists.
+/// Sets an option in `zOptions`. False when it does not exist.
 bool TakeOption(SayOptions& zOptions, std::string_view zOption) {
   if (zOption == "--help" || zOption == "-h") {
     zOptions.wantsHelp = true;
@@ -62,7 +62,7 @@ bool TakeOption(SayOptions& zOptions, std::string_view zOption) {
 }
 
 /// Takes the value of option `zName` from "NAME VALUE" or "NAME=VALUE" at `zAt`, which moves on to
-/// VALUE. A value that is missing is empty. False when another argument is there.
+/// VALUE. A missing value is empty. False when another argument is there.
 bool TakeValue(std::string_view zName, const std::vector<std::string_view>& zArguments,
                std::size_t& zAt, std::optional<std::string>& zValue) {
   const std::string_view argument = zArguments[zAt];
@@ -84,7 +84,7 @@ void AddText(SayOptions& zOptions, std::string_view zText) {
   zOptions.text = zOptions.text.value_or("").append(zText);
 }
 
-/// What is wrong with `zOptions` together; empty when nothing is.
+/// Which of `zOptions` contradict each other; empty when none do.
 std::string Contradiction(const SayOptions& zOptions) {
   if (zOptions.wantsCodes && zOptions.wavFile) {
     return "--codes and --wav do not go together";

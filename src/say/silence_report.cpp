@@ -5,7 +5,7 @@
 namespace loquitor {
 namespace {
 
-/// A place in a text, moved forward only.
+/// A place in a text, which only moves forward.
 class Place {
  public:
   Place(std::string_view zText, int zLine) : text_(zText), line_(zLine) {}

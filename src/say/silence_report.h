@@ -8,8 +8,9 @@
 
 namespace loquitor {
 
-/// One line for each of `zParts`, which are in their order in `zText`: where it begins, what it is
-/// and why it is silent. Lines count from `zFirstLine`, columns from 1 and in characters of UTF-8.
+/// One line for each of `zParts`: where it begins, its text and why it is silent. `zParts` must be
+/// in the order of `zText`. Lines are counted from `zFirstLine`, columns from 1 in characters of
+/// UTF-8.
 std::string SilenceReport(std::string_view zText, const std::vector<SilentPart>& zParts,
                           int zFirstLine);
 

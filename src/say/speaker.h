@@ -15,14 +15,15 @@ namespace loquitor {
 /// Sends phrases to the port of the settings, without a window. Needs a QCoreApplication.
 class Speaker : private SenderHost {
  public:
-  /// `zSettings` outlives the speaker. `zIsForced`: the answer to the long-phrase question.
-  /// `zLongestStandstill`: how long it waits for a line that takes no byte. An adapter's own buffer
-  /// of some hundred codes may take minutes to empty, and shows no progress.
+  /// `zSettings` must outlive the speaker. `zIsForced` is the answer to the long-phrase question.
+  /// `zLongestStandstill` is how long it waits for a line that takes no byte. The default is long,
+  /// because an adapter's own buffer of some hundred codes may take minutes to empty, in which no
+  /// progress is seen.
   Speaker(const SettingsFile& zSettings, bool zIsForced,
           std::chrono::milliseconds zLongestStandstill = std::chrono::minutes(5));
 
   /// Sends a code string and waits until it has left for the line. False when it could not be sent,
-  /// or the line stood still for too long and the rest was discarded; Complaint then says why.
+  /// or when the line stood still for too long and the rest was discarded. Complaint then says why.
   bool Say(std::string_view zCodes);
 
   /// Closes the port after the last byte.
@@ -52,7 +53,7 @@ class Speaker : private SenderHost {
   CodeSender sender_;
   EventTurns turns_;
   std::size_t bytesLeft_ = 0;
-  std::chrono::steady_clock::time_point lastProgress_;  // when `bytesLeft_` changed last
+  std::chrono::steady_clock::time_point lastProgress_;  // the time when `bytesLeft_` last changed
   std::string complaint_;
 };
 

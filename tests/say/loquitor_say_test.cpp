@@ -204,6 +204,7 @@ TEST_F(LoquitorSayTest, AddsTheWordsOfAListToTheDictionary) {
             filled + "see=\\SE \\IY\r\nme=\\MM \\IY\r\nb2b=\\BE \\IY \\TU \\IHWW \\BE \\IY\r\n");
   EXPECT_EQ(Run("--add-words list"), 0);
   EXPECT_EQ(Output(), "0 words added\n");
+  EXPECT_EQ(Run("--add-words ."), 1);
   EXPECT_EQ(Run("--add-words missing"), 1);
   EXPECT_EQ(Errors(), "loquitor-say: cannot read missing\n");
 }
