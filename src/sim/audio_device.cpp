@@ -14,8 +14,8 @@ namespace loquitor {
 
 namespace {
 
-/// While it lives, nothing reaches standard error: the system's sound libraries complain there of
-/// every output that a machine does not have.
+/// While one lives, nothing reaches standard error. The system's sound libraries complain there
+/// about every output that a machine lacks.
 class QuietErrors {
  public:
   QuietErrors() : kept_(dup(STDERR_FILENO)) {

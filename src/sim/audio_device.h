@@ -7,11 +7,12 @@
 
 namespace loquitor {
 
-/// The default sound output of the system, playing for as long as this object lives.
+/// Plays sound on the default output of the system for as long as this object lives.
 class AudioDevice {
  public:
-  /// `zRender` fills in the next samples, VoiceSampleRate a second, on a thread of the device's
-  /// own. Throws std::runtime_error with the cause when there is no output or it cannot be used.
+  /// `zRender` must fill its argument with the next samples, VoiceSampleRate per second. It is
+  /// called on a thread of the device. Throws std::runtime_error with the cause when there is no
+  /// output or it cannot be used.
   explicit AudioDevice(std::function<void(std::span<std::int16_t>)> zRender);
   ~AudioDevice();
   AudioDevice(const AudioDevice&) = delete;

@@ -15,7 +15,7 @@ bool HasBit(std::uint8_t zValue, int zBit) {
   return ((zValue >> zBit) & 1) != 0;
 }
 
-/// "output 0 on, output 1 off, output 2 on", the words for a set bit and for a clear one given.
+/// "output 0 on, output 1 off, output 2 on" with `zSet` for "on" and `zClear` for "off".
 std::string OutputWords(std::uint8_t zValue, const char* zSet, const char* zClear) {
   std::string words;
   for (int output = 0; output < OutputCount; ++output) {
@@ -29,7 +29,7 @@ std::string InputWords(int zInput, bool zIsTtl) {
   return ", input " + std::to_string(zInput) + (zIsTtl ? " TTL signal" : " RC pulse");
 }
 
-/// The other bits of this byte have no meaning at power up.
+/// At power up only the bits for the phrase have a meaning.
 EventAction PowerUpEvent(std::uint8_t zValue) {
   const EventAction event = DecodeEvent(zValue);
   return {.saysPhrase = event.saysPhrase,

@@ -7,11 +7,12 @@
 
 namespace loquitor {
 
-/// What the chip does at an event, in words: "plays phrase 4, clears the buffer".
+/// What the chip does at an event, in words, such as "plays phrase 4, clears the buffer".
 std::string EventWords(const EventAction& zEvent);
 
-/// What the value of an EEPROM location from 237 to 255 tells the chip to do, in words. The layout
-/// of these bytes is in docs/wire-format.md. Empty for every other location.
+/// What the value of a configuration byte means, in words. `zLocation` is its location in the
+/// EEPROM, from 237 to 255; the result is empty for every other location. docs/wire-format.md has
+/// the layout of these bytes.
 std::string ConfigurationWords(int zLocation, std::uint8_t zValue);
 
 }  // namespace loquitor

@@ -9,7 +9,7 @@ namespace loquitor {
 
 namespace {
 
-/// So long the first code after a silence waits for the next ones, which follow within 5 ms even at
+/// How long the first code after a silence waits for the next ones. They follow within 5 ms even at
 /// 2400 baud.
 constexpr int PatienceMs = 16;
 

@@ -12,35 +12,36 @@
 
 namespace loquitor {
 
-/// The sound of a virtual chip while it listens. One thread tells it what arrives, another may take
-/// the samples.
+/// The sound of a virtual chip while bytes arrive. Safe to use by several threads at once: one can
+/// report what arrives while another takes the samples.
 class LiveSound {
  public:
   LiveSound();
 
-  /// Sounds as `zChip` would, which has just told of `zEvent`.
+  /// Makes the sound of `zEvent`, the last event that `zChip` has returned.
   void Hear(const ChipEvent& zEvent, const VirtualChip& zChip);
 
-  /// Does what an input asks for.
+  /// Does what the event of an input asks for; see ChipSound::RunEvent.
   void RunEvent(const EventAction& zEvent);
 
-  /// The next samples. Silence goes on for ever.
+  /// Renders the next samples, VoiceSampleRate per second. Never ends: gives silence when nothing
+  /// sounds.
   void Render(std::span<std::int16_t> zSamples);
 
-  /// Keeps from now on what Render gives, for TakeRecorded. Silence is kept for half a second only.
+  /// From now on, keeps what Render gives for TakeRecorded. Of a silence it keeps half a second.
   void Record();
 
-  /// What has been kept since the last call.
+  /// Returns the samples that were kept, and forgets them.
   std::vector<std::int16_t> TakeRecorded();
 
-  /// True when Render would give something to keep.
+  /// True until half a second of silence has been rendered after the last sound.
   bool IsSounding() const;
 
-  /// True while codes are being said or wait for it.
+  /// True while codes are being said or are queued.
   bool IsSpeaking() const;
 
  private:
-  mutable std::mutex mutex_;  // of everything below
+  mutable std::mutex mutex_;  // guards everything below
   std::array<std::string, VirtualChip::PhraseCount> phrases_;
   ChipSound sound_;
   bool isRecording_ = false;

@@ -37,7 +37,7 @@ void AskToStop(int) {
   isAskedToStop = 1;
 }
 
-/// Blocks the signals that end the program; the result is the mask under which they arrive.
+/// Blocks the signals that end the program. Returns the mask with which ppoll lets them in.
 sigset_t HoldStopSignals() {
   struct sigaction action {};
   action.sa_handler = AskToStop;
@@ -50,12 +50,12 @@ sigset_t HoldStopSignals() {
   }
   sigprocmask(SIG_BLOCK, &stopSignals, &before);
   for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-    sigdelset(&before, number);  // a program started in the background may have them blocked
+    sigdelset(&before, number);  // in case whoever started the program has blocked them
   }
   struct sigaction ignore {};
   ignore.sa_handler = SIG_IGN;
-  sigaction(SIGPIPE, &ignore, nullptr);  // a reader that went away shows as a failed write
-  sigaction(SIGTTIN, &ignore, nullptr);  // in the background there is no input, but all the rest
+  sigaction(SIGPIPE, &ignore, nullptr);  // writing to a pipe without a reader then just fails
+  sigaction(SIGTTIN, &ignore, nullptr);  // in the background reading the input then just fails
   return before;
 }
 
@@ -64,11 +64,12 @@ struct Options {
   std::string link;
   std::string wavFile;
   bool isSpoken = false;
-  std::string_view information;  ///< what to print in place of working
-  std::string complaint;
+  std::string_view information;  ///< the text to print before the program ends; empty for none
+  std::string complaint;         ///< what is wrong with the arguments; empty when nothing is
 };
 
-/// Takes "--name VALUE" or "--name=VALUE" from the argument at `zAt`, which moves on to VALUE.
+/// Takes the value of option `zName` from "NAME VALUE" or "NAME=VALUE" at `zAt`, which moves on to
+/// VALUE. False when another argument is there. A missing value sets `zComplaint`.
 bool TakeValue(std::span<char*> zArguments, std::size_t& zAt, std::string_view zName,
                std::string& zValue, std::string& zComplaint) {
   const std::string_view argument = zArguments[zAt];
@@ -107,7 +108,7 @@ Options ParseOptions(std::span<char*> zArguments) {
   return options;
 }
 
-/// The pseudo-terminal must not get the number of a standard input that was closed.
+/// Opens standard input if it is closed, so that the pseudo-terminal does not get its number.
 void HoldStandardInput() {
   if (fcntl(STDIN_FILENO, F_GETFD) < 0) {
     static_cast<void>(open("/dev/null", O_RDONLY));

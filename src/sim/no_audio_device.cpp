@@ -1,4 +1,4 @@
-// In place of audio_device.cpp where PortAudio is missing.
+// Replaces audio_device.cpp where PortAudio is missing.
 
 #include <stdexcept>
 

@@ -38,7 +38,7 @@ void MakeRaw(int zTerminal) {
   }
 }
 
-/// A descriptor that becomes readable when `zDevice` is closed by someone, or -1.
+/// A descriptor that becomes readable when a program closes `zDevice`. -1 where there is none.
 int WatchClosing([[maybe_unused]] const std::string& zDevice) {
 #ifdef __linux__
   const int watch = inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
@@ -59,12 +59,12 @@ struct flock WriteLock() {
   return lock;
 }
 
-/// Whether a living PseudoTerminal of another process offers `zDevice`. Not an flock, which is how
-/// programs that use a serial port keep each other off.
+/// Whether a living PseudoTerminal of another process offers `zDevice`. It then has a record lock.
+/// An flock would keep off the programs that use the serial port.
 bool IsOffered(const fs::path& zDevice) {
   const int device = open(zDevice.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
   if (device < 0) {
-    return errno == EBUSY;  // a program has it for itself
+    return errno == EBUSY;  // a program uses it exclusively
   }
   struct flock lock = WriteLock();
   const bool isLocked = fcntl(device, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
@@ -74,7 +74,7 @@ bool IsOffered(const fs::path& zDevice) {
 
 enum class Place { Free, Offered, Foreign };
 
-/// What is at the place of a link that is to be made.
+/// What is at the path of a link that is to be made.
 Place WhatIsAt(const fs::path& zLink) {
   std::error_code ignored;
   const fs::file_status status = fs::symlink_status(zLink, ignored);
@@ -110,7 +110,7 @@ PseudoTerminal::PseudoTerminal() {
     }
     MakeRaw(slave_);
     const struct flock lock = WriteLock();
-    static_cast<void>(fcntl(slave_, F_SETLK, &lock));  // some systems lock no devices
+    static_cast<void>(fcntl(slave_, F_SETLK, &lock));  // some systems cannot lock devices
     watch_ = WatchClosing(device_);
   } catch (...) {
     Close();
@@ -134,7 +134,8 @@ void PseudoTerminal::ForgetClient() {
   std::array<char, 4096> events;
   while (read(watch_, events.data(), events.size()) > 0) {
   }
-  // Only lifts what a killed program could not lift itself; without it the device is just busy.
+  // Ends the exclusive use that a killed program could not end. If this fails the device stays
+  // busy.
   static_cast<void>(ioctl(slave_, TIOCNXCL));
 }
 
@@ -161,7 +162,7 @@ DeviceLink::DeviceLink(fs::path zPath, std::string zDevice)
                              "that one or choose another name");
   }
   std::error_code error;
-  // Renaming replaces an old link at once; the name is never missing.
+  // A rename replaces an old link atomically: the name is never missing.
   const fs::path fresh = path_.string() + "." + std::to_string(getpid());
   fs::create_symlink(device_, fresh, error);
   if (!error) {

@@ -19,10 +19,10 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// When half a command has arrived and nothing more for this long, it is shown as it is.
+/// An incomplete command is shown when nothing more has arrived for this long.
 constexpr milliseconds QuietTime(500);
 
-/// So often the file gets what sounds.
+/// The time between two writes to the recording.
 constexpr milliseconds TickTime(50);
 
 constexpr milliseconds Endless(-1);
@@ -110,7 +110,7 @@ void Session::ReadInputLines() {
   if (count < 0 && errno == EINTR) {
     return;
   }
-  isInputOpen_ = count > 0;  // an error is its end: a program in the background may not read
+  isInputOpen_ = count > 0;  // an error ends the input: a program in the background may not read
   for (ssize_t i = 0; i < count; ++i) {
     const char byte = buffer[static_cast<std::size_t>(i)];
     if (byte == '\n') {

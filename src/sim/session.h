@@ -11,16 +11,17 @@
 
 namespace loquitor {
 
-/// The virtual Orvatone at work: feeds the chip from the pseudo-terminal, prints what it
-/// understands and lets it sound, and changes its inputs as the lines of standard input ask for.
+/// A run of the virtual Orvatone. Feeds the chip with the bytes from the pseudo-terminal, prints
+/// and plays what they mean, and changes the chip's inputs by the lines of standard input.
 class Session {
  public:
-  /// Both outlive the session. `zSound` may be nothing.
+  /// Both must outlive the session. `zSound` may be null.
   Session(PseudoTerminal& zTerminal, SoundOutput* zSound)
       : terminal_(zTerminal), soundOutput_(zSound) {}
 
-  /// Runs until `zIsAskedToStop`, which a signal handler sets, or until standard output fails.
-  /// `zMask`: the signals that are held back while it works.
+  /// Runs until a signal handler sets `zIsAskedToStop`, or until standard output fails. `zMask` is
+  /// the signal mask while it waits; it must let in the signals of that handler. Throws
+  /// std::system_error when the pseudo-terminal fails.
   void Run(const sigset_t& zMask, const volatile sig_atomic_t& zIsAskedToStop);
 
  private:
@@ -38,7 +39,7 @@ class Session {
   bool isPendingShown_ = false;
   Clock::time_point lastArrival_{};
   bool isInputOpen_ = true;
-  std::string inputLine_;  // not yet whole
+  std::string inputLine_;  // the beginning of the next line
 };
 
 }  // namespace loquitor

@@ -60,7 +60,7 @@ void SoundOutput::Tick() {
 }
 
 void SoundOutput::Finish() {
-  constexpr int longestSeconds = 60;  // phrases that play each other in a circle never end
+  constexpr int longestSeconds = 60;  // stored phrases that play each other never end
   Tick();
   if (!file_ || device_) {
     return;
@@ -69,7 +69,7 @@ void SoundOutput::Finish() {
   for (int i = 0; i < longestSeconds * 50 && sound_.IsSpeaking(); ++i) {
     sound_.Render(samples);
   }
-  sound_.Render(samples);  // what still rings
+  sound_.Render(samples);  // the end of the last sound
   WriteRecorded();
 }
 

@@ -10,24 +10,27 @@
 
 namespace loquitor {
 
-/// Where the sound of the virtual Orvatone goes: to the system's sound output, into a WAV file, or
-/// both. Without a sound output the file is filled by the clock.
+/// Plays the sound of the virtual Orvatone on the system's sound output, records it in a WAV file,
+/// or does both. Without a sound output the recording follows the clock.
 class SoundOutput {
  public:
-  /// `zWavFile`: the file's path, or empty for none; throws std::system_error when it cannot be
-  /// written. A sound output that cannot be had is told once on standard error.
+  /// `zIsSpoken`: whether to play the sound. A sound output that cannot be used is reported on
+  /// standard error. `zWavFile`: the path of the recording, or empty for none. Throws
+  /// std::system_error when it cannot be written.
   SoundOutput(bool zIsSpoken, const std::string& zWavFile);
 
+  /// The sound to play and to record.
   LiveSound& Sound() { return sound_; }
 
-  /// True while Tick has something to do every few milliseconds.
+  /// True while Tick must be called often, because something that is recorded sounds.
   bool NeedsTicks() const { return file_.has_value() && sound_.IsSounding(); }
 
-  /// Writes to the file what has sounded since the last call. A file that cannot be written any
-  /// more is told once on standard error and given up.
+  /// Records what has sounded since the last call. If that fails, says so on standard error and
+  /// ends the recording.
   void Tick();
 
-  /// What is still to be said goes into the file, unless it would have been heard as well.
+  /// Ends the recording. Without a sound output it first records what is still to be said, up to a
+  /// minute.
   void Finish();
 
  private:
@@ -37,7 +40,7 @@ class SoundOutput {
 
   LiveSound sound_;
   std::optional<WavFile> file_;
-  std::optional<AudioDevice> device_;  // after what its thread uses
+  std::optional<AudioDevice> device_;  // declared after everything that its thread uses
   std::optional<Clock::time_point> renderedUpTo_;
 };
 

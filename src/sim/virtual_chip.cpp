@@ -6,6 +6,7 @@
 
 #include "line/scp.h"
 #include "sim/configuration_words.h"
+#include "text/letters.h"
 
 namespace loquitor {
 
@@ -20,10 +21,6 @@ constexpr std::size_t MaxOperand = 8;  ///< longer than any number that a comman
 
 int ByteValue(char zByte) {
   return static_cast<unsigned char>(zByte);
-}
-
-bool IsDigit(char zByte) {
-  return zByte >= '0' && zByte <= '9';
 }
 
 bool IsHexDigit(char zByte) {
@@ -107,7 +104,7 @@ std::string LocationName(int zLocation) {
   return names[zLocation - PhraseAreaEnd];
 }
 
-/// The location's name and what its value means, where it has a meaning of its own.
+/// The location's name, and the meaning of its value if it is a configuration byte.
 std::string LocationWords(int zLocation, int zValue) {
   const std::string words = ConfigurationWords(zLocation, static_cast<std::uint8_t>(zValue));
   return LocationName(zLocation) + (words.empty() ? "" : ": " + words);
@@ -271,7 +268,7 @@ void VirtualChip::CloseSequence(Events& zEvents) {
   }
 }
 
-/// J, H and N. False when they come in another order or the operand does not have their form.
+/// Runs J, H or N. False when its turn has not come or the operand does not have its form.
 bool VirtualChip::RunAddressCommand(char zLetter, std::string_view zOperand, Events& zEvents) {
   switch (zLetter) {
     case 'J':
@@ -344,8 +341,8 @@ void VirtualChip::ReceiveStoreZero(char zByte, Events& zEvents) {
   }
 }
 
-/// Follows the codes 28 and 29 in stored phrases. Each phrase is listed once, so that phrases that
-/// call each other in a circle end.
+/// Follows the codes 28 and 29 in stored phrases. Each phrase is listed once, so this ends even if
+/// phrases call each other in a circle.
 void VirtualChip::AddReachedPhrases(int zSlot, Events& zEvents) const {
   std::array<bool, 256> isListed{};
   isListed[static_cast<std::size_t>(zSlot)] = true;
@@ -365,7 +362,7 @@ void VirtualChip::AddReachedPhrases(int zSlot, Events& zEvents) const {
   }
 }
 
-/// The quiet state of the synthesizer, to which a reset returns it.
+/// Returns the synthesizer to its quiet state.
 void VirtualChip::ResetRegisters() {
   constexpr std::size_t envelopeFrequency = 0;
   constexpr std::size_t masterVolume = 7;
@@ -387,7 +384,7 @@ void VirtualChip::Emit(Events& zEvents, ChipEvent zEvent) {
   EndPiece();
 }
 
-/// Shows what has come of a piece that will not be completed.
+/// Ends a piece that will not be completed, with an event for its bytes if it has any.
 void VirtualChip::Abandon(ChipEventKind zKind, Events& zEvents) {
   if (!piece_.empty()) {
     Emit(zEvents, {.kind = zKind});

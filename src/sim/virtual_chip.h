@@ -11,37 +11,38 @@
 
 namespace loquitor {
 
-/// What the bytes on the line mean to the chip.
+/// What bytes on the line mean to the chip. Each kind names the members of ChipEvent that it uses.
 enum class ChipEventKind {
-  Code,                ///< a code with a mnemonic and without a value: number
-  ControlCode,         ///< a code and its value byte: number, value
-  Play,                ///< code 29: value is the phrase, codes what is stored there
-  Call,                ///< code 28: likewise
-  StoredPhrase,        ///< follows Play or Call, for each further phrase that is reached by the
-                       ///< codes 28 and 29 in stored phrases: value, codes. Each phrase once.
-  Reset,               ///< SCP command R
-  Test,                ///< SCP command V
+  Code,          ///< a code with a mnemonic and without a value: number
+  ControlCode,   ///< a code and its value byte: number, value
+  Play,          ///< code 29 and the number of a phrase: number, value, codes
+  Call,          ///< code 28, likewise
+  StoredPhrase,  ///< after Play or Call, once for each further phrase that the codes 28 and 29
+                 ///< in stored phrases lead to: value, codes
+  Reset,         ///< SCP command R
+  Test,          ///< SCP command V
   StoreConfiguration,  ///< SCP command W with its five zeros
-  MemoryWrite,         ///< location (number), value
-  RegisterWrite,       ///< register (number), value
+  MemoryWrite,         ///< a write to the EEPROM: number, value
+  RegisterWrite,       ///< a write to the synthesizer: number, value
   Sync,                ///< the character U
   Unknown,             ///< bytes that mean nothing to the chip
-  Incomplete,          ///< the beginning of something whose rest has not come
+  Incomplete,          ///< the beginning of something whose rest has not arrived
 };
 
+/// One thing that the chip has received.
 struct ChipEvent {
   ChipEventKind kind;
-  int number = 0;       ///< code, location or register
+  int number = 0;       ///< code, EEPROM location or register
   int value = 0;        ///< value byte, written value or phrase number
-  std::string codes{};  ///< of the stored phrase
-  std::string bytes{};  ///< as received; the X that ends an SCP sequence belongs to no event
+  std::string codes{};  ///< the codes of the stored phrase
+  std::string bytes{};  ///< as received, without the X that ends an SCP sequence
 
   bool operator==(const ChipEvent&) const = default;
 };
 
 /// A stand-in for the Orvatone: takes the bytes of the line (docs/wire-format.md), says what they
-/// mean, and keeps what the chip would keep. Takes any bytes in portions of any size; the events
-/// do not depend on the portions. Memory and time per byte are bounded.
+/// mean, and keeps what the chip would keep. Takes any bytes in portions of any size; the events do
+/// not depend on the portions. The memory and the time per byte are bounded.
 class VirtualChip {
  public:
   static constexpr int EepromSize = 256;
@@ -54,8 +55,8 @@ class VirtualChip {
   /// The events that `zBytes` complete, in order.
   std::vector<ChipEvent> Receive(std::string_view zBytes);
 
-  /// What has begun and waits for its rest (a control code without its value, half an SCP command),
-  /// as an Incomplete event. Changes nothing.
+  /// The bytes that wait for the rest of a code or a command, as an Incomplete event. Nothing when
+  /// there are none. They keep waiting.
   std::optional<ChipEvent> Pending() const;
 
   /// One line of text for an event, without a line end.
@@ -64,12 +65,12 @@ class VirtualChip {
   /// The byte at an EEPROM location, 0 to 255.
   std::uint8_t Eeprom(int zLocation) const;
 
-  /// The value that a synthesizer register, 0 to 15, holds.
+  /// The value of a synthesizer register, 0 to 15.
   int Register(int zRegister) const;
 
-  /// The codes of the stored phrase in slot 0 to 15: from its start offset (location `zSlot`) up
-  /// to, not including, the byte 255, at most up to the end of the phrase area. Empty for a slot
-  /// that is empty or does not exist.
+  /// The codes of the stored phrase in slot `zSlot`, 0 to 15. They begin at the location that the
+  /// byte at location `zSlot` holds, and end before a byte 255 or at the end of the phrase area.
+  /// Empty for a slot that is empty or does not exist.
   std::string StoredPhrase(int zSlot) const;
 
  private:
@@ -101,10 +102,10 @@ class VirtualChip {
   std::array<std::uint8_t, EepromSize> eeprom_;
   std::array<int, RegisterCount> registers_;
   Mode mode_ = Mode::Speech;
-  std::string piece_;             ///< bytes received that belong to no event yet
-  std::size_t operandStart_ = 0;  ///< in `piece_`
+  std::string piece_;             ///< received bytes that belong to no event yet
+  std::size_t operandStart_ = 0;  ///< offset in `piece_`
   std::optional<int> location_;   ///< selected by J
-  bool isMemory_ = false;         ///< the high part of the memory's addresses is selected, by H
+  bool isMemory_ = false;         ///< whether H has selected the memory
 };
 
 }  // namespace loquitor
