@@ -24,7 +24,7 @@ std::string WordOf(std::uint64_t zNumber) {
   return word;
 }
 
-/// A dictionary of so many entries of 46 bytes or so, not in order.
+/// A dictionary of `zLines` unordered entries of about 46 bytes.
 std::string Dictionary(std::int64_t zLines) {
   std::string bytes = "[words]\r\n";
   for (std::int64_t i = 0; i < zLines; ++i) {
@@ -82,7 +82,7 @@ void BM_CleanedText(benchmark::State& zState) {
 }
 BENCHMARK(BM_CleanedText)->Apply(Lines);
 
-/// The worst a search can meet: a text that stands nowhere.
+/// The worst case of a search: a text that is nowhere.
 void BM_FindNothing(benchmark::State& zState) {
   const std::string_view sought = zState.range(1) == 1 ? "#" : "\\pitch \\61 \\ow";
   const std::string bytes = Dictionary(zState.range(0));

@@ -1,5 +1,5 @@
-// English text to Say Data: plain text, and what is hostile on purpose. The time for a character
-// must not grow with the length of the text.
+// English text to Say Data: plain text and hostile text. The time per character must not grow with
+// the length of the text.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -76,7 +76,7 @@ void BM_FillBlankEntries(benchmark::State& zState) {
 }
 BENCHMARK(BM_FillBlankEntries)->Unit(benchmark::kMillisecond);
 
-/// Without phones, by the kilobyte.
+/// Without phones. The argument is the size of the text in kilobytes.
 void BM_Normalize(benchmark::State& zState, std::string_view zPart) {
   const Reader reader;
   const std::string text = Repeated(zPart, static_cast<std::size_t>(zState.range(0)) << 10);

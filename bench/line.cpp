@@ -1,5 +1,6 @@
-// How busy a long write keeps the line, and how many bytes still precede a Shut Up, on a simulated
-// line and clock: the counters are the same on every machine. What is timed is the simulation.
+// How busy a long write keeps the line, and how many bytes go out before a Shut Up. The line and
+// its clock are simulated, so the counters are the same on every machine. The times are those of
+// the simulation.
 //
 // busy:       part of the time of a long write in which a byte was on the line, in percent
 // before_max: most bytes that went out between a Shut Up, pressed after every tenth byte, and the

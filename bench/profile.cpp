@@ -17,7 +17,7 @@
 namespace loquitor::bench {
 namespace {
 
-/// The least work that any reader of the file has: its bytes in memory, its lines known.
+/// The least that any reader of the file must do: read its bytes and find its lines.
 void ReadAndCountLines(benchmark::State& zState) {
   const SampleDictionary sample(zState.range(0));
   for (auto _ : zState) {
@@ -84,7 +84,7 @@ void NextWordOfAll(benchmark::State& zState) {
   }
 }
 
-/// The one word with data stands right before the present one: the whole circle is searched.
+/// The only word with data is right before the present one, so all words are searched.
 void NextWordWithData(benchmark::State& zState) {
   const SampleDictionary sample(zState.range(0), SampleDictionary::Entries::AllEmptyButFirst);
   sample.LetItSettle();

@@ -1,7 +1,7 @@
 // Profile files side by side with four well-known libraries, on the same dictionaries of 1,000 and
 // 130,000 words: the first lookup (read, parse, find), a later lookup, a write of one word (read,
-// change, save), and the memory that a loaded file takes. On a memory file system where there is
-// one, so that the libraries that flush to disk are not set back against those that do not.
+// change, save), and the memory that a loaded file takes. Uses a memory file system if there is
+// one, so that libraries that flush to disk are not slower than those that do not.
 
 #include <INIReader.h>
 #define SI_NO_CONVERSION  // 8-bit text, as everywhere here
@@ -36,7 +36,7 @@ struct Ours {
   ProfileFile file;
 };
 
-/// Ours on the terms of the others, which never look whether the file has changed.
+/// Our snapshot, which like the other libraries never checks whether the file has changed.
 struct OursUnproved : Ours {
   explicit OursUnproved(const std::filesystem::path& zFile)
       : Ours(zFile), snapshot(file.Snapshot()) {}
@@ -66,7 +66,7 @@ struct GLib {
 
 struct SimpleIni {
   explicit SimpleIni(const std::filesystem::path& zFile) {
-    static_cast<void>(ini.LoadFile(zFile.c_str()));  // Find tells whether it worked
+    static_cast<void>(ini.LoadFile(zFile.c_str()));  // Find shows whether it worked
   }
   std::size_t Find(const std::string& zWord) {
     const char* value = ini.GetValue("words", zWord.c_str(), "");

@@ -18,7 +18,7 @@ std::string WordOf(std::int64_t zNumber) {
   return "word" + std::to_string(zNumber);
 }
 
-/// A dictionary of `zCount` words and all that reads it.
+/// A dictionary of `zCount` words, and its translator.
 struct Library {
   explicit Library(std::int64_t zCount) : dictionary(folder.Path()) {
     std::string entries = "[words]\r\n";
@@ -72,7 +72,7 @@ void BM_CodesOf1000Tokens(benchmark::State& zState) {
 }
 BENCHMARK(BM_CodesOf1000Tokens)->Unit(benchmark::kMicrosecond);
 
-/// Sixty levels, each of which names the next twice; at their end a sound, or nothing.
+/// Sixty words, each of which names the next one twice. The last one has a sound, or none.
 void BM_DoublingDictionary(benchmark::State& zState) {
   const Library library(1);
   std::string entries = "[words]\r\n";
@@ -88,7 +88,7 @@ void BM_DoublingDictionary(benchmark::State& zState) {
 }
 BENCHMARK(BM_DoublingDictionary)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
-/// A million words or more whose entry is ignored characters only.
+/// A million words or more whose entries have only ignored characters.
 void BM_EntriesThatAddNothing(benchmark::State& zState) {
   const Library library(1);
   WriteBytes(library.folder / "Loquitor.Dic", "[words]\r\nw=" + std::string(2'558, '.') + "x\r\n");

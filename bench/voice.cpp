@@ -1,6 +1,6 @@
-// How many times faster than real time the sound of the chip is made.
+// How fast the sound of the chip is made.
 //
-// real_time: seconds of sound made in a second
+// real_time: seconds of sound made per second
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
-// The virtual chip: any bytes give the same events in any portions, and none is lost. An input is
-// the size of the portions in one byte, then the bytes of the line.
+// The virtual chip: the same bytes give the same events in portions of any size, and no byte is
+// lost. An input is the size of the portions in one byte, then the bytes of the line.
 
 #include <cstdint>
 #include <cstdlib>

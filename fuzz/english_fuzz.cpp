@@ -1,6 +1,6 @@
-// English text to Say Data. An input is a text. What the normaliser hands to the source of phones
-// must be what that allows, and the Say Data must have a code for every mnemonic and be read again
-// as it is. Where this build has a real source of phones, that has to survive, too.
+// English text to Say Data. An input is a text. The source of phones must get only words that it
+// allows. The Say Data must have a code for every mnemonic, and reading it again must not change
+// it. Where this build has a real source of phones, that must survive too.
 
 #include <algorithm>
 #include <cstdint>
@@ -105,7 +105,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* zData, std::size_t zSi
           "a code for every mnemonic");
   Require(reader.ReadText(sayData, words).sayData == sayData, "read again as it is");
   static_cast<void>(reader.ReadWord(text));
-  constexpr std::size_t MaxRealText = 60;  // a real source takes its time
+  constexpr std::size_t MaxRealText = 60;  // a real source is slow
   if (real != nullptr && zSize <= MaxRealText) {
     static_cast<void>(EnglishReader(*real, table).ReadText(text, words));
   }

@@ -1,4 +1,4 @@
-// Numbers at the start of a text against the C library, which is handed only what belongs to the
+// Numbers at the start of a text, compared with the C library, which gets only what belongs to the
 // number. An input is the text.
 
 #include <cmath>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// `zText` from `zAt` on, as far as it is decimal digits; moves `zAt` behind them.
+/// The decimal digits of `zText` at `zAt`; moves `zAt` past them.
 std::string TakeDigits(const std::string& zText, std::size_t& zAt) {
   const std::size_t start = zAt;
   zAt = std::min(zText.find_first_not_of("0123456789", zAt), zText.size());

@@ -10,8 +10,8 @@
 
 namespace loquitor::testing {
 
-/// A profile text in the plainest form: all lines in a list, everything found by walking it. The
-/// fuzz target holds the real code, which is quick, against this, which is obvious.
+/// A profile text in the plainest form: a list of lines that every call searches from its start.
+/// The fuzz target compares the real code, which is fast, with this one, which is obvious.
 class PlainProfile {
  public:
   explicit PlainProfile(const std::string& zText)
@@ -93,7 +93,8 @@ class PlainProfile {
     return Trim(lines_[zLine].text.substr(lines_[zLine].text.find('=') + 1));
   }
 
-  /// The line of the section's header or of the key; behind the last line when there is none.
+  /// The index of the section's header or of the key's line; the number of lines when there is
+  /// none.
   std::size_t FindSection(const std::string& zSection) const {
     const auto isIt = [&](const Line& zLine) {
       const std::string line = Trim(zLine.text);

@@ -1,5 +1,5 @@
-// Profile files: reading and writing against a plain reference. An input is a section, a key and a
-// value, each ended by NUL, then the text of the file.
+// Profile files: reading and writing, compared with a plain reference. An input is a section, a key
+// and a value, each ended by NUL, then the text of the file.
 
 #include <cstdint>
 #include <cstdlib>

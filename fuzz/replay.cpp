@@ -23,12 +23,12 @@ void Replay(const std::string& zInput) {
       LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(zInput.data()), zInput.size()));
 }
 
-/// Replays the files of one folder and adds them to `zInputs`. Folders that do not exist have none.
+/// Replays the files of a folder and adds them to `zInputs`. The folder need not exist.
 void ReplayFolder(const std::filesystem::path& zFolder, std::vector<std::string>& zInputs) {
   if (!std::filesystem::is_directory(zFolder)) {
     return;
   }
-  std::set<std::filesystem::path> files;  // in one order everywhere, so that the mixtures are too
+  std::set<std::filesystem::path> files;  // sorted, so that the mixtures are the same everywhere
   for (const auto& entry : std::filesystem::directory_iterator(zFolder)) {
     files.insert(entry.path());
   }
@@ -38,7 +38,7 @@ void ReplayFolder(const std::filesystem::path& zFolder, std::vector<std::string>
       std::cerr << "cannot read " << file << '\n';
       std::exit(EXIT_FAILURE);
     }
-    std::cout << file.filename().string() << std::endl;  // flushed: tells which one crashed
+    std::cout << file.filename().string() << std::endl;  // flushed, to show which one crashed
     Replay(zInputs.emplace_back(*bytes));
   }
 }

@@ -1,5 +1,5 @@
-// Say Data against a plain reference: the expansion as a recursive walk, the codes by splitting at
-// backslashes. An input is Say Data, ended by NUL, then the entries of the dictionary.
+// Say Data compared with a plain reference, which expands recursively and splits at backslashes. An
+// input is Say Data, ended by NUL, then the entries of the dictionary.
 
 #include <cctype>
 #include <cstdint>
@@ -18,7 +18,7 @@ namespace {
 
 using namespace loquitor;
 
-/// Of an expansion: small, so that dictionaries that multiply themselves end fast.
+/// The bound of an expansion, small so that entries that double at every level end fast.
 constexpr std::size_t MaxLength = std::size_t{4} << 10;
 
 void Require(bool zHolds, const char* zWhat) {
@@ -35,7 +35,7 @@ std::string Upper(std::string zText) {
   return zText;
 }
 
-/// Gives up (isComplete false) where the real one may reach one of its bounds.
+/// Gives up, with isComplete false, where the real expansion may reach one of its bounds.
 class PlainExpansion {
  public:
   explicit PlainExpansion(const EntryLookUp& zEntryOf) : entryOf_(zEntryOf) {}
@@ -172,7 +172,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* zData, std::size_t zSi
   Require(text.size() <= MaxLength, "bound of the expansion");
   Require(!expansion.isComplete || text == expected, "expansion");
   Require(translator.MnemonicsToCodes(text) == PlainCodes(text, table), "codes");
-  // Text that no expansion makes must do no harm; its first token counts without its first letter.
+  // Text that no expansion makes must do no harm. Its first token loses its first letter.
   static_cast<void>(translator.MnemonicsToCodes(input));
   Require(translator.MnemonicsToCodes("\\" + input) == PlainCodes(input, table),
           "codes of any text");

@@ -1,6 +1,6 @@
-// The word import, fed in pieces, against a plain reading of the whole list; and the dictionary's
-// way to the editor and back, sorted and cleaned. An input is the size of the pieces (one byte),
-// then the bytes of the list.
+// The word import, fed in pieces, compared with a plain reading of the whole list. Also the
+// dictionary's text in the editor and back, sorted and cleaned. An input is the size of the pieces
+// (one byte), then the bytes of the list.
 
 #include <algorithm>
 #include <cstdint>

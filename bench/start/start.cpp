@@ -4,7 +4,7 @@
 
 #include "tests/e2e/loquitor_session.h"
 
-// Behind GoogleTest, whose names are macros here.
+// After GoogleTest, because this header has macros with names that GoogleTest uses.
 #include <X11/Xlib.h>
 #include <benchmark/benchmark.h>
 
@@ -22,7 +22,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// An X server without anything in it, and an eye on its windows.
+/// An empty X server, and what is seen of its windows.
 class EmptyScreen {
  public:
   EmptyScreen() : server_({"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24"}) {

@@ -11,8 +11,8 @@
 
 namespace loquitor::bench {
 
-/// A dictionary file of made-up words in a folder of its own, the words in no alphabetical order
-/// and with Say Data of the usual length.
+/// A dictionary file in a folder of its own. Its words are made up, not in alphabetical order, and
+/// have Say Data of the usual length.
 class SampleDictionary {
  public:
   enum class Entries { AllFull, AllEmptyButFirst };
@@ -34,9 +34,10 @@ class SampleDictionary {
   const std::filesystem::path& Folder() const { return folder_.Path(); }
   const std::filesystem::path& File() const { return file_; }
 
-  /// Word number `zIndex`: 5 to 12 letters, different for each number.
+  /// Word number `zIndex`: 1 to 12 letters, different for each number below a million.
   static std::string Word(int zIndex) {
-    auto mixed = static_cast<std::uint32_t>(zIndex) * 2654435761U;  // odd factor: no two alike
+    auto mixed =
+        static_cast<std::uint32_t>(zIndex) * 2654435761U;  // an odd factor keeps them different
     std::string word;
     do {
       word += static_cast<char>('a' + mixed % 26);

@@ -47,7 +47,7 @@ std::filesystem::file_time_type Now() {
   return std::filesystem::file_time_type::clock::now();
 }
 
-/// The dictionary has just been saved by someone, so the first lookup reads it anew.
+/// The dictionary has just been saved by another program, so the first lookup reads it again.
 void OpenEepromEditorFirst(benchmark::State& zState) {
   FullProgram full;
   for (auto _ : zState) {

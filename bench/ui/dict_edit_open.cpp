@@ -24,8 +24,8 @@ namespace {
 
 using bench::SampleDictionary;
 
-/// The window over a dictionary of one size, with a word list of 100,000 words of which it lacks
-/// half.
+/// The window for a dictionary of one size, and a list of 100,000 words. Half of them are not in
+/// the dictionary.
 class Editor {
  public:
   explicit Editor(std::int64_t zSize) : sample_(zSize) {
@@ -125,7 +125,7 @@ void BM_OpenToFirstView(benchmark::State& zState) {
 }
 BENCHMARK(BM_OpenToFirstView)->Apply(Sizes);
 
-/// The click on a text that it changes; taken back each time.
+/// A click that changes the text, which is undone each time.
 void MeasureClick(benchmark::State& zState, const char* zButton) {
   Editor editor(zState.range(0));
   editor.Open();

@@ -51,7 +51,7 @@ void NextWord(benchmark::State& zState) {
 }
 BENCHMARK(NextWord)->Arg(1'000)->Arg(130'000)->Unit(benchmark::kMillisecond);
 
-/// One word with data among so many without: a whole pass.
+/// Only one word has data, so a search makes a whole pass.
 void NextWordWithData(benchmark::State& zState) {
   Step(zState, SampleDictionary(zState.range(0), SampleDictionary::Entries::AllEmptyButFirst),
        true);

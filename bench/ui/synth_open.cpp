@@ -1,6 +1,6 @@
-// What the player of the synthesizer waits for, on a port that takes every byte at once: the window
-// standing on the screen with all registers written, one step of a bar, and one step of an adjust
-// bar, which moves three.
+// What the player of the synthesizer waits for, on a port that takes every byte at once: until the
+// window is shown and all registers are written, one step of a bar, and one step of an adjust bar,
+// which moves three.
 
 #include <benchmark/benchmark.h>
 

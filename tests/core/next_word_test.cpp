@@ -24,7 +24,7 @@ class NextWordTest : public ::testing::Test {
   DictionaryStore dictionary{folder.Path()};
 };
 
-TEST_F(NextWordTest, TheNextWordFollowsTheOrderOfTheBytesAndStartsAgainBehindTheLast) {
+TEST_F(NextWordTest, TheNextWordFollowsInTheOrderOfTheBytesAndTheFirstFollowsTheLast) {
   Given(
       "[words]\r\ndog=\\DD\r\nApple=\\AE\r\n  cat \t=\r\napple=twice\r\n[a=b]\r\n;no=1\n"
       "\xC9t\xE9=1\rzzzzzzzzz!!!=no\r\nzzzzzzzzzz=no\r\nZZ=1\nno sign\n=x\n  =y\n");

@@ -37,7 +37,7 @@ class SayDataTest : public ::testing::Test {
     return entries;
   }
 
-  /// The places of the document that `zPattern` fits.
+  /// The places of the document that match `zPattern`.
   std::vector<std::smatch> Places(const char* zPattern) const {
     const std::regex pattern(zPattern);
     return {std::sregex_iterator(document.begin(), document.end(), pattern), {}};
@@ -155,21 +155,21 @@ TEST_F(SayDataTest, MnemonicTextIsSplitIntoTokensAndTheseIntoCodes) {
                                                      {"\\\xE9\\IY", " \\IY"}}) {
     EXPECT_EQ(NormalizeCodeText(text), result) << text;
   }
-  for (const auto& [text, codes] :
-       Rows<Text, Text>{{"", ""},
-                        {"\\PITCH 100", "22"},
-                        {"\\PITCH,\\100", "22, 2, 100"},
-                        {"  \\IY   \\EH,,", "6, 128, 4, 1, 131, 2, 2"},
-                        {"\\0", "0"},
-                        {"\\00 \\0E5 \\0D0", ""},
-                        {"\\255 \\256 \\9", "255, 9"},
-                        {"\\300\\IY", "128"},
-                        {"\\1E2 \\1D2 \\1e1 \\25d0", "100, 100, 10, 25"},
-                        {"\\1E3 \\1E400 \\1E99999999999999999999 \\7", "7"},
-                        {"\\5A \\1E \\1EX \\12#3", "5, 1, 1, 12"},
-                        {"\\D10 \\D11 \\D12 \\D2", "250, 251, 242"},  // no exponents of nothing
-                        {"\\NTA2\\ntf#2", "22, 110, 22, 93"},
-                        {"\\# \\ \\\\ \\IY\\ZZ", "128, 167"}}) {
+  for (const auto& [text, codes] : Rows<Text, Text>{
+           {"", ""},
+           {"\\PITCH 100", "22"},
+           {"\\PITCH,\\100", "22, 2, 100"},
+           {"  \\IY   \\EH,,", "6, 128, 4, 1, 131, 2, 2"},
+           {"\\0", "0"},
+           {"\\00 \\0E5 \\0D0", ""},
+           {"\\255 \\256 \\9", "255, 9"},
+           {"\\300\\IY", "128"},
+           {"\\1E2 \\1D2 \\1e1 \\25d0", "100, 100, 10, 25"},
+           {"\\1E3 \\1E400 \\1E99999999999999999999 \\7", "7"},
+           {"\\5A \\1E \\1EX \\12#3", "5, 1, 1, 12"},
+           {"\\D10 \\D11 \\D12 \\D2", "250, 251, 242"},  // a D without digits before it
+           {"\\NTA2\\ntf#2", "22, 110, 22, 93"},
+           {"\\# \\ \\\\ \\IY\\ZZ", "128, 167"}}) {
     EXPECT_EQ(Codes(text), codes) << text;
   }
   // Text that no expansion makes: a first token without its backslash.

@@ -34,7 +34,7 @@ Imported Import(std::string_view zList, std::size_t zPiece = std::string_view::n
   return {import.AddedText(), import.Count(), lookups};
 }
 
-TEST(WordImport, RunsOfLettersAreWordsAndAllElseStandsBetween) {
+TEST(WordImport, RunsOfLettersAreWordsAndEverythingElseSeparatesThem) {
   for (const auto& [list, added, count] : Rows<std::string, std::string, std::size_t>{
            {" \r\n\t123'=\\", "", 0},
            {"don't", "don=\nt=\n", 2},

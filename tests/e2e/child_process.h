@@ -10,7 +10,8 @@
 
 namespace loquitor::testing {
 
-/// A program started by a test; ended with it. Its standard output is read through a pipe.
+/// A program that a test starts. The destructor ends it. Its standard output is read through a
+/// pipe.
 class ChildProcess {
  public:
   /// `zEnvironment` is added to the test's own.
@@ -20,14 +21,14 @@ class ChildProcess {
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
 
-  /// What it has printed so far, in all.
+  /// Everything that it has printed so far.
   const std::string& Output();
 
   bool IsRunning();
   void Signal(int zSignal);
 
-  /// Waits for its end, at most `zSeconds`; the exit status, or the signal that ended it below 0,
-  /// or -1 when it still runs.
+  /// Waits at most `zSeconds` for its end. Returns the exit status. For a signal that ended it,
+  /// returns minus the number of the signal. Returns -1 when it still runs.
   int WaitForEnd(int zSeconds = 30);
 
   pid_t Pid() const { return pid_; }
@@ -40,10 +41,11 @@ class ChildProcess {
   int status_ = -1;
 };
 
-/// Runs a command to its end and returns what it printed, without the last line end.
+/// Runs a command to its end and returns what it printed, without line ends at the end.
 std::string RunCommand(const std::vector<std::string>& zCommand);
 
-/// Asks `zCondition` every few milliseconds until it holds; false after `zSeconds`.
+/// Waits until `zCondition` holds, and tries it every few milliseconds. False when it does not hold
+/// within `zSeconds`.
 template <class Condition>
 bool Await(Condition zCondition, int zSeconds = 30) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(zSeconds);

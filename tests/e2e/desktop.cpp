@@ -18,7 +18,7 @@ void Require(bool zHolds, const std::string& zComplaint) {
   }
 }
 
-/// Whether the number after `zLabel` is `zFrom` or just beyond.
+/// Whether the number after `zLabel` is from `zFrom` to `zFrom` + WidestFrame.
 bool IsAt(const std::string& zText, const std::string& zLabel, int zFrom) {
   const std::size_t at = zText.find(zLabel);
   const int number = at == std::string::npos ? -1 : std::atoi(&zText[at + zLabel.size()]);
@@ -38,8 +38,8 @@ Desktop::Desktop() {
   setenv("XDG_RUNTIME_DIR", runtimeFolder_.Path().c_str(), 1);
   windowManager_ = std::make_unique<ChildProcess>(Command{"openbox"});
   AwaitWindowManager("2");
-  // At a server's first key the window manager takes its own keys back for a moment, in which one
-  // of them would be lost.
+  // At the first key of a server, the window manager gives up its own keys for a moment. One of
+  // them would be lost then.
   Key("shift");
   AwaitWindowManager("1");
 }
@@ -72,7 +72,7 @@ void Desktop::AwaitGone(const std::string& zTitle) {
   Require(Await([&] { return FindWindow(zTitle).empty(); }), zTitle + " does not close");
 }
 
-// Without --sync, which waits for ever for a mouse that is there already.
+// Without --sync, which waits for ever when the mouse is there already.
 void Desktop::Click(const std::string& zWindow, int zX, int zY, int zTimes) {
   RunCommand({"xdotool", "mousemove", "--window", zWindow, std::to_string(zX), std::to_string(zY),
               "click", "--repeat", std::to_string(zTimes), "--delay", "100", "1"});

@@ -8,20 +8,20 @@
 
 namespace loquitor::testing {
 
-/// An X server of the test's own with a window manager, and a pair of hands at it. Programs that
+/// An X server of the test's own with a window manager, and what a user does there. Programs that
 /// the test starts appear there.
 class Desktop {
  public:
   Desktop();
 
-  /// Waits for a visible window with exactly that title and brings it to the front; its number.
-  /// Throws when none comes.
+  /// Waits for a visible window with exactly this title and brings it to the front. Returns its
+  /// number. Throws when no such window appears.
   std::string AwaitWindow(const std::string& zTitle);
 
-  /// Waits until that window has closed. Throws when it stays, for what follows would miss its aim.
+  /// Waits until no window has this title. Throws when it stays open.
   void AwaitGone(const std::string& zTitle);
 
-  /// Mouse and keyboard, on a point of a window's client area in pixels.
+  /// Clicks a point of a window's client area, in pixels.
   void Click(const std::string& zWindow, int zX, int zY, int zTimes = 1);
   void Type(const std::string& zText) { RunCommand({"xdotool", "type", "--delay", "12", zText}); }
   void Key(const std::string& zKey) { RunCommand({"xdotool", "key", zKey}); }
@@ -30,19 +30,20 @@ class Desktop {
   /// waits until it is there.
   void MoveTo(const std::string& zWindow, int zX, int zY);
 
-  /// The close box.
+  /// Closes a window by the window manager's key.
   void CloseWindow(const std::string& zWindow);
 
-  /// The colour of a point as RRGGBB.
+  /// The colour of a point of a window, as RRGGBB in hexadecimal.
   std::string ColourAt(const std::string& zWindow, int zX, int zY);
 
   std::string Clipboard() { return RunCommand({"xclip", "-selection", "clipboard", "-out"}); }
 
-  /// What a window tells the window manager under `zName`, in the words of xprop.
+  /// The window's property `zName`, as xprop prints it.
   std::string Property(const std::string& zWindow, const std::string& zName);
 
  private:
-  /// Asks the window manager for so many desktops, until it has handled all that came before.
+  /// Waits until the window manager has handled everything so far: asks it for `zDesktopCount`
+  /// desktops and waits until it has them.
   static void AwaitWindowManager(const std::string& zDesktopCount);
   static std::string FindWindow(const std::string& zTitle);
 

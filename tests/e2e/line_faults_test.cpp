@@ -38,7 +38,7 @@ class LineFaults : public LoquitorSession {
     EXPECT_TRUE(chip->LetPass(50));
   }
 
-  /// The chip gets a beginning of the endless phrase and then `zEnd`, nothing else.
+  /// Expects that the chip gets a beginning of the endless phrase, then `zEnd` and nothing else.
   void ExpectCutBy(const std::string& zEnd) {
     chip->Release();
     ExpectEnd(zEnd);

@@ -47,12 +47,12 @@ class LoquitorSession : public ::testing::Test {
   void SetUp() override;
   void TearDown() override;
 
-  /// Adds to the settings file, whose last section is that of the ports.
+  /// Adds to the end of the settings file, where the section of the ports is.
   void GivenSettings(const std::string& zSettings);
 
   void Start();
 
-  /// A control of an open window by the name that the tests give it.
+  /// The place of a control, by the name that it has in loquitor_session.cpp.
   static Spot At(const std::string& zName);
 
   void Click(const Spot& zSpot, int zTimes = 1);
@@ -67,18 +67,21 @@ class LoquitorSession : public ::testing::Test {
 
   std::string ViewedCodes();
 
-  /// Puts a text into a text box in place of its own and leaves the box.
+  /// Replaces the text of a text box and leaves the box.
   void FillIn(const Spot& zBox, const std::string& zText);
   void FillIn(const std::string& zBox, const std::string& zText) { FillIn(At(zBox), zText); }
 
-  /// Types Say Data into the box, which has the focus when the phrase editor is open, and says it.
+  /// Types Say Data into the phrase editor, whose box has the focus, and presses Say It.
   void Say(const std::string& zSayData);
 
-  /// Expects exactly these bytes at the chip, or these at the end, as soon as they are there.
+  /// Waits until the chip has received as many bytes, and expects exactly these.
   void ExpectBytes(const std::string& zBytes);
+
+  /// Waits until the bytes that the chip has received end with these, and expects that.
   void ExpectEnd(const std::string& zBytes);
 
-  /// Waits for a colour of the port box: "FFFFFF", "00FF00" or "FF0000".
+  /// Waits until the port box has the colour "FFFFFF", "00FF00" or "FF0000". False when it does not
+  /// get it.
   bool AwaitPortColour(const std::string& zColour);
 
   void Finish();
@@ -87,7 +90,7 @@ class LoquitorSession : public ::testing::Test {
   TempFolder folder;
   std::unique_ptr<PtyChip> chip;
   std::unique_ptr<ChildProcess> loquitor;
-  std::map<std::string, std::string> windows;  ///< the numbers of those opened, by title
+  std::map<std::string, std::string> windows;  ///< the numbers of the opened windows, by title
 };
 
 }  // namespace loquitor::testing

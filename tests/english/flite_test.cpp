@@ -1,4 +1,4 @@
-// The whole way with the real source of phones.
+// From English text to Say Data with the real source of phones.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// English text as it is spoken, before any phone is asked for.
+// English text as it is spoken, before phones are looked up.
 #include "english/normalizer.h"
 
 #include <gmock/gmock.h>

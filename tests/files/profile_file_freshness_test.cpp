@@ -61,7 +61,7 @@ TEST_F(ProfileFileFreshnessTest, SeesEveryChangeAtOnce) {
 
 #ifndef _WIN32  // where links need rights that users do not have
 
-TEST_F(ProfileFileFreshnessTest, SeesChangesBehindALink) {
+TEST_F(ProfileFileFreshnessTest, SeesChangesThroughALink) {
   std::filesystem::create_symlink("elsewhere", file);
   for (const char* value : {"4", "5"}) {
     WriteBytes(folder / "elsewhere", Text(value));
@@ -71,8 +71,8 @@ TEST_F(ProfileFileFreshnessTest, SeesChangesBehindALink) {
 
 #endif
 
-/// The clock that dates changes has steps of milliseconds: many of these states have the same
-/// size and the same times.
+/// The clock that gives the times of changes has steps of milliseconds, so many of these states
+/// have the same size and the same times.
 TEST_F(ProfileFileFreshnessTest, SeesChangesOfTheSameSizeInTheSameTick) {
   WriteBytes(file, Text("100"));
   for (int i = 100; i < 1000; ++i) {
@@ -117,7 +117,7 @@ TEST_F(ProfileFileFreshnessTest, IndexesAnUnchangedFileOnce) {
   EXPECT_EQ(profile.Snapshot(), young);
   WriteInPlace("2");
   EXPECT_NE(profile.Snapshot(), young);
-  EXPECT_EQ(young->Find("s", "k"), "1");  // who holds the old state keeps it whole
+  EXPECT_EQ(young->Find("s", "k"), "1");  // the old state stays whole for its holder
 }
 
 }  // namespace

@@ -32,8 +32,8 @@ class ProfileFileTest : public ::testing::Test {
   std::filesystem::path file = folder / "words.ini";
 };
 
-/// These rows and those of the writes tell the rules; the fuzz target tries them in every
-/// combination against a plain reference.
+/// These rows and those of the writes show the rules. The fuzz target tries combinations of them
+/// against a plain reference.
 TEST_F(ProfileFileTest, ReadsTheFirstKeyOfTheFirstSectionThatMatches) {
   for (const auto& [text, section, key, value] : Rows<Text, Text, Text, Text>{
            {"[a]\r\nk=1\r\n", "a", "k", "1"},

@@ -28,7 +28,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Starts `zStory` in a process of its own, which ends with it.
+/// Runs `zStory` in a new process.
 pid_t StartChild(const std::function<bool()>& zStory) {
   const pid_t child = fork();
   if (child == 0) {
@@ -47,8 +47,8 @@ bool InChild(const std::function<bool()>& zStory) {
   return HasSucceeded(StartChild(zStory));
 }
 
-/// Where saves are quick, since a memory file system has nothing to flush; locks and names are the
-/// same. The temporary folder where there is none.
+/// A folder in a memory file system, where saves are quick because nothing is flushed. The
+/// temporary folder if there is none.
 fs::path QuickPlace() {
   return access("/dev/shm", W_OK | X_OK) == 0 ? "/dev/shm" : fs::temp_directory_path();
 }
@@ -94,8 +94,8 @@ TEST_F(SafeSaveTest, TwoProgramsSavingAtOnceLoseNothing) {
   ExpectNoLitter();
 }
 
-/// Has a process save one word after the other and kills it after a while. Returns how many of its
-/// saves had come back.
+/// Lets a process save one word after the other, and kills it after `zTime`. Returns how many saves
+/// had returned.
 int CountSavesUntilKilled(const std::function<bool(int)>& zSave, std::chrono::microseconds zTime) {
   int ends[2];
   EXPECT_EQ(pipe(ends), 0);
@@ -132,7 +132,7 @@ TEST_F(SafeSaveTest, AKilledProgramLeavesAWholeFileAndNoLitter) {
     for (; word < end; ++word) {
       ASSERT_EQ(Load("w" + std::to_string(word)), valueOf(word));
     }
-    ++word;  // whether the save that was cut off came through is not known
+    ++word;  // it is not known whether the interrupted save took place
     if (word > 2000 || round == 499) {
       // The first save after the file was removed may have been cut off.
       ASSERT_TRUE(!fs::exists(file) || ReadBytes(file).ends_with("\r\n"));
@@ -177,7 +177,7 @@ TEST_F(SafeSaveTest, AFolderOrFileThatMayNotBeWrittenStaysAsItIs) {
 
 TEST_F(SafeSaveTest, PermissionsAndOwnerAreKeptAndNewFilesFollowTheMask) {
   using namespace std::string_literals;
-  // User 12345 may write the file, the group only read it, which its mode does not tell.
+  // User 12345 may write the file, and the group may only read it. The mode does not show that.
   const std::string list =
       "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\6\0\x39\x30\0\0"
       "\4\0\4\0\xFF\xFF\xFF\xFF\x10\0\6\0\xFF\xFF\xFF\xFF"
@@ -225,7 +225,7 @@ TEST_F(SafeSaveTest, LinksAreFollowedToTheFileOrToWhereItWillBe) {
   fs::create_directories(folder / "a/b");
   fs::create_symlink("a/link", file);
   fs::create_symlink("b/real.dic", folder / "a/link");
-  ASSERT_TRUE(Save("k", "1"));  // dangling so far
+  ASSERT_TRUE(Save("k", "1"));  // the link is dangling until now
   ASSERT_TRUE(Save("k", "2"));
   EXPECT_TRUE(fs::is_symlink(file));
   EXPECT_TRUE(fs::is_symlink(folder / "a/link"));

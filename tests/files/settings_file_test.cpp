@@ -55,7 +55,7 @@ TEST_F(SettingsFileTest, WritesNumbersAndTruthValuesInWords) {
   EXPECT_EQ(settings.GetIniValue("Serial", "Port", "1"), "2");
 }
 
-TEST_F(SettingsFileTest, ForetellsWhatComesBackOfAValue) {
+TEST_F(SettingsFileTest, PredictsTheValueAfterSaving) {
   for (const char* value : {"", " ", "a b", "  a", "a \t", "\t  a", "\" a\"", "'a\"", "\"", "\"\"",
                             "\n\r\n a\r\rb\n", "\r\"a\"\n", ";a", "[a]", "="}) {
     settings.SaveIniValue("EEPROM", "Phrase0", value);

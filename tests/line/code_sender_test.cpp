@@ -34,7 +34,7 @@ class CodeSenderTest : public ::testing::Test {
       acts.at(act)();
     }
   }
-  /// All these in the turn after byte `zCount`, in mid-send.
+  /// Lets all `zActs` happen in the turn of the event loop after byte `zCount`, during the send.
   void AfterTurns(std::size_t zCount, const Acts& zActs) {
     host.acts.assign(zCount - 1, [] {});
     host.acts.push_back([this, zActs] {
@@ -152,7 +152,7 @@ TEST_F(CodeSenderTest, APortThatFailsInMidSendOrIdleIsShownRedOnce) {
   for (const int bytes : {0, 1, 2, 3}) {
     port.bytesUntilFailure = bytes;
     Send("abc");
-    port.Vanish();  // told late, or gone only now
+    port.Vanish();  // reported late, or only now
     EXPECT_EQ(port.TakeWritten(), "abc"s.substr(0, static_cast<std::size_t>(bytes)));
     sender.CloseSerialPort();  // the closing timer
     EXPECT_EQ(TakeLog(), "green red ");
@@ -216,7 +216,7 @@ TEST_F(CodeSenderTest, ANestedSendReplacesTheRestUnlessItIsRefused) {
   }
 }
 
-/// What a window asks before it touches a send that may be another window's by now.
+/// A window asks this before it touches a send that may be another window's now.
 TEST_F(CodeSenderTest, ATicketNamesASendWhileItIsTheLatest) {
   SendTicket outer;
   SendTicket inner;
@@ -302,7 +302,7 @@ TEST_F(CodeSenderTest, BeyondTheDepthTheUserWaitsWhileTheBytesGoOutUnlessTheLine
         });
       }
       Send("outermost");
-      while (!host.acts.empty()) {  // a quick line is done before he acts
+      while (!host.acts.empty()) {  // a quick line is done before the user acts
         host.LetEventsRun(UserInput::Now);
       }
       EXPECT_EQ(port.TakeWritten(), "o-------"s.append(isSlow ? writtenSlowly : written));
@@ -337,8 +337,8 @@ TEST_F(CodeSenderTest, WhateverHappensInMidSendEverySendEndsAndTheBoxTellsTheSta
   }
 }
 
-/// A slow line and a hand on a bar: the mouse moves by the line's clock, and where it has moved
-/// several times since the last turn the window system tells its last place.
+/// A user who drags a bar while the line is slow. The mouse moves by the line's clock. If it has
+/// moved several times since the last turn, the window system reports only its last place.
 class DraggingHost : public TurnHost {
  public:
   DraggingHost(SimulatedLine& zLine, std::function<void(int)> zOnMove)

@@ -22,7 +22,8 @@ namespace {
 
 using namespace std::string_literals;
 
-/// A user without rights, for whom alone permissions and the exclusive mode of devices hold.
+/// Acts as a user without rights. Permissions and the exclusive mode of devices do not bind the
+/// superuser.
 class AsNobody {
  public:
   AsNobody() {
@@ -59,7 +60,7 @@ class QtSerialPortTest : public ::testing::Test {
   }
   bool Open() { return Open(terminal.Path()); }
 
-  /// Writes until the line takes no more. Returns how many bytes went.
+  /// Writes until the line takes no more. Returns the number of bytes.
   std::size_t FillLine() {
     std::size_t count = 0;
     while (port.IsReadyForByte() && port.WriteByte('x')) {

@@ -41,7 +41,7 @@ class SendingTest : public ::testing::Test {
 
   void Send(const std::string& zCodes) { sender.SendCodesToOrvatone(zCodes, false); }
 
-  /// Runs `zAct` out of the event loop once, while a send waits for the line that is held back.
+  /// Runs `zAct` once from the event loop, while a send waits for the line that is held back.
   void OnceHeldBack(std::function<void()> zAct) {
     QObject::connect(&poll, &QTimer::timeout, &poll, [this, zAct = std::move(zAct)] {
       const std::size_t pending = sender.PendingOutput().size();

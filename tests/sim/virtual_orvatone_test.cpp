@@ -81,7 +81,7 @@ TEST_F(VirtualOrvatoneTest, StopsCleanlyAndRemovesItsLink) {
 }
 
 TEST_F(VirtualOrvatoneTest, ReplacesALeftOverLinkAndLeavesThatOfARunningOne) {
-  // A link that leads nowhere, and one to a pseudo-terminal that is something else by now.
+  // A link that leads nowhere, and one to a pseudo-terminal that now belongs to someone else.
   PseudoTerminal other;
   for (const std::string& target : {"/dev/pts/99999"s, other.Path()}) {
     fs::create_symlink(target, link);

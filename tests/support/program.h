@@ -14,8 +14,8 @@
 
 namespace loquitor::testing {
 
-/// The program without its main window: the real files of a folder, a scripted port and scripted
-/// answers. What tests and benchmarks open windows in.
+/// The program without its main window, for tests and benchmarks that open windows: with the real
+/// files of a folder, a scripted port and scripted answers.
 struct Program {
   explicit Program(const std::filesystem::path& zFolder) : dictionary(zFolder), settings(zFolder) {
     codeTable.BuildCodeTable();

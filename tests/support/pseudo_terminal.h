@@ -47,7 +47,7 @@ class PseudoTerminal {
     }
   }
 
-  /// The settings that the program has given to its end.
+  /// The settings that the program has made on its end.
   termios Settings() const {
     termios settings{};
     if (::tcgetattr(chip_, &settings) != 0) {
@@ -56,19 +56,21 @@ class PseudoTerminal {
     return settings;
   }
 
-  /// The chip takes back its "clear to send": nothing passes, whatever the program writes. To be
-  /// called for the first time while the program does not have the line open.
+  /// The chip withdraws its "clear to send": from now on nothing passes. The first call must be
+  /// made while the program does not have the line open.
   void HoldBack() {
     OpenLine();
     ::tcflow(line_, TCOOFF);
   }
+
+  /// Ends HoldBack.
   void Release() { ::tcflow(line_, TCOON); }
 
-  /// Fills the line with bytes of no meaning, so that just `zRoom` more fit until the chip is asked
-  /// for some: however slow the machine, the program gets so far and no farther. Returns how many
-  /// bytes the chip receives before the program's. For a line that nothing has passed over yet.
+  /// Fills the line with bytes of no meaning until only `zRoom` more fit before the chip takes
+  /// some. So the program can write exactly that many, on the slowest machine too. Returns how many
+  /// bytes the chip receives before the program's. The line must be unused so far.
   std::size_t LeaveRoom(std::size_t zRoom) {
-    constexpr std::size_t grain = 512;  // Linux frees so many places at once
+    constexpr std::size_t grain = 512;  // Linux frees this many places at once
     OpenLine();
     std::size_t count = 0;
     for (; !IsFull(20); ++count) {
@@ -86,7 +88,7 @@ class PseudoTerminal {
     return count - zRoom;
   }
 
-  /// Whether the line takes no more now, nor within that time.
+  /// Whether the line takes no byte for `zMilliseconds`.
   bool IsFull(int zMilliseconds = 0) const {
     pollfd line{.fd = line_, .events = POLLOUT, .revents = 0};
     return ::poll(&line, 1, zMilliseconds) == 0;
@@ -113,7 +115,7 @@ class PseudoTerminal {
   /// Writes a byte from the program's end.
   void Put() {
     for (int tries = 0; ::write(line_, ".", 1) != 1; ++tries) {
-      const bool isFull = IsFull(10);  // waits: what was taken off makes room in its own time
+      const bool isFull = IsFull(10);  // waits: bytes that were taken make room with a delay
       if (isFull && tries == 100) {
         throw std::runtime_error("the line takes nothing");
       }
@@ -121,7 +123,7 @@ class PseudoTerminal {
   }
 
   int chip_ = -1;
-  int line_ = -1;  // the program's end, for its flow and what fills it
+  int line_ = -1;  // the program's end, to hold it back and to fill it
   std::string path_;
 };
 

@@ -8,9 +8,9 @@
 
 namespace loquitor::testing {
 
-/// A mouse as the desktop's: its presses go to the window under it (a modal box that is up swallows
-/// them) and carry the real time, so that Qt itself tells double clicks from two clicks. QTest's
-/// own presses never make a double click.
+/// A mouse like that of the desktop. Its presses go to the window under it, so an open modal box
+/// swallows them. They carry the real time, so Qt itself distinguishes a double click from two
+/// clicks. QTest's own presses never make a double click.
 class RealMouse {
  public:
   RealMouse() : origin_(QTest::lastMouseTimestamp + 10'000) { clock_.start(); }
@@ -29,9 +29,9 @@ class RealMouse {
     QTest::mouseRelease(Window(zWidget), Qt::LeftButton, {}, InWindow(zWidget, zAt));
   }
 
-  /// Clicks, and once more `zMilliseconds` later, from whatever event loop runs then. Returns when
-  /// the first click has been handled. Where the machine is late, the second one still carries the
-  /// time at which it was due.
+  /// Clicks, and clicks again `zMilliseconds` later from the event loop that runs then. Returns
+  /// when the first click has been handled. On a slow machine the second click comes later, but
+  /// carries the time at which it was due.
   void ClickTwice(QWidget* zWidget, int zMilliseconds) {
     const int due = Now() + zMilliseconds;
     ClickLater(zMilliseconds, due, zWidget);
@@ -42,7 +42,7 @@ class RealMouse {
   int Now() const { return origin_ + static_cast<int>(clock_.elapsed()); }
   void ClickLater(int zMilliseconds, int zTime, QWidget* zWidget) {
     QTimer::singleShot(zMilliseconds, Qt::PreciseTimer, zWidget, [=, this] {
-      // QTest lets timers run between a press and its release, too.
+      // QTest lets timers run even between a press and its release.
       isDown_ ? ClickLater(1, zTime, zWidget) : ClickAt(zTime, zWidget);
     });
   }

@@ -6,7 +6,7 @@
 
 namespace loquitor::testing {
 
-/// The main window's side of sending, on the real event loop, for tests of other windows.
+/// A host on the real event loop, in place of the main window, for tests of other windows.
 class ScriptedHost : public TurnHost {
  public:
   void LetEventsRun(UserInput zInput) override {

@@ -43,7 +43,7 @@ class ScriptedPort : public SerialPort {
     failureHandler = std::move(zHandler);
   }
 
-  /// The device goes away while nothing is being written.
+  /// The device disappears while nothing is being written.
   void Vanish() {
     isOpen_ = false;
     failureHandler();
@@ -58,8 +58,8 @@ class ScriptedPort : public SerialPort {
   int discardCount = 0;
   bool refusesToOpen = false;
   bool isHeldBack = false;
-  int unsentBytes = 0;           ///< what the port says of its own queue
-  int bytesUntilFailure = -1;    ///< from 0 on: that many more bytes are taken, then the port fails
+  int unsentBytes = 0;           ///< the result of UnsentBytes while the port is open
+  int bytesUntilFailure = -1;    ///< how many more bytes are taken before the port fails; -1: all
   std::function<void()> onByte;  ///< runs after each byte
   std::function<void()> failureHandler;
 

@@ -8,8 +8,8 @@
 
 namespace loquitor::testing {
 
-/// Answers the program's questions from a list and remembers them. Without an answer in the list a
-/// box is closed (Cancel, No or Ok).
+/// Answers the program's questions from a list, and remembers them. When the list is empty it
+/// closes the box (Cancel, No or Ok).
 class ScriptedPrompts : public Prompts {
  public:
   struct Asked {

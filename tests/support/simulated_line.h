@@ -8,8 +8,8 @@
 
 namespace loquitor {
 
-/// A serial line with a clock of its own: bytes leave the port's queue at the speed that it was
-/// opened with, ten bits each.
+/// A serial line with a clock of its own. Bytes of ten bits leave the port's queue at the speed
+/// with which it was opened.
 class SimulatedLine : public SerialPort {
  public:
   PortFailure Open(const SerialPortSettings& zSettings) override {

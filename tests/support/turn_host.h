@@ -9,7 +9,7 @@
 
 namespace loquitor::testing {
 
-/// A main window whose user acts by a list: one act a turn of the event loop.
+/// A main window whose user acts from a list: one act in each turn of the event loop.
 class TurnHost : public SenderHost {
  public:
   std::string PortDevice() const override { return device; }

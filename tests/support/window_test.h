@@ -38,7 +38,7 @@ class WindowTest : public ::testing::Test, protected InFolder, protected Program
   /// What has gone out on the line since the last call.
   std::string Sent() { return port.TakeWritten(); }
 
-  /// Runs `zStep` when so many bytes have gone out since the last call of Sent().
+  /// Runs `zStep` when `zCount` bytes have gone out since the last call of Sent().
   void AfterBytes(std::size_t zCount, std::function<void()> zStep) {
     port.onByte = [=, this] {
       if (port.written.size() == zCount) {
@@ -46,12 +46,13 @@ class WindowTest : public ::testing::Test, protected InFolder, protected Program
       }
     };
   }
-  /// Runs `zStep` from the event loop that runs then.
+
+  /// Runs `zStep` after `zMilliseconds`, from the event loop that runs then.
   void After(int zMilliseconds, std::function<void()> zStep) {
     QTimer::singleShot(zMilliseconds, &steps_, std::move(zStep));
   }
 
-  /// What the boxes that have come up said.
+  /// The texts of the boxes that have been shown.
   QStringList Told() const {
     QStringList texts;
     for (const auto& asked : prompts.asked) {
@@ -61,7 +62,7 @@ class WindowTest : public ::testing::Test, protected InFolder, protected Program
   }
 
  private:
-  QObject steps_;  // those that are still to come end with the test
+  QObject steps_;  // the steps that have not run end with the test
 };
 
 /// A test of one window, with verbs for what its user does.
@@ -105,7 +106,7 @@ class ToolWindowTest : public WindowTest {
   }
   ScrollBar* Bar(const QString& zName) { return Get<ScrollBar>(zName); }
 
-  /// Types a text in place of what a box holds; the focus stays there.
+  /// Types a text in place of the text of a box. The box keeps the focus.
   void Type(const QString& zBox, const QString& zText) {
     Box(zBox)->setFocus();
     Box(zBox)->selectAll();
@@ -113,7 +114,7 @@ class ToolWindowTest : public WindowTest {
     QTest::keyClicks(Box(zBox), zText);
   }
 
-  /// The names of all Tab stops that can be reached, from the given one on.
+  /// The names of all Tab stops that can be reached, in their order from `zFirst` on.
   std::string TabOrder(const QString& zFirst) {
     QWidget* first = Get(zFirst);
     QString order = zFirst;

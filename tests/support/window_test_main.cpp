@@ -3,7 +3,7 @@
 #include <QApplication>
 
 int main(int argc, char** argv) {
-  // Here, not in CTest alone: CTest asks for the names of the tests without their environment.
+  // Not only in CTest, which asks for the names of the tests without their environment.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }

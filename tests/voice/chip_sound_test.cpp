@@ -1,4 +1,4 @@
-// What sounds besides the voice, and what starts and stops it.
+// The sounds besides the voice, and what starts and stops all sound.
 
 #include <gtest/gtest.h>
 
@@ -199,7 +199,7 @@ TEST_F(ChipSoundTest, HoldsEverythingAtAWaitUntilItIsRestarted) {
   EXPECT_GT(ToneHeight(Middle(heard), 440), 1000) << "and so do the oscillators";
 }
 
-TEST_F(ChipSoundTest, SaysStoredPhrasesWhereTheyStand) {
+TEST_F(ChipSoundTest, SaysStoredPhrasesWhereTheyAreCalled) {
   phrases = {{0, Iy + Beep}, {3, "\x02\x1C\x02"s}, {2, Iy}};
   EXPECT_EQ(Said("\x1D\0"s, phrases), Said(phrases[0]));
   EXPECT_EQ(Said("\x1C\0"s, phrases), Said(phrases[0]));

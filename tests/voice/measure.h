@@ -26,7 +26,7 @@ inline Samples Render(ChipSound& zSound, double zMs) {
   return samples;
 }
 
-/// Everything that is left to say, in steps of 2 ms; at most a minute.
+/// Renders everything that is left to say, in steps of 2 ms, up to a minute.
 inline Samples RenderAll(ChipSound& zSound) {
   Samples all;
   while (!zSound.IsQuiet() && all.size() < SamplesIn(60000)) {
@@ -36,7 +36,7 @@ inline Samples RenderAll(ChipSound& zSound) {
   return all;
 }
 
-/// What a fresh chip makes of codes; `zPhrases` are in its memory.
+/// The sound of codes that a new chip says, with `zPhrases` in its memory.
 inline Samples Said(std::string_view zCodes, std::map<int, std::string> zPhrases = {}) {
   ChipSound sound([zPhrases](int zSlot) {
     const auto phrase = zPhrases.find(zSlot);
@@ -71,7 +71,7 @@ inline std::span<const std::int16_t> Middle(const Samples& zSamples) {
   return std::span(zSamples).subspan(zSamples.size() / 4, zSamples.size() / 2);
 }
 
-/// How much of a tone of `zHertz` there is: the height of a sine that would give it.
+/// The amplitude of the tone of `zHertz` in a sound.
 inline double ToneHeight(std::span<const std::int16_t> zSamples, double zHertz) {
   double real = 0;
   double imaginary = 0;
@@ -98,7 +98,7 @@ inline double Strongest(std::span<const std::int16_t> zSamples, double zLow, dou
   return strongest;
 }
 
-/// The pitch in hertz between 40 and 400, by the best match of the sound with itself later on.
+/// The pitch in hertz between 40 and 400, by autocorrelation.
 inline double Fundamental(std::span<const std::int16_t> zSamples) {
   constexpr std::size_t shortest = VoiceSampleRate / 400;
   constexpr std::size_t longest = VoiceSampleRate / 40;
@@ -111,7 +111,7 @@ inline double Fundamental(std::span<const std::int16_t> zSamples) {
     matches.push_back(sum);
   }
   const double best = *std::max_element(matches.begin() + shortest, matches.end());
-  std::size_t lag = shortest;  // two periods match as well as one: the first good match counts
+  std::size_t lag = shortest;  // the first good match counts: two periods match as well as one
   while (matches[lag] < 0.9 * best || matches[lag] < matches[lag + 1]) {
     ++lag;
   }
