@@ -13,7 +13,7 @@ namespace loquitor {
 struct SilentPart {
   enum class Kind {
     Word,     ///< a word without an entry, or whose entry gives no code
-    Mnemonic  ///< a backslash that is not followed by the name of a code or a number 0 to 255
+    Mnemonic  ///< a backslash and what follows it, without codes by CodeTable::TokenCodes
   };
 
   Kind kind;
