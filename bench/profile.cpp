@@ -30,7 +30,7 @@ void FirstLookup(benchmark::State& zState) {
   const SampleDictionary sample(zState.range(0));
   const std::string word = sample.Word(sample.Size() / 2);
   for (auto _ : zState) {
-    benchmark::DoNotOptimize(ProfileFile(sample.File()).Read("Words", word, "", 2560));
+    benchmark::DoNotOptimize(ReadProfileValue("Words", word, "", 2560, sample.File()));
   }
 }
 
@@ -59,7 +59,7 @@ void WriteOneWord(benchmark::State& zState) {
   const std::string word = sample.Word(sample.Size() / 2);
   int i = 0;
   for (auto _ : zState) {
-    benchmark::DoNotOptimize(ProfileFile(sample.File()).Write("Words", word, std::to_string(++i)));
+    benchmark::DoNotOptimize(WriteProfileValue("Words", word, std::to_string(++i), sample.File()));
   }
 }
 

@@ -31,7 +31,7 @@ struct Ours {
   }
   static bool Write(const std::filesystem::path& zFile, const std::string& zWord,
                     const std::string& zValue) {
-    return ProfileFile(zFile).Write("words", zWord, zValue);
+    return WriteProfileValue("words", zWord, zValue, zFile);
   }
   ProfileFile file;
 };

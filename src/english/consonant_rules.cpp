@@ -15,7 +15,7 @@ namespace {
 struct ConsonantPlace {
   std::span<const SoundPiece> pieces;
   std::size_t at;
-  const std::vector<Sound>& sounds;  ///< of the pieces before it
+  const std::vector<SpeechSound>& sounds;  ///< of the pieces before it
   std::string_view spelling;
 
   /// The piece `zSteps` after this one, null after the end.
@@ -29,14 +29,14 @@ struct ConsonantPlace {
   bool IsBeforeVowel(std::size_t zSteps = 1) const {
     return After(zSteps) != nullptr && After(zSteps)->isVowel;
   }
-  bool IsBeforeOneOf(std::initializer_list<Sound> zVowels) const {
+  bool IsBeforeOneOf(std::initializer_list<SpeechSound> zVowels) const {
     return IsBeforeVowel() && IsOneOf(After(1)->vowel, zVowels);
   }
   bool IsBeforeBack(std::size_t zSteps = 1) const {
     return IsBeforeVowel(zSteps) && !IsFrontVowel(After(zSteps)->vowel);
   }
   bool IsAfterVowel() const { return Before() != nullptr && Before()->isVowel; }
-  bool IsAfterSound(Sound zSound) const { return !sounds.empty() && sounds.back() == zSound; }
+  bool IsAfterSound(SpeechSound zSound) const { return !sounds.empty() && sounds.back() == zSound; }
   bool ClosesBackVowel() const { return IsAfterVowel() && ClosesBack(Before()->vowel); }
 
  private:
@@ -69,23 +69,25 @@ constexpr Condition SpelledWh = [](const ConsonantPlace& p) {
                                       : isOnlyW && p.spelling.find("wh") != std::string_view::npos;
 };
 constexpr Condition LBeforeBackSound = [](const ConsonantPlace& p) {
-  using enum Sound;
+  using enum SpeechSound;
   return (p.IsBeforeBack() && !p.IsBeforeOneOf({AWRR})) || p.IsBeforeOneOf({OHIH, OHIY, RR});
 };
 constexpr Condition LInBlackOrClear = [](const ConsonantPlace& p) {
   return (p.IsAfter(Phone::B) || p.IsAfter(Phone::G) || p.IsAfter(Phone::K)) &&
-         p.IsBeforeOneOf({Sound::AY, Sound::IYRR});
+         p.IsBeforeOneOf({SpeechSound::AY, SpeechSound::IYRR});
 };
-constexpr Condition AfterAxrr = [](const ConsonantPlace& p) { return p.IsAfterSound(Sound::AXRR); };
+constexpr Condition AfterAxrr = [](const ConsonantPlace& p) {
+  return p.IsAfterSound(SpeechSound::AXRR);
+};
 constexpr Condition NClosingBack = [](const ConsonantPlace& p) {
   const bool isInFinalND = p.After(2) == nullptr && p.IsBefore(Phone::D);
   const bool isInFinalNT = p.After(2) == nullptr && p.IsBefore(Phone::T);
-  const bool isAfterSchwa = p.IsAfterSound(Sound::AX) && !p.Before()->isStressed;
+  const bool isAfterSchwa = p.IsAfterSound(SpeechSound::AX) && !p.Before()->isStressed;
   return p.ClosesBackVowel() && !isAfterSchwa && !isInFinalND &&
-         (!isInFinalNT || p.IsAfterSound(Sound::OH));
+         (!isInFinalNT || p.IsAfterSound(SpeechSound::OH));
 };
 constexpr Condition DClosingBack = [](const ConsonantPlace& p) {
-  return p.ClosesBackVowel() && !p.IsAfterSound(Sound::UH);
+  return p.ClosesBackVowel() && !p.IsAfterSound(SpeechSound::UH);
 };
 constexpr Condition GBeforeBack = [](const ConsonantPlace& p) {
   const bool isBeforeGlide = p.IsBefore(Phone::L) || p.IsBefore(Phone::R) || p.IsBefore(Phone::W);
@@ -95,25 +97,25 @@ constexpr Condition GBeforeVowelOrGlide = [](const ConsonantPlace& p) {
   return p.IsBeforeVowel() || p.IsBefore(Phone::L) || p.IsBefore(Phone::R) || p.IsBefore(Phone::W);
 };
 constexpr Condition BetweenVowelAndRR = [](const ConsonantPlace& p) {
-  return p.IsAfterVowel() && p.IsBeforeOneOf({Sound::RR});
+  return p.IsAfterVowel() && p.IsBeforeOneOf({SpeechSound::RR});
 };
 constexpr Condition BetweenBackAndRR = [](const ConsonantPlace& p) {
-  return p.ClosesBackVowel() && p.IsBeforeOneOf({Sound::RR});
+  return p.ClosesBackVowel() && p.IsBeforeOneOf({SpeechSound::RR});
 };
 constexpr Condition KBeforeBack = [](const ConsonantPlace& p) {
-  return p.IsBeforeBack() && !p.IsBeforeOneOf({Sound::AWRR, Sound::AYWW});
+  return p.IsBeforeBack() && !p.IsBeforeOneOf({SpeechSound::AWRR, SpeechSound::AYWW});
 };
 constexpr Condition BetweenOhAndS = [](const ConsonantPlace& p) {
-  return p.IsAfterSound(Sound::OH) && p.IsBefore(Phone::S);
+  return p.IsAfterSound(SpeechSound::OH) && p.IsBefore(Phone::S);
 };
 constexpr Condition BetweenOhAndUnstressed = [](const ConsonantPlace& p) {
-  return p.IsAfterSound(Sound::OH) && p.IsBeforeVowel() && !p.After(1)->isStressed;
+  return p.IsAfterSound(SpeechSound::OH) && p.IsBeforeVowel() && !p.After(1)->isStressed;
 };
 constexpr Condition BeforeSNotBeforeVowel = [](const ConsonantPlace& p) {
   return p.IsBefore(Phone::S) && !p.IsBeforeVowel(2);
 };
 constexpr Condition BeforeEhle = [](const ConsonantPlace& p) {
-  return p.IsBeforeOneOf({Sound::EHLE});
+  return p.IsBeforeOneOf({SpeechSound::EHLE});
 };
 constexpr Condition BeforeVowelROrW = [](const ConsonantPlace& p) {
   return p.IsBeforeVowel() || p.IsBefore(Phone::R) || p.IsBefore(Phone::W);
@@ -125,7 +127,7 @@ constexpr Condition BeforeLNKAndBack = [](const ConsonantPlace& p) {
 
 /// The y at the beginning of the vowel in value counts as a consonant.
 constexpr Condition LClosingBackBeforeY = [](const ConsonantPlace& p) {
-  return p.IsBeforeOneOf({Sound::IYUW}) && p.ClosesBackVowel();
+  return p.IsBeforeOneOf({SpeechSound::IYUW}) && p.ClosesBackVowel();
 };
 constexpr Condition BClosingBackSyllable = [](const ConsonantPlace& p) {
   const bool isLastSyllable =
@@ -137,79 +139,79 @@ constexpr Condition BClosingBackSyllable = [](const ConsonantPlace& p) {
 struct ConsonantRule {
   Phone phone;
   Condition condition;
-  Sound sound;
+  SpeechSound sound;
   std::size_t pieceCount = 1;
 };
 
 constexpr ConsonantRule ConsonantRules[] = {
-    {Phone::M, Always, Sound::MM},
-    {Phone::W, SpelledWh, Sound::WH},
-    {Phone::W, Always, Sound::WW},
-    {Phone::R, Always, Sound::RR},
-    {Phone::V, Always, Sound::VV},
-    {Phone::Z, Always, Sound::ZZ},
-    {Phone::ZH, Always, Sound::ZH},
-    {Phone::DH, Always, Sound::DH},
-    {Phone::JH, Always, Sound::JH},
-    {Phone::CH, Always, Sound::CH},
-    {Phone::SH, Always, Sound::SH},
-    {Phone::TH, Always, Sound::TH},
-    {Phone::F, Always, Sound::FF},
-    {Phone::HH, BeforeBack, Sound::HO},
-    {Phone::HH, Always, Sound::HE},
-    {Phone::L, LBeforeBackSound, Sound::LO},
-    {Phone::L, LInBlackOrClear, Sound::LO},
-    {Phone::L, LClosingBackBeforeY, Sound::LO},
-    {Phone::L, BeforeVowel, Sound::LE},
-    {Phone::L, ClosingBack, Sound::LO},
-    {Phone::L, AfterAxrr, Sound::LO},
-    {Phone::L, Always, Sound::LE},
-    {Phone::N, BeforeBack, Sound::NO},
-    {Phone::N, BeforeVowel, Sound::NE},
-    {Phone::N, NClosingBack, Sound::NO},
-    {Phone::N, Always, Sound::NE},
-    {Phone::NG, ClosingBack, Sound::NGO},
-    {Phone::NG, Always, Sound::NGE},
-    {Phone::B, BeforeBack, Sound::BO},
-    {Phone::B, BeforeVowel, Sound::BE},
-    {Phone::B, BeforeRAndBack, Sound::BO},
-    {Phone::B, BeforeR, Sound::BE},
-    {Phone::B, FirstBeforeL, Sound::BE},
-    {Phone::B, BClosingBackSyllable, Sound::OB},
-    {Phone::B, Always, Sound::EB},
-    {Phone::D, BeforeBack, Sound::DO},
-    {Phone::D, BeforeVowel, Sound::DE},
-    {Phone::D, BeforeR, Sound::DE},
-    {Phone::D, BeforeWAndBack, Sound::DO},
-    {Phone::D, BeforeW, Sound::DE},
-    {Phone::D, DClosingBack, Sound::OD},
-    {Phone::D, Always, Sound::ED},
-    {Phone::G, GBeforeBack, Sound::GO},
-    {Phone::G, GBeforeVowelOrGlide, Sound::GE},
-    {Phone::G, ClosingBack, Sound::OG},
-    {Phone::G, Always, Sound::EG},
-    {Phone::K, BetweenBackAndRR, Sound::OK},
-    {Phone::K, BetweenVowelAndRR, Sound::EK},
-    {Phone::K, KBeforeBack, Sound::KO},
-    {Phone::K, BeforeVowel, Sound::KE},
-    {Phone::K, BeforeW, Sound::KO},
-    {Phone::K, BeforeL, Sound::KE},
-    {Phone::K, BeforeRAndBack, Sound::KO},
-    {Phone::K, BeforeR, Sound::KE},
-    {Phone::K, BetweenOhAndS, Sound::KO},
-    {Phone::K, ClosingBack, Sound::OK},
-    {Phone::K, Always, Sound::EK},
-    {Phone::P, BeforeBack, Sound::PO},
-    {Phone::P, BetweenOhAndUnstressed, Sound::PO},
-    {Phone::P, Always, Sound::PE},
-    {Phone::T, BeforeSNotBeforeVowel, Sound::TS, 2},
-    {Phone::T, BeforeEhle, Sound::TT},
-    {Phone::T, BeforeVowelROrW, Sound::TU},
-    {Phone::T, Always, Sound::TT},
-    {Phone::S, BeforeBack, Sound::SO},
-    {Phone::S, BeforeW, Sound::SO},
-    {Phone::S, BeforeLNKAndBack, Sound::SO},
-    {Phone::S, Always, Sound::SE},
+    {Phone::M, Always, SpeechSound::MM},
+    {Phone::W, SpelledWh, SpeechSound::WH},
+    {Phone::W, Always, SpeechSound::WW},
+    {Phone::R, Always, SpeechSound::RR},
+    {Phone::V, Always, SpeechSound::VV},
+    {Phone::Z, Always, SpeechSound::ZZ},
+    {Phone::ZH, Always, SpeechSound::ZH},
+    {Phone::DH, Always, SpeechSound::DH},
+    {Phone::JH, Always, SpeechSound::JH},
+    {Phone::CH, Always, SpeechSound::CH},
+    {Phone::SH, Always, SpeechSound::SH},
+    {Phone::TH, Always, SpeechSound::TH},
+    {Phone::F, Always, SpeechSound::FF},
+    {Phone::HH, BeforeBack, SpeechSound::HO},
+    {Phone::HH, Always, SpeechSound::HE},
+    {Phone::L, LBeforeBackSound, SpeechSound::LO},
+    {Phone::L, LInBlackOrClear, SpeechSound::LO},
+    {Phone::L, LClosingBackBeforeY, SpeechSound::LO},
+    {Phone::L, BeforeVowel, SpeechSound::LE},
+    {Phone::L, ClosingBack, SpeechSound::LO},
+    {Phone::L, AfterAxrr, SpeechSound::LO},
+    {Phone::L, Always, SpeechSound::LE},
+    {Phone::N, BeforeBack, SpeechSound::NO},
+    {Phone::N, BeforeVowel, SpeechSound::NE},
+    {Phone::N, NClosingBack, SpeechSound::NO},
+    {Phone::N, Always, SpeechSound::NE},
+    {Phone::NG, ClosingBack, SpeechSound::NGO},
+    {Phone::NG, Always, SpeechSound::NGE},
+    {Phone::B, BeforeBack, SpeechSound::BO},
+    {Phone::B, BeforeVowel, SpeechSound::BE},
+    {Phone::B, BeforeRAndBack, SpeechSound::BO},
+    {Phone::B, BeforeR, SpeechSound::BE},
+    {Phone::B, FirstBeforeL, SpeechSound::BE},
+    {Phone::B, BClosingBackSyllable, SpeechSound::OB},
+    {Phone::B, Always, SpeechSound::EB},
+    {Phone::D, BeforeBack, SpeechSound::DO},
+    {Phone::D, BeforeVowel, SpeechSound::DE},
+    {Phone::D, BeforeR, SpeechSound::DE},
+    {Phone::D, BeforeWAndBack, SpeechSound::DO},
+    {Phone::D, BeforeW, SpeechSound::DE},
+    {Phone::D, DClosingBack, SpeechSound::OD},
+    {Phone::D, Always, SpeechSound::ED},
+    {Phone::G, GBeforeBack, SpeechSound::GO},
+    {Phone::G, GBeforeVowelOrGlide, SpeechSound::GE},
+    {Phone::G, ClosingBack, SpeechSound::OG},
+    {Phone::G, Always, SpeechSound::EG},
+    {Phone::K, BetweenBackAndRR, SpeechSound::OK},
+    {Phone::K, BetweenVowelAndRR, SpeechSound::EK},
+    {Phone::K, KBeforeBack, SpeechSound::KO},
+    {Phone::K, BeforeVowel, SpeechSound::KE},
+    {Phone::K, BeforeW, SpeechSound::KO},
+    {Phone::K, BeforeL, SpeechSound::KE},
+    {Phone::K, BeforeRAndBack, SpeechSound::KO},
+    {Phone::K, BeforeR, SpeechSound::KE},
+    {Phone::K, BetweenOhAndS, SpeechSound::KO},
+    {Phone::K, ClosingBack, SpeechSound::OK},
+    {Phone::K, Always, SpeechSound::EK},
+    {Phone::P, BeforeBack, SpeechSound::PO},
+    {Phone::P, BetweenOhAndUnstressed, SpeechSound::PO},
+    {Phone::P, Always, SpeechSound::PE},
+    {Phone::T, BeforeSNotBeforeVowel, SpeechSound::TS, 2},
+    {Phone::T, BeforeEhle, SpeechSound::TT},
+    {Phone::T, BeforeVowelROrW, SpeechSound::TU},
+    {Phone::T, Always, SpeechSound::TT},
+    {Phone::S, BeforeBack, SpeechSound::SO},
+    {Phone::S, BeforeW, SpeechSound::SO},
+    {Phone::S, BeforeLNKAndBack, SpeechSound::SO},
+    {Phone::S, Always, SpeechSound::SE},
 };
 
 /// There always is one: each consonant has a rule with the condition Always. Y never comes here,
@@ -223,9 +225,9 @@ const ConsonantRule& RuleAt(const ConsonantPlace& zPlace) {
 
 }  // namespace
 
-std::vector<Sound> PiecesToSounds(const std::vector<SoundPiece>& zPieces,
-                                  std::string_view zSpelling) {
-  std::vector<Sound> sounds;
+std::vector<SpeechSound> PiecesToSounds(const std::vector<SoundPiece>& zPieces,
+                                        std::string_view zSpelling) {
+  std::vector<SpeechSound> sounds;
   for (std::size_t at = 0; at < zPieces.size();) {
     if (zPieces[at].isVowel) {
       sounds.push_back(zPieces[at++].vowel);

@@ -76,7 +76,7 @@ EnglishReader::EnglishReader(PhoneSource& zSource, const CodeTable& zCodeTable)
 std::string EnglishReader::Mnemonics(const WordPhones& zPhones, std::string_view zSpelling,
                                      std::string_view zSeparator) const {
   std::string mnemonics;
-  for (const Sound sound : SoundsOfWord(zPhones, zSpelling)) {
+  for (const SpeechSound sound : SoundsOfWord(zPhones, zSpelling)) {
     mnemonics.append(mnemonics.empty() ? "" : zSeparator);
     mnemonics += codeTable_.GetCodeMnemonic(static_cast<std::uint8_t>(sound));
   }

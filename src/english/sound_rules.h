@@ -15,7 +15,7 @@ struct SoundPiece {
   Phone phone;      ///< of a vowel: the first phone that it covers
   bool isStressed;  ///< whether its syllable is
   bool isVowel;
-  Sound vowel;  ///< the sound of a vowel; meaningless for a consonant
+  SpeechSound vowel;  ///< the sound of a vowel; meaningless for a consonant
 };
 
 /// The first step from phones to sounds: finds the sounds of the vowels. A sound may cover a vowel
@@ -25,10 +25,10 @@ std::vector<SoundPiece> VowelsToSounds(const WordPhones& zPhones, std::string_vi
 
 /// The second step: the sounds of all pieces in order. The chip has forms of a consonant for front
 /// and for back vowels.
-std::vector<Sound> PiecesToSounds(const std::vector<SoundPiece>& zPieces,
-                                  std::string_view zSpelling);
+std::vector<SpeechSound> PiecesToSounds(const std::vector<SoundPiece>& zPieces,
+                                        std::string_view zSpelling);
 
 /// The sounds of a word, by both steps. docs/english.md explains the rules.
-std::vector<Sound> SoundsOfWord(const WordPhones& zPhones, std::string_view zSpelling);
+std::vector<SpeechSound> SoundsOfWord(const WordPhones& zPhones, std::string_view zSpelling);
 
 }  // namespace loquitor

@@ -7,7 +7,7 @@ namespace loquitor {
 
 /// The sounds of the chip that speech is made of. The values are their codes, the names their
 /// mnemonics.
-enum class Sound : std::uint8_t {
+enum class SpeechSound : std::uint8_t {
   // clang-format off
   IY = 128, IH, EY, EH, AY, AX, UX, AW, OH, OW, UH, UW,
   MM, NE, NO, NGE, NGO, LE, LO, WW,
@@ -21,8 +21,8 @@ enum class Sound : std::uint8_t {
 };
 
 /// Whether `zSounds` has `zSound`.
-constexpr bool IsOneOf(Sound zSound, std::initializer_list<Sound> zSounds) {
-  for (const Sound sound : zSounds) {
+constexpr bool IsOneOf(SpeechSound zSound, std::initializer_list<SpeechSound> zSounds) {
+  for (const SpeechSound sound : zSounds) {
     if (sound == zSound) {
       return true;
     }
@@ -32,15 +32,15 @@ constexpr bool IsOneOf(Sound zSound, std::initializer_list<Sound> zSounds) {
 
 /// Whether a vowel begins in the front of the mouth. A consonant before it then takes its front
 /// form, and otherwise its back form.
-constexpr bool IsFrontVowel(Sound zVowel) {
-  using enum Sound;
+constexpr bool IsFrontVowel(SpeechSound zVowel) {
+  using enum SpeechSound;
   return IsOneOf(
       zVowel, {IY, IH, EY, EH, AY, EYIY, EYRR, IYRR, IYEH, IYUW, EHLE, AXRR, RR, OHIH, OHIY, IHWW});
 }
 
 /// Whether a vowel ends in the back of the mouth. A consonant after it then takes its back form.
-constexpr bool ClosesBack(Sound zVowel) {
-  using enum Sound;
+constexpr bool ClosesBack(SpeechSound zVowel) {
+  using enum SpeechSound;
   return IsOneOf(zVowel, {AX, UX, AW, OH, OW, UH, UW, AXUW, AYWW, OWWW, IYUW, IHWW});
 }
 

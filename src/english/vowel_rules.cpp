@@ -106,12 +106,12 @@ struct VowelRule {
   std::array<Phone, 2> phones;
   std::size_t phoneCount;
   Condition condition;
-  Sound sound;
+  SpeechSound sound;
   bool isSilent = false;
 
-  constexpr VowelRule(Phone zPhone, Condition zCondition, Sound zSound)
+  constexpr VowelRule(Phone zPhone, Condition zCondition, SpeechSound zSound)
       : phones{zPhone}, phoneCount(1), condition(zCondition), sound(zSound) {}
-  constexpr VowelRule(Phone zFirst, Phone zSecond, Condition zCondition, Sound zSound)
+  constexpr VowelRule(Phone zFirst, Phone zSecond, Condition zCondition, SpeechSound zSound)
       : phones{zFirst, zSecond}, phoneCount(2), condition(zCondition), sound(zSound) {}
   /// A vowel that is not spoken.
   constexpr VowelRule(Phone zPhone, Condition zCondition)
@@ -120,58 +120,58 @@ struct VowelRule {
 
 // An AH without stress counts as AX here.
 constexpr VowelRule VowelRules[] = {
-    {Phone::Y, Phone::UW, Always, Sound::IYUW},
-    {Phone::Y, Phone::UH, Always, Sound::IYUW},
-    {Phone::Y, Phone::EH, NotBeforeLOrR, Sound::IYEH},
-    {Phone::Y, Phone::AX, NotBeforeL, Sound::IYEH},
-    {Phone::Y, Always, Sound::IYEH},
-    {Phone::IY, Phone::R, Always, Sound::IYRR},
-    {Phone::IH, Phone::R, Always, Sound::IYRR},
-    {Phone::EH, Phone::R, Always, Sound::EYRR},
-    {Phone::EY, Phone::R, Always, Sound::EYRR},
-    {Phone::AE, Phone::R, Always, Sound::EYRR},
-    {Phone::AO, Phone::R, Always, Sound::OWRR},
-    {Phone::OW, Phone::R, Always, Sound::OWRR},
-    {Phone::AA, Phone::R, NotBeforeVowel, Sound::AWRR},
-    {Phone::AA, BetweenMAndR, Sound::OH},
-    {Phone::AA, BeforeR, Sound::AW},
-    {Phone::AH, Phone::R, Always, Sound::AXRR},
-    {Phone::AX, Phone::R, NotBeforeVowel, Sound::RR},
-    {Phone::ER, StressedOrFirst, Sound::AXRR},
-    {Phone::ER, Always, Sound::RR},
-    {Phone::AX, Phone::L, UnstressedSyllabic, Sound::EHLE},
-    {Phone::EH, Phone::L, AtEnd, Sound::EHLE},
+    {Phone::Y, Phone::UW, Always, SpeechSound::IYUW},
+    {Phone::Y, Phone::UH, Always, SpeechSound::IYUW},
+    {Phone::Y, Phone::EH, NotBeforeLOrR, SpeechSound::IYEH},
+    {Phone::Y, Phone::AX, NotBeforeL, SpeechSound::IYEH},
+    {Phone::Y, Always, SpeechSound::IYEH},
+    {Phone::IY, Phone::R, Always, SpeechSound::IYRR},
+    {Phone::IH, Phone::R, Always, SpeechSound::IYRR},
+    {Phone::EH, Phone::R, Always, SpeechSound::EYRR},
+    {Phone::EY, Phone::R, Always, SpeechSound::EYRR},
+    {Phone::AE, Phone::R, Always, SpeechSound::EYRR},
+    {Phone::AO, Phone::R, Always, SpeechSound::OWRR},
+    {Phone::OW, Phone::R, Always, SpeechSound::OWRR},
+    {Phone::AA, Phone::R, NotBeforeVowel, SpeechSound::AWRR},
+    {Phone::AA, BetweenMAndR, SpeechSound::OH},
+    {Phone::AA, BeforeR, SpeechSound::AW},
+    {Phone::AH, Phone::R, Always, SpeechSound::AXRR},
+    {Phone::AX, Phone::R, NotBeforeVowel, SpeechSound::RR},
+    {Phone::ER, StressedOrFirst, SpeechSound::AXRR},
+    {Phone::ER, Always, SpeechSound::RR},
+    {Phone::AX, Phone::L, UnstressedSyllabic, SpeechSound::EHLE},
+    {Phone::EH, Phone::L, AtEnd, SpeechSound::EHLE},
     {Phone::AX, InFinalTN},
-    {Phone::AX, BeforeJHOrNJH, Sound::IH},
-    {Phone::AX, InFirstTo, Sound::UW},
-    {Phone::AX, SpelledE, Sound::EH},
-    {Phone::AX, SpelledLikeI, Sound::IH},
-    {Phone::AX, Always, Sound::AX},
-    {Phone::AH, Always, Sound::AX},
-    {Phone::IY, InFinalDay, Sound::EYIY},
-    {Phone::IY, Always, Sound::IY},
-    {Phone::EH, Always, Sound::EH},
-    {Phone::AE, Always, Sound::AY},
-    {Phone::UH, Always, Sound::UH},
-    {Phone::EY, Always, Sound::EYIY},
-    {Phone::OY, Always, Sound::OWIY},
-    {Phone::IH, InPrefixSpelledE, Sound::IY},
-    {Phone::IH, Always, Sound::IH},
-    {Phone::AA, BeforeDHOrEnd, Sound::AW},
-    {Phone::AA, SpelledANotAfterW, Sound::AW},
-    {Phone::AA, Always, Sound::OH},
-    {Phone::AO, BeforeFThNgGNotSpelledA, Sound::OH},
-    {Phone::AO, SpelledOBeforeSK, Sound::OH},
-    {Phone::AO, Always, Sound::AW},
-    {Phone::OW, AtEnd, Sound::OWWW},
-    {Phone::OW, Always, Sound::OW},
-    {Phone::UW, AfterL, Sound::UX},
-    {Phone::UW, AtEndAfterTNZ, Sound::IHWW},
-    {Phone::UW, Always, Sound::UW},
-    {Phone::AY, BeforeVoiceless, Sound::OHIY},
-    {Phone::AY, Always, Sound::OHIH},
-    {Phone::AW, BeforeNZ, Sound::AXUW},
-    {Phone::AW, Always, Sound::AYWW},
+    {Phone::AX, BeforeJHOrNJH, SpeechSound::IH},
+    {Phone::AX, InFirstTo, SpeechSound::UW},
+    {Phone::AX, SpelledE, SpeechSound::EH},
+    {Phone::AX, SpelledLikeI, SpeechSound::IH},
+    {Phone::AX, Always, SpeechSound::AX},
+    {Phone::AH, Always, SpeechSound::AX},
+    {Phone::IY, InFinalDay, SpeechSound::EYIY},
+    {Phone::IY, Always, SpeechSound::IY},
+    {Phone::EH, Always, SpeechSound::EH},
+    {Phone::AE, Always, SpeechSound::AY},
+    {Phone::UH, Always, SpeechSound::UH},
+    {Phone::EY, Always, SpeechSound::EYIY},
+    {Phone::OY, Always, SpeechSound::OWIY},
+    {Phone::IH, InPrefixSpelledE, SpeechSound::IY},
+    {Phone::IH, Always, SpeechSound::IH},
+    {Phone::AA, BeforeDHOrEnd, SpeechSound::AW},
+    {Phone::AA, SpelledANotAfterW, SpeechSound::AW},
+    {Phone::AA, Always, SpeechSound::OH},
+    {Phone::AO, BeforeFThNgGNotSpelledA, SpeechSound::OH},
+    {Phone::AO, SpelledOBeforeSK, SpeechSound::OH},
+    {Phone::AO, Always, SpeechSound::AW},
+    {Phone::OW, AtEnd, SpeechSound::OWWW},
+    {Phone::OW, Always, SpeechSound::OW},
+    {Phone::UW, AfterL, SpeechSound::UX},
+    {Phone::UW, AtEndAfterTNZ, SpeechSound::IHWW},
+    {Phone::UW, Always, SpeechSound::UW},
+    {Phone::AY, BeforeVoiceless, SpeechSound::OHIY},
+    {Phone::AY, Always, SpeechSound::OHIH},
+    {Phone::AW, BeforeNZ, SpeechSound::AXUW},
+    {Phone::AW, Always, SpeechSound::AYWW},
 };
 
 bool Takes(const VowelRule& zRule, VowelPlace& zPlace) {
@@ -224,7 +224,7 @@ std::vector<SoundPiece> VowelsToSounds(const WordPhones& zPhones, std::string_vi
     const VowelRule* const rule = RuleAt(place);
     if (rule == nullptr) {
       place.next = place.at + 1;
-      pieces.push_back({first.phone, first.isStressed, false, Sound()});
+      pieces.push_back({first.phone, first.isStressed, false, SpeechSound()});
     } else if (!rule->isSilent) {
       pieces.push_back({first.phone, first.isStressed, true, rule->sound});
     }
@@ -233,7 +233,7 @@ std::vector<SoundPiece> VowelsToSounds(const WordPhones& zPhones, std::string_vi
   return pieces;
 }
 
-std::vector<Sound> SoundsOfWord(const WordPhones& zPhones, std::string_view zSpelling) {
+std::vector<SpeechSound> SoundsOfWord(const WordPhones& zPhones, std::string_view zSpelling) {
   return PiecesToSounds(VowelsToSounds(zPhones, zSpelling), zSpelling);
 }
 

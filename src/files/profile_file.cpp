@@ -83,4 +83,15 @@ void ProfileFile::ReadAgain() const {
   }
 }
 
+std::string ReadProfileValue(std::string_view zSection, std::string_view zKey,
+                             std::string_view zDefault, std::size_t zBufferLength,
+                             const std::filesystem::path& zFile) {
+  return ProfileFile(zFile).Read(zSection, zKey, zDefault, zBufferLength);
+}
+
+bool WriteProfileValue(std::string_view zSection, std::string_view zKey, std::string_view zValue,
+                       const std::filesystem::path& zFile) {
+  return ProfileFile(zFile).Write(zSection, zKey, zValue);
+}
+
 }  // namespace loquitor

@@ -71,4 +71,13 @@ class ProfileFile {
   mutable bool isStampReliable_ = false;
 };
 
+/// ProfileFile::Read for one value of the file `zFile`.
+std::string ReadProfileValue(std::string_view zSection, std::string_view zKey,
+                             std::string_view zDefault, std::size_t zBufferLength,
+                             const std::filesystem::path& zFile);
+
+/// ProfileFile::Write for one value of the file `zFile`.
+bool WriteProfileValue(std::string_view zSection, std::string_view zKey, std::string_view zValue,
+                       const std::filesystem::path& zFile);
+
 }  // namespace loquitor

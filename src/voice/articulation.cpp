@@ -24,21 +24,21 @@ struct Phase {
   NoisePlace place = NoisePlace::None;
 };
 
-bool IsObstruent(const Sound* zSound) {
+bool IsObstruent(const VoiceSound* zSound) {
   return zSound != nullptr &&
          (zSound->kind == SoundKind::Stop || zSound->kind == SoundKind::Fricative);
 }
 
-bool IsVoiceless(const Sound* zSound) {
+bool IsVoiceless(const VoiceSound* zSound) {
   return zSound != nullptr && !zSound->isVoiced;
 }
 
-bool IsHissing(const Sound* zSound) {
+bool IsHissing(const VoiceSound* zSound) {
   return zSound != nullptr && zSound->kind == SoundKind::Fricative && !zSound->isVoiced;
 }
 
 /// A liquid or nasal that carries a syllable of its own: "over", "button".
-bool IsSyllabic(const Sound& zSound, const SoundContext& zContext) {
+bool IsSyllabic(const VoiceSound& zSound, const SoundContext& zContext) {
   const bool mayCarry =
       (zSound.kind == SoundKind::Glide || zSound.kind == SoundKind::Nasal) && zSound.isVoiced;
   const bool isAfterConsonant = zContext.before != nullptr && !IsVowel(*zContext.before) &&
@@ -49,7 +49,7 @@ bool IsSyllabic(const Sound& zSound, const SoundContext& zContext) {
 
 /// The duration of a vowel, which depends on what follows it. Source: Klatt (1979), see
 /// sound_table.cpp.
-double VowelMs(const Sound& zSound, const SoundContext& zContext) {
+double VowelMs(const VoiceSound& zSound, const SoundContext& zContext) {
   double ms = 0.8 * zSound.ms;
   if (!zContext.isLastVowel) {
     ms *= 0.7;
@@ -66,7 +66,7 @@ double VowelMs(const Sound& zSound, const SoundContext& zContext) {
   return ms * 0.9;
 }
 
-double SonorantMs(const Sound& zSound, const SoundContext& zContext) {
+double SonorantMs(const VoiceSound& zSound, const SoundContext& zContext) {
   if (IsSyllabic(zSound, zContext)) {
     return 170 * (zContext.after == nullptr ? 1.2 : 0.8);
   }
@@ -79,7 +79,7 @@ double SonorantMs(const Sound& zSound, const SoundContext& zContext) {
   return ms;
 }
 
-double FricativeMs(const Sound& zSound, const SoundContext& zContext) {
+double FricativeMs(const VoiceSound& zSound, const SoundContext& zContext) {
   double ms = zSound.ms;
   if (zContext.after == nullptr) {
     ms *= 1.4;
@@ -97,7 +97,7 @@ struct StopParts {
   double breath;
 };
 
-StopParts PartsOf(const Sound& zSound, const SoundContext& zContext) {
+StopParts PartsOf(const VoiceSound& zSound, const SoundContext& zContext) {
   StopParts parts{zSound.closureMs, FromDecibels(zSound.burstDecibels), zSound.breathMs,
                   FromDecibels(-21)};
   if (zContext.before == nullptr) {
@@ -120,7 +120,7 @@ StopParts PartsOf(const Sound& zSound, const SoundContext& zContext) {
   return parts;
 }
 
-std::vector<Phase> StopPhases(const Sound& zSound, const SoundContext& zContext) {
+std::vector<Phase> StopPhases(const VoiceSound& zSound, const SoundContext& zContext) {
   const double voice = zSound.isVoiced ? FromDecibels(zSound.voiceDecibels) : 0;
   const StopParts parts = PartsOf(zSound, zContext);
   std::vector<Phase> phases{{parts.closureMs, voice, 0, 0},
@@ -135,7 +135,7 @@ std::vector<Phase> StopPhases(const Sound& zSound, const SoundContext& zContext)
   return phases;
 }
 
-std::vector<Phase> PhasesOf(const Sound& zSound, const SoundContext& zContext) {
+std::vector<Phase> PhasesOf(const VoiceSound& zSound, const SoundContext& zContext) {
   const double voice = FromDecibels(zSound.voiceDecibels);
   const double noise = FromDecibels(zSound.noiseDecibels);
   switch (zSound.kind) {
@@ -178,7 +178,7 @@ struct Meeting {
   double afterMs;
 };
 
-Meeting Meet(const Sound& zBefore, const Sound& zAfter) {
+Meeting Meet(const VoiceSound& zBefore, const VoiceSound& zAfter) {
   const bool isAfterStronger = zAfter.border.rank > zBefore.border.rank;
   const Border& border = isAfterStronger ? zAfter.border : zBefore.border;
   const auto before = AsArray(zBefore.to);
@@ -203,7 +203,7 @@ struct Course {
   double glideEnd;
 };
 
-Course CourseOf(const Sound& zSound, const SoundContext& zContext) {
+Course CourseOf(const VoiceSound& zSound, const SoundContext& zContext) {
   if (zSound.kind == SoundKind::Breath) {  // the mouth is already set for what follows
     const auto target =
         zContext.after != nullptr ? AsArray(zContext.after->from) : AsArray(zSound.from);
@@ -213,7 +213,8 @@ Course CourseOf(const Sound& zSound, const SoundContext& zContext) {
 }
 
 /// The meeting with the sound before, at the formants that the tract had at the end of that sound.
-Meeting MeetingBefore(const Sound& zSound, const SoundContext& zContext, const Course& zCourse) {
+Meeting MeetingBefore(const VoiceSound& zSound, const SoundContext& zContext,
+                      const Course& zCourse) {
   if (zContext.before == nullptr) {
     return {zCourse.from, 0, 0};
   }
@@ -224,7 +225,7 @@ Meeting MeetingBefore(const Sound& zSound, const SoundContext& zContext, const C
   return meeting;
 }
 
-void MoveFormants(std::vector<TractFrame>& zFrames, const Sound& zSound,
+void MoveFormants(std::vector<TractFrame>& zFrames, const VoiceSound& zSound,
                   const SoundContext& zContext) {
   const double ms = FrameMs * static_cast<double>(zFrames.size());
   const Course course = CourseOf(zSound, zContext);
@@ -250,7 +251,7 @@ void MoveFormants(std::vector<TractFrame>& zFrames, const Sound& zSound,
 }
 
 /// A nasal lowers the soft palate already before it begins and for a little while after it.
-void LowerPalate(std::vector<TractFrame>& zFrames, const Sound& zSound,
+void LowerPalate(std::vector<TractFrame>& zFrames, const VoiceSound& zSound,
                  const SoundContext& zContext) {
   const bool isNasal = zSound.kind == SoundKind::Nasal;
   const bool isBefore = zContext.after != nullptr && zContext.after->kind == SoundKind::Nasal;
@@ -268,7 +269,7 @@ void LowerPalate(std::vector<TractFrame>& zFrames, const Sound& zSound,
   }
 }
 
-std::array<double, 3> BandwidthsOf(const Sound& zSound, const TractFrame& zFrame) {
+std::array<double, 3> BandwidthsOf(const VoiceSound& zSound, const TractFrame& zFrame) {
   if (zSound.kind == SoundKind::Nasal) {
     return {60, 200, 250};
   }
@@ -291,11 +292,11 @@ void FadeOut(std::vector<TractFrame>& zFrames) {
 
 }  // namespace
 
-bool IsVowel(const Sound& zSound) {
+bool IsVowel(const VoiceSound& zSound) {
   return zSound.kind == SoundKind::Vowel;
 }
 
-std::vector<TractFrame> Articulate(const Sound& zSound, const SoundContext& zContext,
+std::vector<TractFrame> Articulate(const VoiceSound& zSound, const SoundContext& zContext,
                                    const Manner& zManner) {
   std::vector<TractFrame> frames;
   double due = 0;  // a sum, so that rounding errors of the phases do not add up

@@ -9,8 +9,8 @@ namespace loquitor {
 
 /// The neighbours of a sound. A null neighbour is silence.
 struct SoundContext {
-  const Sound* before = nullptr;
-  const Sound* after = nullptr;
+  const VoiceSound* before = nullptr;
+  const VoiceSound* after = nullptr;
   bool isLastVowel = true;           ///< no other vowel follows in this phrase
   const TractFrame* from = nullptr;  ///< the last frame of `before`; null when that is null
 };
@@ -24,10 +24,10 @@ struct Manner {
 
 /// The movement of a sound, one frame for each 2 ms: its targets, and the transitions from and to
 /// its neighbours. At least one frame. docs/voice.md describes the rules.
-std::vector<TractFrame> Articulate(const Sound& zSound, const SoundContext& zContext,
+std::vector<TractFrame> Articulate(const VoiceSound& zSound, const SoundContext& zContext,
                                    const Manner& zManner);
 
 /// True for vowels and diphthongs.
-bool IsVowel(const Sound& zSound);
+bool IsVowel(const VoiceSound& zSound);
 
 }  // namespace loquitor

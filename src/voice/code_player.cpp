@@ -218,7 +218,7 @@ void CodePlayer::StartPause(double zMs, bool zHasTransition) {
 }
 
 /// Looks ahead in the queue to the end of this phrase.
-SoundContext CodePlayer::Surroundings(const Sound& zSound) const {
+SoundContext CodePlayer::Surroundings(const VoiceSound& zSound) const {
   SoundContext context{.before = before_, .from = before_ != nullptr ? &lastFrame_ : nullptr};
   if (repeatsLeft_ > 0) {
     context.after = &zSound;
@@ -230,7 +230,7 @@ SoundContext CodePlayer::Surroundings(const Sound& zSound) const {
     }
     if (TakesValue(next)) {
       ++i;
-    } else if (const Sound* sound = FindSound(queue_[i])) {
+    } else if (const VoiceSound* sound = FindSound(queue_[i])) {
       context.after = context.after != nullptr ? context.after : sound;
       context.isLastVowel = !IsVowel(*sound);
     }
@@ -245,7 +245,7 @@ void CodePlayer::StartSound(std::uint8_t zCode) {
     effect_.Start(*effect, Tempo(), loudness);
     before_ = nullptr;
     frames_.clear();
-  } else if (const Sound* sound = FindSound(zCode)) {
+  } else if (const VoiceSound* sound = FindSound(zCode)) {
     frames_ = Articulate(*sound, Surroundings(*sound), {Tempo(), loudness, modifiers_.isSoft});
     before_ = sound;
   }

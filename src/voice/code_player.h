@@ -77,7 +77,7 @@ class CodePlayer {
   void TakeModifier(int zCode);
   void StartSound(std::uint8_t zCode);
   void StartPause(double zMs, bool zHasTransition);
-  SoundContext Surroundings(const Sound& zSound) const;
+  SoundContext Surroundings(const VoiceSound& zSound) const;
   double Tempo() const;
   VocalTract::Samples Voice();
 
@@ -95,7 +95,7 @@ class CodePlayer {
   VocalTract tract_;
   std::vector<TractFrame> frames_;  // of the sound that is being said
   std::size_t nextFrame_ = 0;
-  const Sound* before_ = nullptr;  // the sound that the next one follows without a gap
+  const VoiceSound* before_ = nullptr;  // the sound that the next one follows without a gap
   TractFrame lastFrame_;
   double pitch_ = 0;
   EffectPlayer effect_;

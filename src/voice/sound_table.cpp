@@ -21,7 +21,7 @@ constexpr Border NasalBorder{6, 0.5, 0.4, 6, 45};
 constexpr Border FricativeBorder{7, 0.5, 0.45, 25, 40};
 constexpr Border BreathBorder{0, 1, 1, 10, 10};
 
-constexpr Sound VowelSound(std::uint8_t zCode, double zMs, Formants zFrom, Formants zTo) {
+constexpr VoiceSound VowelSound(std::uint8_t zCode, double zMs, Formants zFrom, Formants zTo) {
   return {.code = zCode,
           .kind = SoundKind::Vowel,
           .ms = zMs,
@@ -29,10 +29,10 @@ constexpr Sound VowelSound(std::uint8_t zCode, double zMs, Formants zFrom, Forma
           .to = zTo,
           .border = VowelBorder};
 }
-constexpr Sound VowelSound(std::uint8_t zCode, double zMs, Formants zAt) {
+constexpr VoiceSound VowelSound(std::uint8_t zCode, double zMs, Formants zAt) {
   return VowelSound(zCode, zMs, zAt, zAt);
 }
-constexpr Sound Liquid(std::uint8_t zCode, double zMs, Formants zAt, double zDecibels) {
+constexpr VoiceSound Liquid(std::uint8_t zCode, double zMs, Formants zAt, double zDecibels) {
   return {.code = zCode,
           .kind = SoundKind::Glide,
           .ms = zMs,
@@ -41,7 +41,7 @@ constexpr Sound Liquid(std::uint8_t zCode, double zMs, Formants zAt, double zDec
           .border = LiquidBorder,
           .voiceDecibels = zDecibels};
 }
-constexpr Sound NasalSound(std::uint8_t zCode, double zMs, Formants zAt) {
+constexpr VoiceSound NasalSound(std::uint8_t zCode, double zMs, Formants zAt) {
   return {.code = zCode,
           .kind = SoundKind::Nasal,
           .ms = zMs,
@@ -50,7 +50,7 @@ constexpr Sound NasalSound(std::uint8_t zCode, double zMs, Formants zAt) {
           .border = NasalBorder,
           .voiceDecibels = -4};
 }
-constexpr Sound BreathSound(std::uint8_t zCode, double zMs, Formants zAt) {
+constexpr VoiceSound BreathSound(std::uint8_t zCode, double zMs, Formants zAt) {
   return {.code = zCode,
           .kind = SoundKind::Breath,
           .ms = zMs,
@@ -60,8 +60,8 @@ constexpr Sound BreathSound(std::uint8_t zCode, double zMs, Formants zAt) {
           .isVoiced = false,
           .noiseDecibels = -14};
 }
-constexpr Sound Hiss(std::uint8_t zCode, double zMs, Formants zAt, NoisePlace zPlace,
-                     double zDecibels) {
+constexpr VoiceSound Hiss(std::uint8_t zCode, double zMs, Formants zAt, NoisePlace zPlace,
+                          double zDecibels) {
   return {.code = zCode,
           .kind = SoundKind::Fricative,
           .ms = zMs,
@@ -72,9 +72,9 @@ constexpr Sound Hiss(std::uint8_t zCode, double zMs, Formants zAt, NoisePlace zP
           .place = zPlace,
           .noiseDecibels = zDecibels};
 }
-constexpr Sound Buzz(std::uint8_t zCode, double zMs, Formants zAt, NoisePlace zPlace,
-                     double zDecibels) {
-  Sound sound = Hiss(zCode, zMs, zAt, zPlace, zDecibels);
+constexpr VoiceSound Buzz(std::uint8_t zCode, double zMs, Formants zAt, NoisePlace zPlace,
+                          double zDecibels) {
+  VoiceSound sound = Hiss(zCode, zMs, zAt, zPlace, zDecibels);
   sound.isVoiced = true;
   sound.voiceDecibels = -7;
   return sound;
@@ -86,8 +86,8 @@ struct Release {
   double burstDecibels;
   double breathMs;
 };
-constexpr Sound StopSound(std::uint8_t zCode, Formants zAt, double zPull, NoisePlace zPlace,
-                          bool zIsVoiced, Release zRelease) {
+constexpr VoiceSound StopSound(std::uint8_t zCode, Formants zAt, double zPull, NoisePlace zPlace,
+                               bool zIsVoiced, Release zRelease) {
   return {.code = zCode,
           .kind = SoundKind::Stop,
           .ms = 0,
@@ -103,8 +103,8 @@ constexpr Sound StopSound(std::uint8_t zCode, Formants zAt, double zPull, NoiseP
           .burstDecibels = zRelease.burstDecibels,
           .breathMs = zRelease.breathMs};
 }
-constexpr Sound Affricate(std::uint8_t zCode, double zMs, bool zIsVoiced, double zClosureMs,
-                          double zDecibels) {
+constexpr VoiceSound Affricate(std::uint8_t zCode, double zMs, bool zIsVoiced, double zClosureMs,
+                               double zDecibels) {
   return {.code = zCode,
           .kind = SoundKind::Stop,
           .ms = zMs,
@@ -127,7 +127,7 @@ constexpr Formants RidgeBack{220, 1700, 2600};
 constexpr Formants Velum{220, 2200, 2700};
 constexpr Formants VelumBack{220, 1250, 2200};
 
-constexpr std::array<Sound, 72> Sounds{{
+constexpr std::array<VoiceSound, 72> Sounds{{
     VowelSound(128, 190, {290, 2250, 2950}),
     VowelSound(129, 150, {410, 1960, 2560}),
     VowelSound(130, 200, {480, 2000, 2600}),
@@ -223,11 +223,11 @@ constexpr std::array<Sound, 72> Sounds{{
 
 }  // namespace
 
-std::span<const Sound> SoundTable() {
+std::span<const VoiceSound> SoundTable() {
   return Sounds;
 }
 
-const Sound* FindSound(std::uint8_t zCode) {
+const VoiceSound* FindSound(std::uint8_t zCode) {
   const std::size_t index = static_cast<std::size_t>(zCode) - Sounds.front().code;
   return index < Sounds.size() ? &Sounds[index] : nullptr;
 }

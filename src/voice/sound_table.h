@@ -29,7 +29,7 @@ struct Border {
 };
 
 /// The targets of one sound at the default speed. Decibels are relative to the voice of a vowel.
-struct Sound {
+struct VoiceSound {
   std::uint8_t code;
   SoundKind kind;
   double ms;      ///< duration; of a vowel at the end of a phrase, of a stop its noise alone
@@ -47,9 +47,9 @@ struct Sound {
 };
 
 /// The sounds of the codes 128 to 199, in this order.
-std::span<const Sound> SoundTable();
+std::span<const VoiceSound> SoundTable();
 
 /// The sound of a code from 128 to 199; null for every other code.
-const Sound* FindSound(std::uint8_t zCode);
+const VoiceSound* FindSound(std::uint8_t zCode);
 
 }  // namespace loquitor

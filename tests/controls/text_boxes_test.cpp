@@ -272,6 +272,21 @@ TEST_F(TextBoxes, TheContextMenuOfAnAreaShowsAddedActionsWithTheirKeys) {
   menu->close();
 }
 
+TEST_F(TextBoxes, TheMenuOfABoxOutlivesThePasteThatLetsEventsRun) {
+  QGuiApplication::clipboard()->setText("pasted");
+  QContextMenuEvent wanted(QContextMenuEvent::Mouse, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
+  QCoreApplication::sendEvent(&box, &wanted);
+  const QPointer<QWidget> menu = QApplication::activePopupWidget();
+  bool isAlive = false;
+  QObject::connect(&box, &TextBox::textChanged, [&] {
+    QCoreApplication::sendPostedEvents();
+    isAlive = !menu.isNull();
+  });
+  QTest::keyClick(menu, Qt::Key_P);
+  EXPECT_EQ(box.Text(), "pasted");
+  EXPECT_TRUE(isAlive);
+}
+
 TEST_F(TextBoxes, ABoxLosesTheFocusToAnotherControlButNotToAMenuOrAnotherProgram) {
   QSignalSpy lost(&box, &TextBox::LostFocus);
   box.setFocus();

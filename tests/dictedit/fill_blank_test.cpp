@@ -1,5 +1,7 @@
 // Fill Blank Entries in the dictionary editor.
 #include <QAction>
+#include <QContextMenuEvent>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QToolTip>
 
@@ -47,6 +49,19 @@ class FillBlank : public ToolWindowTest {
  private:
   std::optional<EnglishReader> reader_;
 };
+
+TEST_F(FillBlank, LeavesTheMenuAliveThatItWasChosenFrom) {
+  ScriptedPhones phones;
+  OpenWith(phones);
+  QContextMenuEvent wanted(QContextMenuEvent::Mouse, {9, 9}, Box()->mapToGlobal(QPoint(9, 9)));
+  QCoreApplication::sendEvent(Box()->viewport(), &wanted);
+  const QPointer<QWidget> menu = QApplication::activePopupWidget();
+  bool isAlive = false;
+  QObject::connect(Entry(), &QAction::triggered, Box(), [&] { isAlive = !menu.isNull(); });
+  QTest::keyClick(menu, Qt::Key_B);
+  EXPECT_EQ(Box()->Text(), Filled);
+  EXPECT_TRUE(isAlive) << "events ran while the menu was at work";
+}
 
 TEST_F(FillBlank, GivesEveryBlankEntryItsSoundsInOneStep) {
   ScriptedPhones phones;

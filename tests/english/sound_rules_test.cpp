@@ -13,7 +13,7 @@ std::string SoundNames(const std::string& zPhones, const std::string& zSpelling)
   CodeTable table;
   table.BuildCodeTable();
   std::string names;
-  for (const Sound sound : SoundsOfWord(PhonesFromText(zPhones), zSpelling)) {
+  for (const SpeechSound sound : SoundsOfWord(PhonesFromText(zPhones), zSpelling)) {
     names += (names.empty() ? "" : " ") +
              table.GetCodeMnemonic(static_cast<std::uint8_t>(sound)).substr(1);
   }
@@ -146,7 +146,7 @@ TEST(SoundRules, KnowEverySequenceOfPhones) {
     for (const int phone : {code % 40, code / 40 % 40, code / 1600}) {
       phones.push_back({static_cast<Phone>(phone), code % 2 == 0});
     }
-    for (const Sound sound : SoundsOfWord(phones, "")) {
+    for (const SpeechSound sound : SoundsOfWord(phones, "")) {
       const std::string name = table.GetCodeMnemonic(static_cast<std::uint8_t>(sound));
       ASSERT_FALSE(name.empty()) << code;
     }

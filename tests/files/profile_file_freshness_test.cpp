@@ -44,7 +44,7 @@ TEST_F(ProfileFileFreshnessTest, SeesEveryChangeAtOnce) {
   EXPECT_EQ(Value(), "(none)");
   WriteBytes(file, Text("0"));
   EXPECT_EQ(Value(), "0");
-  ASSERT_TRUE(ProfileFile(file).Write("s", "k", "1"));
+  ASSERT_TRUE(WriteProfileValue("s", "k", "1", file));
   EXPECT_EQ(Value(), "1");
   std::filesystem::remove(file);
   EXPECT_EQ(Value(), "(none)");

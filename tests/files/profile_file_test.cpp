@@ -21,10 +21,10 @@ class ProfileFileTest : public ::testing::Test {
   void Given(Text zText) { WriteBytes(file, zText); }
   std::string Read(Text zSection, Text zKey, Text zDefault = "default",
                    std::size_t zBufferLength = 2560) {
-    return ProfileFile(file).Read(zSection, zKey, zDefault, zBufferLength);
+    return ReadProfileValue(zSection, zKey, zDefault, zBufferLength, file);
   }
   bool Write(Text zSection, Text zKey, Text zValue) {
-    return ProfileFile(file).Write(zSection, zKey, zValue);
+    return WriteProfileValue(zSection, zKey, zValue, file);
   }
   std::string Bytes() { return ReadBytes(file); }
 
@@ -143,7 +143,7 @@ TEST_F(ProfileFileTest, RefusesNamesThatTheFormatCannotHold) {
                               {"a]b", "k"}, {"a\nb", "k"}, {"\r", "k"}};
   for (const auto& [section, key] : rows) {
     EXPECT_FALSE(Write(section, key, "1")) << section << '/' << key;
-    EXPECT_FALSE(ProfileFile(folder / "new").Write(section, key, "1")) << section << '/' << key;
+    EXPECT_FALSE(WriteProfileValue(section, key, "1", folder / "new")) << section << '/' << key;
     EXPECT_EQ(Bytes(), "[s]\nk=0\n");
     EXPECT_THAT(folder.Names(), ::testing::ElementsAre("words.ini"));
   }

@@ -56,10 +56,10 @@ fs::path QuickPlace() {
 class SafeSaveTest : public ::testing::Test {
  protected:
   bool Save(const std::string& zKey, const std::string& zValue) const {
-    return ProfileFile(file).Write("Words", zKey, zValue);
+    return WriteProfileValue("Words", zKey, zValue, file);
   }
   std::string Load(const std::string& zKey) const {
-    return ProfileFile(file).Read("Words", zKey, "(none)", 2560);
+    return ReadProfileValue("Words", zKey, "(none)", 2560, file);
   }
   void ExpectNoLitter() const {
     EXPECT_THAT(folder.Names(), ::testing::ElementsAre("Loquitor.Dic"));
@@ -237,7 +237,7 @@ TEST_F(SafeSaveTest, LinksAreFollowedToTheFileOrToWhereItWillBe) {
 
   fs::create_symlink("circle2", folder / "circle1");
   fs::create_symlink("circle1", folder / "circle2");
-  EXPECT_FALSE(ProfileFile(folder / "circle1").Write("s", "k", "1"));
+  EXPECT_FALSE(WriteProfileValue("s", "k", "1", folder / "circle1"));
   EXPECT_FALSE(ReplaceFile(folder / "circle1", ""));
 }
 
@@ -279,9 +279,9 @@ TEST_F(SafeSaveTest, WhatIsNoOrdinaryFileIsNeitherReadNorReplaced) {
   for (const fs::path& path : {folder / "pipe", folder / "folder", folder / "none/file",
                                fs::path("/dev/zero"), fs::path("/proc/none.ini"), fs::path()}) {
     const auto type = fs::status(path).type();
-    EXPECT_EQ(ProfileFile(path).Read("s", "k", "default", 99), "default") << path;
+    EXPECT_EQ(ReadProfileValue("s", "k", "default", 99, path), "default") << path;
     EXPECT_EQ(ReadWholeFile(path), std::nullopt) << path;
-    EXPECT_FALSE(ProfileFile(path).Write("s", "k", "1")) << path;
+    EXPECT_FALSE(WriteProfileValue("s", "k", "1", path)) << path;
     EXPECT_FALSE(ReplaceFile(path, "1")) << path;
     EXPECT_EQ(fs::status(path).type(), type) << path;
   }
@@ -290,8 +290,8 @@ TEST_F(SafeSaveTest, WhatIsNoOrdinaryFileIsNeitherReadNorReplaced) {
 
 TEST_F(SafeSaveTest, ABarePathIsTakenFromTheCurrentFolder) {
   EXPECT_TRUE(InChild([this] {
-    return chdir(folder.Path().c_str()) == 0 && ProfileFile("bare.ini").Write("s", "k", "1") &&
-           ProfileFile("bare.ini").Read("s", "k", "", 9) == "1";
+    return chdir(folder.Path().c_str()) == 0 && WriteProfileValue("s", "k", "1", "bare.ini") &&
+           ReadProfileValue("s", "k", "", 9, "bare.ini") == "1";
   }));
   EXPECT_THAT(folder.Names(), ::testing::ElementsAre("bare.ini"));
 }

@@ -36,7 +36,7 @@ TEST(SpeechTest, HasARowForEverySoundOfTheChipAndTheyAllSoundDifferent) {
     if (isNamed) {
       heard.insert(samples);
     }
-    if (const Sound* sound = FindSound(byte)) {
+    if (const VoiceSound* sound = FindSound(byte)) {
       EXPECT_EQ(sound->code, code);
     }
     if (const Effect* effect = FindEffect(byte)) {
@@ -123,7 +123,7 @@ TEST(SpeechTest, IsAsLoudAsItsVolumeAndModifiersSay) {
 }
 
 TEST(SpeechTest, BendsTheFormantsAndLeavesThePitch) {
-  const Sound& uw = *FindSound(0x8B);
+  const VoiceSound& uw = *FindSound(0x8B);
   for (const int bend : {0, 3, 5, 10, 15}) {
     const std::string bent = {'\x17', static_cast<char>(bend)};
     const double formant = uw.from.f2 * std::pow(1.03, bend - 5);
@@ -135,7 +135,7 @@ TEST(SpeechTest, BendsTheFormantsAndLeavesThePitch) {
 
 TEST(SpeechTest, PutsTheFormantsWhereTheTableHasThem) {
   int vowels = 0;
-  for (const Sound& sound : SoundTable()) {
+  for (const VoiceSound& sound : SoundTable()) {
     const bool isSteady = sound.from.f1 == sound.to.f1 && sound.from.f2 == sound.to.f2;
     if (sound.kind != SoundKind::Vowel || !isSteady) {
       continue;

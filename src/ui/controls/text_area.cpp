@@ -70,8 +70,9 @@ void TextArea::wheelEvent(QWheelEvent* zEvent) {
 }
 
 void TextArea::contextMenuEvent(QContextMenuEvent* zEvent) {
+  // The menu is deleted with this box. Deleting it when it closes is too early: it still works
+  // while its action runs, and the action may let events run.
   QMenu* menu = createStandardContextMenu(zEvent->pos());
-  menu->setAttribute(Qt::WA_DeleteOnClose);
   if (!isReadOnly()) {  // Qt leaves out the keys that an action of the window has too
     menu->actions().at(0)->setShortcut(QKeySequence::Undo);
     menu->actions().at(1)->setShortcut(QKeySequence::Redo);

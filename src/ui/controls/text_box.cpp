@@ -1,5 +1,8 @@
 #include "ui/controls/text_box.h"
 
+#include <QContextMenuEvent>
+#include <QMenu>
+
 #include "ui/controls/code_page.h"
 #include "ui/controls/code_page_input.h"
 #include "ui/controls/colours.h"
@@ -22,6 +25,12 @@ void TextBox::SetText(std::string_view zBytes) {
 
 void TextBox::SetBackground(const QColor& zColor) {
   SetColours(this, QPalette::Base, QPalette::Text, zColor);
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* zEvent) {
+  // Qt deletes the menu when it closes. That is too early: it still works while its action runs,
+  // and what a pasted text changes may let events run. This one is deleted with the box.
+  createStandardContextMenu()->popup(zEvent->globalPos());
 }
 
 void TextBox::focusOutEvent(QFocusEvent* zEvent) {

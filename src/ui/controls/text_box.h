@@ -27,6 +27,7 @@ class TextBox : public QLineEdit {
   void LostFocus();
 
  protected:
+  void contextMenuEvent(QContextMenuEvent* zEvent) override;
   void focusOutEvent(QFocusEvent* zEvent) override;
   void keyPressEvent(QKeyEvent* zEvent) override;
 };
