@@ -7,8 +7,8 @@
 
 namespace loquitor {
 
-/// A scroll bar that holds a value, and the text box beside it that shows the value and takes typed
-/// ones. The box may differ from the bar while the user types, until TakeText.
+/// A scroll bar that holds a value, and a text box that shows the value and takes typed ones. The
+/// box shows each new value of the bar. What the user types reaches the bar only by TakeText.
 class BarAndBox : public QObject {
   Q_OBJECT
  public:

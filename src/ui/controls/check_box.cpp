@@ -20,7 +20,7 @@ QRect VisiblePart(const QWidget* zButton) {
              : zButton->rect() & parent->rect().adjusted(0, 0, -1, -1).translated(-zButton->pos());
 }
 
-/// The outline of the style hardly shows on dark windows.
+/// Draws a clear outline of the mark. The one of the style hardly shows on dark windows.
 void DrawOutline(QPainter& zPainter, QStyle::PrimitiveElement zMark, const QStyleOption& zOption) {
   zPainter.setRenderHint(QPainter::Antialiasing);
   zPainter.setPen(LineColour(zOption.palette));
@@ -34,8 +34,8 @@ void DrawOutline(QPainter& zPainter, QStyle::PrimitiveElement zMark, const QStyl
   zPainter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-/// Draws mark and wrapped caption; the style's own drawing keeps a caption on one line. Without a
-/// caption the mark is in the middle.
+/// Draws the mark and the wrapped caption. The style itself would keep the caption on one line.
+/// Without a caption the mark is in the middle.
 void PaintWrapped(QAbstractButton* zButton, QStyleOptionButton zOption,
                   QStyle::PrimitiveElement zMark, QSize zMarkSize) {
   QStylePainter painter(zButton);

@@ -12,8 +12,10 @@ class CheckBox : public QCheckBox {
  public:
   CheckBox(const QString& zCaption, QWidget* zParent);
 
-  /// 1 when ticked, 0 when not. Setting it raises Click when that changes it.
+  /// 1 when ticked, 0 when not.
   int Value() const { return isChecked() ? 1 : 0; }
+
+  /// Ticks the box unless `zValue` is 0. Raises Click if that changes it.
   void SetValue(int zValue) { setChecked(zValue != 0); }
 
  signals:
@@ -26,7 +28,7 @@ class CheckBox : public QCheckBox {
   bool hitButton(const QPoint& zPosition) const override { return rect().contains(zPosition); }
 };
 
-/// An option button whose caption may wrap. Enter does not choose it.
+/// An option button whose caption may wrap ("&&" shows as one "&"). Enter does not choose it.
 class OptionButton : public QRadioButton {
   Q_OBJECT
  public:
@@ -38,24 +40,25 @@ class OptionButton : public QRadioButton {
   bool hitButton(const QPoint& zPosition) const override { return rect().contains(zPosition); }
 };
 
-/// Option buttons of which at most one is chosen. It starts with none chosen; from the first choice
-/// on exactly one is. The Tab key visits the chosen one, or the first while none is chosen.
+/// Option buttons of which at most one is chosen: none at the start, always one after the first
+/// choice. The Tab key visits the chosen one, or the first while none is chosen.
 class OptionGroup : public QButtonGroup {
   Q_OBJECT
  public:
   explicit OptionGroup(QObject* zParent);
 
-  /// Adds a button under its index in its control group, from 0 on.
+  /// Adds a button. `zIndex` is its index in its control group, 0 or more.
   void Add(OptionButton* zButton, int zIndex);
 
+  /// For the index of a member only.
   void Choose(int zIndex) { button(zIndex)->setChecked(true); }
   bool IsChosen(int zIndex) const { return button(zIndex)->isChecked(); }
 
-  /// The chosen member, or -1.
+  /// The index of the chosen member, or -1.
   int Chosen() const { return checkedId(); }
 
  signals:
-  /// The member has become chosen, by the user or by code.
+  /// The member with this index has become the chosen one, by the user or by code.
   void Click(int zIndex);
 
  private:

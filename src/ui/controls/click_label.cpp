@@ -14,7 +14,8 @@
 namespace loquitor {
 namespace {
 
-/// Whether `zReceiver` is about to act on what the user pressed: a button acts when it is released.
+/// Whether `zReceiver` acts on such an event. Buttons act on the release of the mouse, all other
+/// widgets on the press.
 bool IsAction(const QObject* zReceiver, QEvent::Type zType) {
   switch (zType) {
     case QEvent::ShortcutOverride:
@@ -88,7 +89,7 @@ bool ClickLabel::eventFilter(QObject* zWatched, QEvent* zEvent) {
   if (zWatched != this && heldClick_.isActive() && IsAction(zWatched, zEvent->type())) {
     const QPointer<QObject> receiver = zWatched;
     RaiseHeldClick();
-    return !receiver;  // the box that the click has shown may have taken it along
+    return !receiver;  // events ran during the click, and may have destroyed it
   }
   return false;
 }

@@ -6,24 +6,25 @@
 
 namespace loquitor {
 
-/// A label that is clicked and double-clicked, in the window-background and window-text colours of
-/// the desktop. A double click raises `clicked` for its first press and then DoubleClick. The
-/// handler of `clicked` may let events run: the second press is seen while it does.
+/// A label that can be clicked and double-clicked, in the background and text colours of the
+/// desktop's text boxes. A double click raises `clicked` for its first press and then DoubleClick.
+/// The handler of `clicked` may let events run: the second press is seen while it does.
 ///
-/// With the focus, Space and Enter click it, Insert and Ctrl+Enter raise DoubleClick alone. The
-/// mouse gives it no focus.
+/// While it has the focus, Space and Enter click it, and Insert and Ctrl+Enter raise DoubleClick
+/// alone. It takes no focus unless ShareTabStop is called or a derived class allows it.
 class ClickLabel : public QAbstractButton {
   Q_OBJECT
  public:
   ClickLabel(const QString& zCaption, QWidget* zParent);
 
-  /// The labels of one parent that share a Tab stop are visited by Tab once, at the one that was
-  /// used last; the arrow keys move among them.
+  /// Makes this one of the labels of its parent that share a Tab stop. Tab visits the one of them
+  /// that was used last, at first the first one. The arrow keys move among them.
   void ShareTabStop();
 
-  /// For a label whose click opens a box, which would swallow the second press of a double click:
-  /// `clicked` waits for the desktop's double-click interval. It is raised at once when anything
-  /// else is pressed in the program, before that acts.
+  /// With true, `clicked` is raised only after the desktop's double-click interval. This is for a
+  /// click that opens a box, which would swallow the second press of a double click. If anything
+  /// else is pressed in the program meanwhile, `clicked` is raised before that acts. Clicks by key
+  /// do not wait.
   void SetHoldsClick(bool zHolds) { holdsClick_ = zHolds; }
 
   /// The background; an invalid colour gives the normal one back. The text colour follows so that

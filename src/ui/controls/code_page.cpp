@@ -6,7 +6,7 @@
 namespace loquitor {
 namespace {
 
-/// The characters of the bytes 0x80 to 0x9F; all other bytes are the character of the same number.
+/// The characters of the bytes 0x80 to 0x9F. Every other byte is the character of the same number.
 /// Source: the Windows-1252 table of the Unicode consortium ("best fit" for the unassigned five).
 constexpr std::array<char16_t, 32> HighControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,

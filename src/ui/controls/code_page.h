@@ -6,15 +6,15 @@
 
 namespace loquitor {
 
-/// Converts between the texts of the boxes (Unicode) and the bytes of files and line: Windows-1252
-/// in which the five unassigned bytes are the control characters of the same number. Nothing else
-/// converts.
+// Texts of the boxes are Unicode. Bytes of the files and of the line are Windows-1252, in which the
+// five unassigned bytes stand for the control characters of the same number. These functions
+// convert between the two.
 
 /// The text of `zBytes`. Every byte has a character of its own.
 QString ToQString(std::string_view zBytes);
 
-/// The bytes of `zText`; the inverse of ToQString. Leaves out characters that the
-/// code page cannot hold; the boxes refuse these (see CanHold).
+/// The bytes of `zText`; the inverse of ToQString. Leaves out characters that the code page cannot
+/// hold. The boxes refuse these characters.
 std::string ToBytes(const QString& zText);
 
 /// Whether the code page has a byte for every character of `zText`.

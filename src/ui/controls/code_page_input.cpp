@@ -9,7 +9,8 @@
 namespace loquitor {
 namespace {
 
-/// The first character that the code page cannot hold, whole even outside the basic plane.
+/// The first character that the code page cannot hold. It is two UTF-16 units outside the basic
+/// plane.
 QString ForeignCharacter(const QString& zText) {
   for (const char32_t character : zText.toUcs4()) {
     const QString text = QString::fromUcs4(&character, 1);
@@ -40,7 +41,7 @@ void ShowForeignCharacter(QWidget* zBox, const QString& zText) {
 QValidator::State CodePageValidator::validate(QString& zText, int& zCaret) const {
   const QString wanted = WithoutLineBreaks(Composed(zText));
   if (!CanHold(wanted)) {
-    // The box takes back the insertion first, and its caret with it.
+    // Later, when the box has taken the insertion back and its caret is where it was.
     QMetaObject::invokeMethod(
         box_, [box = box_, wanted] { ShowForeignCharacter(box, wanted); }, Qt::QueuedConnection);
     return Invalid;

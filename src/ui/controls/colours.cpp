@@ -36,14 +36,13 @@ void DrawFocusMark(QPainter& zPainter, const QRect& zPlace, const QPalette& zPal
 
 void SetColours(QWidget* zWidget, QPalette::ColorRole zBackground, QPalette::ColorRole zText,
                 const QColor& zColour) {
-  QPalette palette;
+  QPalette palette;  // an empty one takes everything from the desktop
   if (zColour.isValid()) {
     palette.setColor(zBackground, zColour);
     palette.setColor(zText, ReadableOn(zColour));
     palette.setColor(QPalette::PlaceholderText, ReadableOn(zColour));
   }
-  // An empty palette takes everything from the desktop.
-  zWidget->setPalette(zColour.isValid() ? palette : QPalette());
+  zWidget->setPalette(palette);
 }
 
 }  // namespace loquitor

@@ -12,14 +12,17 @@ namespace loquitor {
 /// Black or white, whichever is easier to read on `zBackground`.
 QColor ReadableOn(const QColor& zBackground);
 
-/// A calm colour for thin lines and borders on the window background of `zPalette`, light or dark.
+/// A colour for thin lines and borders: between the window background and the window text of
+/// `zPalette`.
 QColor LineColour(const QPalette& zPalette);
 
-/// Draws the mark of the focus just inside `zPlace`.
+/// Draws the focus mark: a frame of two pixels just inside `zPlace`, in the highlight colour of
+/// `zPalette`. Changes the pen and the brush of `zPainter`.
 void DrawFocusMark(QPainter& zPainter, const QRect& zPlace, const QPalette& zPalette);
 
-/// Gives `zWidget` this background in the role `zBackground`, and text in the role `zText` that is
-/// readable on it. An invalid colour restores the desktop's.
+/// Gives `zWidget` the background `zColour` in the role `zBackground`, and a text colour that is
+/// readable on it in the role `zText`. An invalid colour restores the desktop's colours. Replaces
+/// the whole palette that was set on the widget.
 void SetColours(QWidget* zWidget, QPalette::ColorRole zBackground, QPalette::ColorRole zText,
                 const QColor& zColour);
 

@@ -4,7 +4,7 @@
 
 namespace loquitor {
 
-/// The kinds of control that a form row can ask for, and the class that each becomes.
+/// The kinds of control in a form, and the class of each.
 enum class ControlKind {
   Frame,           ///< Frame
   Button,          ///< PushButton, never the default button; the caption may take two lines
@@ -21,37 +21,37 @@ enum class ControlKind {
   VerticalLine,
 };
 
-/// What a scroll bar runs over: from 0 to `maximum`, `page` at a time, and where it starts.
+/// The range of a scroll bar.
 struct BarRange {
-  int maximum = 0;
-  int page = 1;
-  int value = 0;
+  int maximum = 0;  ///< the minimum is 0
+  int page = 1;     ///< the page step
+  int value = 0;    ///< at the start
 };
 
-/// One control of a form. Texts are UTF-8 literals of the program's own. A table of rows reads best
-/// when it is made with the functions below.
+/// One control of a form. Texts are UTF-8; Form::Add copies them. A table of rows reads best when
+/// it is made with the functions below.
 struct ControlRow {
   ControlKind kind;
   const char* name;     ///< becomes the objectName, for example "bntSayIt"
-  const char* parent;   ///< name of the frame that holds it; "" for the window itself
+  const char* parent;   ///< objectName of the frame that holds it; "" for the window itself
   const char* caption;  ///< "&&" shows as one "&"
   TwipRect place;
   const char* tooltip = "";
-  const char* accessibleName = "";  ///< where empty, the caption
+  const char* accessibleName = "";  ///< if empty, the caption; a box then has none
   BarRange bar = {};
   int index = NoIndex;  ///< in an indexed group, whose objectName is Indexed(name, index)
 
   static constexpr int NoIndex = -1;
 };
 
-/// A control with nothing but its caption.
+/// A control with a caption only.
 constexpr ControlRow PlainRow(ControlKind zKind, const char* zName, const char* zParent,
                               const char* zCaption, TwipRect zPlace,
                               int zIndex = ControlRow::NoIndex) {
   return {zKind, zName, zParent, zCaption, zPlace, "", "", {}, zIndex};
 }
 
-/// A button. `zAccessibleName` is for captions that say too little when they are read out.
+/// A button. `zAccessibleName` is for a caption that says too little when it is read out.
 constexpr ControlRow ButtonRow(const char* zName, const char* zParent, const char* zCaption,
                                TwipRect zPlace, const char* zTooltip = "",
                                const char* zAccessibleName = "") {

@@ -3,8 +3,6 @@
 #include <QFontMetrics>
 #include <algorithm>
 
-#include "ui/controls/form.h"
-
 namespace loquitor {
 namespace {
 
@@ -12,8 +10,8 @@ constexpr int NarrowestStretch = 75;  // per cent; below that letters run togeth
 constexpr int StretchStep = 5;
 constexpr int SmallestPixels = 8;
 
-/// The first of ever narrower and then smaller versions of `zFont` for which `zFits` is true, or
-/// the last of them.
+/// Tries `zFont`, then narrower, then smaller versions of it. The first one for which `zFits` is
+/// true, or the smallest one if there is none.
 template <class Fits>
 QFont FirstThatFits(QFont zFont, Fits zFits) {
   int stretch = 100;

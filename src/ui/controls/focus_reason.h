@@ -4,8 +4,8 @@
 
 namespace loquitor {
 
-/// Whether the focus moves from one control of the program to another, rather than to a menu or
-/// because another window has come to the front.
+/// Whether a focus change for this reason is a move between two controls: not to or from a menu,
+/// and not because a window has become the active one.
 constexpr bool IsMoveAmongControls(Qt::FocusReason zReason) {
   return zReason != Qt::ActiveWindowFocusReason && zReason != Qt::PopupFocusReason &&
          zReason != Qt::MenuBarFocusReason;

@@ -86,7 +86,7 @@ QWidget* Make(const ControlRow& zRow, QWidget* zParent) {
   return nullptr;
 }
 
-/// Whether the caption of such a control is what it is called, rather than what it holds.
+/// Whether the caption of such a control is its name, and not its content.
 bool IsNamedByCaption(ControlKind zKind) {
   return zKind != ControlKind::TextBox && zKind != ControlKind::TextArea;
 }
@@ -144,7 +144,7 @@ void Form::SetTabOrder(std::span<const QString> zNames) const {
 QWidget* Form::Find(const QString& zName, const QMetaObject& zClass) const {
   QWidget* control = controls_.value(zName);
   if (control == nullptr) {
-    control = window_->findChild<QWidget*>(zName);  // one that the window made itself
+    control = window_->findChild<QWidget*>(zName);  // one that the window made without a row
   }
   if (control == nullptr || zClass.cast(control) == nullptr) {
     qFatal("The form has no %s called %s.", zClass.className(), qPrintable(zName));

@@ -4,13 +4,12 @@
 
 #include "ui/controls/colours.h"
 #include "ui/controls/fitting.h"
-#include "ui/controls/form.h"
 
 namespace loquitor {
 namespace {
 
 constexpr int CaptionIndent = 8;  // pixels from the left edge to the caption
-constexpr int CaptionGap = 3;     // between the caption and the border on both its sides
+constexpr int CaptionGap = 3;     // between the caption and the border, on both sides
 
 }  // namespace
 
@@ -19,7 +18,7 @@ void Frame::paintEvent(QPaintEvent*) {
   painter.setLayoutDirection(layoutDirection());
   QFont bold = font();
   bold.setBold(true);
-  const QString caption = ShownCaption(Caption());
+  const QString caption = ShownCaption(title());
   bold = FittingFont(bold, caption, width() - 2 * (CaptionIndent + CaptionGap));
   painter.setFont(bold);
   const QFontMetrics metrics(bold);

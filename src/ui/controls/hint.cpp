@@ -9,10 +9,10 @@
 namespace loquitor {
 namespace {
 
-constexpr int ShownMilliseconds = 8000;  // time enough to read it twice
+constexpr int ShownMilliseconds = 8000;  // long enough to read it twice
 constexpr char OwnDescription[] = "descriptionBeforeTheHint";
 
-/// While the hint is shown it is the accessible description of `zControl`.
+/// Makes the hint the accessible description of `zControl` while it is shown.
 void Describe(QWidget* zControl, const QString& zText) {
   if (!zControl->property(OwnDescription).isValid()) {
     zControl->setProperty(OwnDescription, zControl->accessibleDescription());

@@ -6,9 +6,9 @@ class QWidget;
 
 namespace loquitor {
 
-/// Shows `zText` in a small bubble at `zControl` (at the caret if it has one) for eight seconds,
-/// and announces it to screen readers. It takes no click and no focus. A hint that is already shown
-/// is not repeated.
+/// Shows `zText` in a small bubble at `zControl` (at the caret if it has one) for eight seconds.
+/// The bubble takes no click and no focus. Screen readers announce the text, which is also the
+/// accessible description of `zControl` for that time. Does nothing when the same hint is shown.
 void ShowHint(QWidget* zControl, const QString& zText);
 
 }  // namespace loquitor

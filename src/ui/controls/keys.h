@@ -4,7 +4,7 @@
 
 namespace loquitor {
 
-/// Whether the key is Enter, the large one (Qt calls it Return) or the one of the number pad.
+/// Whether the key is Enter: the large one (Qt calls it Return) or the one on the number pad.
 inline bool IsEnter(const QKeyEvent& zEvent) {
   return zEvent.key() == Qt::Key_Return || zEvent.key() == Qt::Key_Enter;
 }

@@ -27,7 +27,7 @@ void PushButton::SetKey(const QKeySequence& zKey) {
   auto* shortcut = new QShortcut(zKey, this);
   shortcut->setAutoRepeat(false);
   connect(shortcut, &QShortcut::activated, this, [this] {
-    setFocus(Qt::ShortcutFocusReason);  // so that a box that is left takes its text
+    setFocus(Qt::ShortcutFocusReason);  // so that the box that loses it takes its text
     click();
   });
 }

@@ -12,9 +12,9 @@ class PushButton : public QPushButton {
  public:
   PushButton(const QString& zCaption, QWidget* zParent);
 
-  /// A key that presses the button from anywhere in its window, as a click does: the focus moves to
-  /// the button first. The key is shown after the tooltip; `toolTip()` does not hold it. To be
-  /// called once.
+  /// Makes `zKey` press the button from anywhere in its window. The focus moves to the button
+  /// first, as it does when the button is clicked. The tooltip that the user sees ends with the
+  /// key; `toolTip()` is without it. Call this once at most.
   void SetKey(const QKeySequence& zKey);
 
  protected:

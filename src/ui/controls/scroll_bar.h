@@ -9,8 +9,8 @@ namespace loquitor {
 class ScrollBar : public QScrollBar {
   Q_OBJECT
  public:
-  /// `zMaximum`, `zPage`: range 0 to zMaximum, page step; `zValue`: the value it is created with,
-  /// which raises no event.
+  /// The range is 0 to `zMaximum`, the page step `zPage`. The first value, `zValue`, raises no
+  /// event.
   ScrollBar(int zMaximum, int zPage, int zValue, QWidget* zParent);
 
  signals:
@@ -22,9 +22,9 @@ class ScrollBar : public QScrollBar {
   /// value raises nothing.
   void Change();
 
-  /// The focus has come in: by mouse (before the press moves anything), Tab or wheel (before it
-  /// turns anything). If the handler moves the thumb that the mouse has pressed, a drag goes on
-  /// from where the thumb is then.
+  /// The focus has come from another control. Raised before the press or the turn of the wheel that
+  /// brought it moves anything. If the mouse has pressed the thumb and the handler moves it, a drag
+  /// continues from the thumb's new place.
   void GotFocus();
 
  protected:
@@ -45,8 +45,8 @@ class ScrollBar : public QScrollBar {
   QRect Thumb() const;
   QMouseEvent AtThumb(const QMouseEvent& zEvent) const;
 
-  QRect thumbBeforeFocus_;  ///< where a press that brings the focus found it
-  QPoint thumbMove_;        ///< how far it was moved away from under that press
+  QRect thumbBeforeFocus_;  ///< where it was when a press of the mouse brought the focus
+  QPoint thumbMove_;        ///< how far GotFocus then moved it away from the mouse
   int valueAtPress_ = 0;
   bool isDragStep_ = false;
 };

@@ -22,9 +22,9 @@ namespace {
 
 constexpr int SmallestLetters = 8;  // pixels
 constexpr int LargestLetters = 48;
-constexpr qsizetype LongestWrappedByWords = 65'536;  // laid out in 0.3 s even as one word
+constexpr qsizetype LongestWrappedByWords = 65'536;  // one word of this length takes 0.3 s
 
-/// The text as it is stored: line breaks are '\n'.
+/// The bytes of a text of Qt's, with '\n' for each of its kinds of line break.
 std::string StoredForm(QString zText) {
   zText.replace(QChar::ParagraphSeparator, u'\n');
   zText.replace(QChar::LineSeparator, u'\n');
@@ -42,12 +42,10 @@ TextArea::TextArea(QWidget* zParent) : QPlainTextEdit(zParent) {
 
 void TextArea::AddZoomActions() {
   const auto add = [this](const QString& zText, const QList<QKeySequence>& zKeys, auto zHandler) {
-    auto* action = new QAction(zText, this);
+    QAction* action = addAction(zText, this, zHandler);
     action->setShortcuts(zKeys);
     action->setShortcutContext(Qt::WidgetShortcut);
     action->setShortcutVisibleInContextMenu(true);
-    connect(action, &QAction::triggered, this, zHandler);
-    addAction(action);
   };
   add("Larger Letters", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [this] { Zoom(1); });
   add("Smaller Letters", {Qt::CTRL | Qt::Key_Minus}, [this] { Zoom(-1); });
@@ -73,7 +71,7 @@ void TextArea::contextMenuEvent(QContextMenuEvent* zEvent) {
   // The menu is deleted with this box. Deleting it when it closes is too early: it still works
   // while its action runs, and the action may let events run.
   QMenu* menu = createStandardContextMenu(zEvent->pos());
-  if (!isReadOnly()) {  // Qt leaves out the keys that an action of the window has too
+  if (!isReadOnly()) {  // Qt does not show keys that an action of the window has too
     menu->actions().at(0)->setShortcut(QKeySequence::Undo);
     menu->actions().at(1)->setShortcut(QKeySequence::Redo);
   }
@@ -107,8 +105,8 @@ void TextArea::ReplaceSelection(std::string_view zBytes) {
   setTextCursor(cursor);
 }
 
-/// Replaces what `zCursor` has selected, as one step that what is typed next is no part of: Qt
-/// joins insertions that follow each other, but never across an unmodified state.
+/// Replaces the selection of `zCursor`. What is typed next is an undoable step of its own: Qt joins
+/// insertions that follow each other, but never across an unmodified state.
 void TextArea::InsertAsStep(QTextCursor& zCursor, const QString& zText) {
   zCursor.beginEditBlock();
   zCursor.insertText(zText);
@@ -192,12 +190,12 @@ void TextArea::keyPressEvent(QKeyEvent* zEvent) {
     return;
   }
   if (zEvent->key() == Qt::Key_Y && zEvent->modifiers() == Qt::ControlModifier) {
-    redo();  // on desktops that know it by another key, too
+    redo();  // also on desktops where it has another key
     return;
   }
   const bool isCommand = zEvent->modifiers() == Qt::ControlModifier ||
                          zEvent->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
-  // Keys such as Backspace have a text, too.
+  // Keys such as Backspace have a text too.
   const QString text = zEvent->text();
   const bool isInsertion = !text.isEmpty() && (text.front().isPrint() || !CanHold(text));
   if (isCommand || !isInsertion || Takes(text)) {
@@ -205,18 +203,19 @@ void TextArea::keyPressEvent(QKeyEvent* zEvent) {
   }
 }
 
-/// Whether the user can insert `zText` now. Shows a hint if not.
+/// Whether the user can insert `zText` now. Shows a hint if not; otherwise chooses the wrapping for
+/// the text with it.
 bool TextArea::Takes(const QString& zText) {
   if (!CanHold(zText)) {
     ShowForeignCharacter(this, zText);
     return false;
   }
-  if (!HasRoomFor(zText)) {
+  if (!FitsLineLimit(zText)) {
     ShowHint(this, QStringLiteral("Nothing was inserted: a line can have up to %L1 characters.")
                        .arg(limits_.longestLine));
     return false;
   }
-  if (!FitsAsAWhole(zText)) {
+  if (!FitsTextLimits(zText)) {
     ShowHint(this, QStringLiteral("Nothing was inserted: the text would become too long."));
     return false;
   }
@@ -224,13 +223,14 @@ bool TextArea::Takes(const QString& zText) {
   return true;
 }
 
-/// Qt takes a time that grows with the square of a word's length to break it at its end.
+/// Long texts are not broken between words. The time that Qt needs to find the end of a word grows
+/// with the square of its length.
 void TextArea::ChooseWrapping(qsizetype zCharacters) {
   setWordWrapMode(zCharacters > LongestWrappedByWords ? QTextOption::WrapAnywhere
                                                       : QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
-bool TextArea::HasRoomFor(const QString& zText) const {
+bool TextArea::FitsLineLimit(const QString& zText) const {
   const QTextCursor cursor = textCursor();
   const QTextBlock last = document()->findBlock(cursor.selectionEnd());
   qsizetype length =
@@ -246,7 +246,7 @@ bool TextArea::HasRoomFor(const QString& zText) const {
          std::cmp_less_equal(std::max(longest, length + rest), limits_.longestLine);
 }
 
-bool TextArea::FitsAsAWhole(const QString& zText) const {
+bool TextArea::FitsTextLimits(const QString& zText) const {
   const qsizetype kept = document()->characterCount() - 1 - SelectionLength();
   const std::string selected = SelectedText();
   const auto removed = std::count(selected.begin(), selected.end(), '\n');

@@ -12,15 +12,15 @@ namespace loquitor {
 
 /// How large a text may become by typing and pasting.
 struct TextLimits {
-  /// Longer lines take longer to draw than the caret takes to blink.
+  /// In characters. Longer lines take longer to draw than the caret takes to blink.
   std::size_t longestLine = 1'000'000;
-  std::size_t characters = std::numeric_limits<std::size_t>::max();
+  std::size_t characters = std::numeric_limits<std::size_t>::max();  ///< with the line breaks
   std::size_t lines = std::numeric_limits<std::size_t>::max();
 };
 
 /// A text box with many lines. It gives back exactly the characters that it was given, as
-/// Windows-1252 bytes. A line break is one '\n' in all its texts and one character in all its
-/// positions; CR LF and a lone CR become '\n' when they are put in.
+/// Windows-1252 bytes. A line break is one '\n' in every text and one character in every position.
+/// CR LF and a lone CR become '\n' when they are put in. Positions count characters from 0 on.
 ///
 /// Ctrl with +, - and 0 or with the wheel changes the size of its letters. Its context menu shows
 /// these and all other actions that are added to it.
@@ -32,10 +32,10 @@ class TextArea : public QPlainTextEdit {
  public:
   explicit TextArea(QWidget* zParent);
 
-  /// From now on no line is wrapped.
+  /// Turns the wrapping of lines off.
   void StopWrapping();
 
-  /// How large the user can make the text.
+  /// How large the user can make the text. SetText and the Replace functions take any size.
   void SetLimits(const TextLimits& zLimits) { limits_ = zLimits; }
 
   std::string Text() const;
@@ -52,23 +52,27 @@ class TextArea : public QPlainTextEdit {
   std::string SelectedText() const;
   int SelectionStart() const;  ///< the caret when nothing is selected
   int SelectionLength() const;
+
+  /// Selects these characters, as far as the text has them. The caret is then at their end.
   void Select(int zStart, int zLength);
 
   /// The characters from `zStart` to before `zEnd`, as far as the text has them.
   std::string TextBetween(int zStart, int zEnd) const;
 
-  /// Where the part of the text that is in view begins and ends.
+  /// The positions between which the visible part of the text is.
   std::pair<int, int> VisibleRange() const;
 
   /// A part of the text: its start and its length.
   using Range = std::pair<int, int>;
 
-  /// Underlines these parts as a spell checker does, and no others. Neither the text nor its undo
-  /// history changes.
+  /// Underlines these parts of the text as a spell checker does, and no others. Neither the text
+  /// nor its undo history changes.
   void Underline(const std::vector<Range>& zParts);
 
-  /// The character (byte) after the caret, or 0 at the end of the text.
+  /// The byte of the character after the caret, or 0 at the end of the text.
   char CharacterAfterCaret() const;
+
+  /// Does nothing at the end of the text, except that it drops the selection.
   void MoveCaretRight();
 
  protected:
@@ -84,8 +88,8 @@ class TextArea : public QPlainTextEdit {
   void AddZoomActions();
   void Zoom(int zSteps);
   bool Takes(const QString& zText);
-  bool HasRoomFor(const QString& zText) const;
-  bool FitsAsAWhole(const QString& zText) const;
+  bool FitsLineLimit(const QString& zText) const;
+  bool FitsTextLimits(const QString& zText) const;
   void ChooseWrapping(qsizetype zCharacters);
 
   TextLimits limits_;

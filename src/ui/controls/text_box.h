@@ -7,14 +7,15 @@
 
 namespace loquitor {
 
-/// A one-line text box. Characters outside Windows-1252, typed or pasted, are refused with a hint.
-/// Enter presses no button of the window.
+/// A one-line text box. Characters outside Windows-1252 that are typed or pasted are refused with a
+/// hint. Enter presses no button of the window.
 class TextBox : public QLineEdit {
   Q_OBJECT
  public:
   explicit TextBox(QWidget* zParent);
 
-  /// The text as Windows-1252 bytes; setting it raises no event of the user's.
+  /// The text as Windows-1252 bytes. SetText leaves line breaks out. It raises textChanged if the
+  /// text changes, and never textEdited.
   std::string Text() const;
   void SetText(std::string_view zBytes);
 

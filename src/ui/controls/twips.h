@@ -7,12 +7,9 @@ namespace loquitor {
 
 inline constexpr int TwipsPerPixel = 15;  ///< 1440 twips an inch, 96 logical pixels an inch
 
-/// Twips to logical pixels and back, rounded to the nearest.
+/// Twips in logical pixels, rounded to the nearest.
 constexpr int PixelsFromTwips(int zTwips) {
   return (zTwips + (zTwips < 0 ? -7 : 7)) / TwipsPerPixel;
-}
-constexpr int TwipsFromPixels(int zPixels) {
-  return zPixels * TwipsPerPixel;
 }
 
 /// A place in twips: left, top, width, height, relative to the client area of the window or to the
