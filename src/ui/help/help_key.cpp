@@ -26,7 +26,7 @@ constexpr Chapter Chapters[] = {
     {"loquitor::frmBaudRate", "Baud Rate and Detune"},
 };
 
-/// Nothing for a window without a chapter: a message box, the manual itself.
+/// The heading of the window's chapter. Null for a window without one.
 const char* ChapterOf(const QWidget* zWindow) {
   for (const Chapter& chapter : Chapters) {
     if (qstrcmp(chapter.window, zWindow->metaObject()->className()) == 0) {

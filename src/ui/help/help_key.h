@@ -8,11 +8,12 @@ namespace loquitor {
 
 class ManualWindow;
 
-/// Opens the manual when F1 is pressed in any window of the program, at the chapter of that window.
+/// Opens the manual when F1 is pressed in a window that has a chapter in it, at that chapter. F1 in
+/// a message box or in the manual itself does nothing.
 class HelpKey : public QObject {
   Q_OBJECT
  public:
-  /// `zManualFolder`: see ManualWindow. Needs a QApplication, which it watches while it lives.
+  /// `zManualFolder` is as for ManualWindow. Needs a QApplication, whose events it watches.
   explicit HelpKey(const QString& zManualFolder);
   ~HelpKey() override;
 

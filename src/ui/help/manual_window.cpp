@@ -18,7 +18,7 @@ namespace {
 constexpr QSize StartSize(920, 760);
 const QString ManualPage = QStringLiteral("manual.md");
 
-/// Beside the program, in its source folder while it is developed, and where packages put it.
+/// Beside the program, in the source tree of a build, and where packages put it.
 const QStringList Places = {QStringLiteral("docs"), QStringLiteral("../../docs"),
                             QStringLiteral("../share/doc/loquitor"),
                             QStringLiteral("../share/doc/loquitor/docs")};
@@ -42,13 +42,13 @@ void ManualPages::doSetSource(const QUrl& zPage, QTextDocument::ResourceType zTy
   if (zPage.hasFragment()) {
     const QString target = zPage.fragment();
     ScrollToHeading(target);
-    // Again when the window has its final size: the page is then laid out anew.
+    // Again when the window has its final size, for which the page is laid out again.
     QTimer::singleShot(0, this, [this, target] { ScrollToHeading(target); });
   }
 }
 
 void ManualPages::ScrollToHeading(const QString& zTarget) {
-  document()->pageCount();  // lays out all of it, or the scroll bar would not reach far enough yet
+  document()->pageCount();  // lays out the whole page, so that the scroll bar reaches its end
   for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
     if (block.blockFormat().headingLevel() > 0 && LinkTarget(block.text()) == zTarget) {
       const QRectF place = document()->documentLayout()->blockBoundingRect(block);
@@ -79,7 +79,7 @@ void ManualWindow::ShowChapter(const QString& zChapter) {
   show();  // first, because a page is laid out for the width that is shown
   if (folder_.isEmpty()) {
     pages_->setPlainText(
-        QStringLiteral("The manual was not found. It belongs into the folder "
+        QStringLiteral("The manual was not found. It belongs in the folder "
                        "docs beside the program, as docs/manual.md."));
   } else {
     QUrl page = QUrl::fromLocalFile(QDir(folder_).filePath(ManualPage));

@@ -6,8 +6,8 @@
 
 namespace loquitor {
 
-/// The pages of the manual. A link to a heading is #, then the heading in lower case with hyphens
-/// for blanks and without other signs than letters, digits and hyphens.
+/// The pages of the manual. A link to a heading is # and the heading in lower case, with hyphens
+/// for its blanks and only its letters, digits, underscores and hyphens.
 class ManualPages : public QTextBrowser {
   Q_OBJECT
  public:
@@ -20,12 +20,13 @@ class ManualPages : public QTextBrowser {
   void ScrollToHeading(const QString& zTarget);
 };
 
-/// Shows the manual, its pictures and the documents that it leads to. Names the version and the
-/// licence of the program. A window of its own, which keeps no program running.
+/// Shows the manual, its pictures and the documents that it links to, and names the version and the
+/// licence of the program. The program ends even while this window is open.
 class ManualWindow : public QWidget {
   Q_OBJECT
  public:
-  /// `zFolder`: where manual.md is; empty when it was not found, which the window then says.
+  /// `zFolder` is the folder of manual.md. When it is empty, the window says that the manual was
+  /// not found.
   explicit ManualWindow(const QString& zFolder);
 
   /// Shows the chapter with the heading `zChapter` and brings the window to the front.
@@ -39,8 +40,8 @@ class ManualWindow : public QWidget {
   ManualPages* pages_;
 };
 
-/// The folder of the manual: the first that holds manual.md among the places where it is installed
-/// or built, seen from the program's own folder `zProgramFolder`. Empty when there is none.
+/// The folder of manual.md. Looks in the places where it is installed or built, relative to the
+/// folder of the program, `zProgramFolder`. Empty when none of them has it.
 QString FindManual(const QString& zProgramFolder);
 
 }  // namespace loquitor

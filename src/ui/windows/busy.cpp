@@ -7,7 +7,8 @@
 namespace loquitor {
 namespace {
 
-/// Clicks that come faster than they are handled would otherwise nest until the stack is full.
+/// Without a limit, clicks that come faster than they are handled would nest until the stack is
+/// full.
 constexpr int DeepestTurn = 8;
 
 /// Counts the work that nests in one window, and shows the hourglass over it. Belongs to the
@@ -48,7 +49,7 @@ class WorkCount : public QObject {
     }
     const QPointer<QObject> self = this;
     ++turns_;
-    // The dispatcher alone may leave what was posted for a later turn when it has something else.
+    // When the dispatcher has other work, it alone may leave posted events for a later turn.
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
     if (self) {
@@ -60,7 +61,7 @@ class WorkCount : public QObject {
   int turns_ = 0;
 };
 
-/// Keeps a button disabled while it lives. The button and its window may go first.
+/// Keeps a button disabled while it lives. The button may be destroyed before it.
 class DisabledButton {
  public:
   explicit DisabledButton(QWidget* zButton) {

@@ -13,7 +13,7 @@ namespace loquitor {
 
 class EnglishReader;
 
-/// What the windows pass to each other; the main window owns the one there is. Texts are
+/// What the windows pass to each other. There is one, which the main window owns. Texts are
 /// Windows-1252 bytes.
 struct SharedState {
   std::string PhraseToMove;       ///< Say Data handed to the phrase editor and returned by Done
@@ -24,7 +24,7 @@ struct SharedState {
   SendTicket EventWrite;          ///< the last write of the event configuration
 };
 
-/// What an editor needs of the program. Everything outlives the editor.
+/// What an editor needs of the program. All of it outlives the editor.
 struct EditorContext {
   const CodeTable& codeTable;
   const SayDataTranslator& translator;

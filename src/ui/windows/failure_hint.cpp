@@ -13,7 +13,7 @@ FailureHint::FailureHint() {
 }
 
 void FailureHint::Tell(const QString& zText) {
-  control_ = pressed_.Get();  // now, because a handler may move the focus
+  control_ = pressed_.Get();  // now, because a handler may move the focus later
   text_ = zText;
   wait_.start();
 }

@@ -9,13 +9,14 @@
 
 namespace loquitor {
 
-/// Shows the user, at the control that was used last, why a send failed. Needs a QApplication.
+/// Tells the user why a send failed. Needs a QApplication.
 class FailureHint {
  public:
   FailureHint();
 
-  /// Shows `zText` as a hint as soon as no mouse button is pressed, because a release would hide
-  /// it. Failures until then show one hint, with the last text.
+  /// Shows `zText` as a hint at the control that was used last. The hint comes as soon as no mouse
+  /// button is pressed, because a release would hide it. Of several calls until then only the last
+  /// one shows its text.
   void Tell(const QString& zText);
 
  private:

@@ -36,7 +36,8 @@ bool PressedControl::eventFilter(QObject* zWatched, QEvent* zEvent) {
   return false;
 }
 
-/// A press that a control ignores goes on to the widgets around it, with the same time.
+/// Takes the first widget that gets a press. Qt passes a press that the widget ignores to the
+/// widgets around it, with the same timestamp.
 void PressedControl::TakeFirst(QWidget* zWidget, quint64 zTimestamp) {
   if (!control_ || zTimestamp != timestamp_) {
     control_ = zWidget;

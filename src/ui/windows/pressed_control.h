@@ -6,14 +6,14 @@
 
 namespace loquitor {
 
-/// Knows which control the user has used last. Needs a QApplication.
+/// Knows which control the user has used last. Needs a QApplication, whose events it watches.
 class PressedControl : public QObject {
  public:
   PressedControl();
 
-  /// After the mouse or the wheel: the control under it. After a key, or when that control is no
-  /// longer shown: the control that has the focus, or else the active window. Null when the program
-  /// has no active window.
+  /// After a press of the mouse or a turn of the wheel, the control under the mouse. After a key,
+  /// or when that control is no longer shown, the control that has the focus, or else the active
+  /// window. Null when the program has no active window.
   QWidget* Get() const;
 
  protected:

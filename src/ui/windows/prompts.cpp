@@ -54,10 +54,10 @@ QString WithPlainBreaks(const QString& zText) {
   return QString(zText).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
 
-/// Makes the box wide enough for the lines of its message, which Qt breaks at half the screen, and
-/// for its title, which window managers cut.
+/// Makes the box wide enough for its longest line and for its title. Otherwise Qt breaks lines at
+/// half the screen, and window managers cut titles.
 void KeepLinesWhole(QMessageBox& zBox) {
-  constexpr int RoomForTheRest = 200;      // pixels: borders of the box, and some of the screen
+  constexpr int RoomForTheRest = 200;      // pixels: borders of the box and a part of the screen
   constexpr int RoomBesideTheTitle = 110;  // an icon and three buttons, less the borders of the box
   if (auto* label = zBox.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
     QFont bold = zBox.font();
@@ -74,7 +74,7 @@ void KeepLinesWhole(QMessageBox& zBox) {
 PromptAnswer DesktopPrompts::Ask(QWidget* zOwner, const QString& zTitle, const QString& zText,
                                  PromptButtons zButtons) {
   const BoxButtons buttons = ButtonsOf(zButtons);
-  // The owner may be destroyed while the box is shown, and the box with it.
+  // The owner may be destroyed while the box is shown, which destroys the box too.
   const QPointer<QMessageBox> box =
       new QMessageBox(QMessageBox::NoIcon, zTitle, WithPlainBreaks(zText), buttons.buttons, zOwner);
   box->setTextFormat(Qt::PlainText);

@@ -10,8 +10,8 @@ namespace {
 constexpr int LookInterval = 250;    // milliseconds
 constexpr int LooksBeforeShown = 4;  // a second
 
-/// The editor in front, also under a message box; `zMainWindow` when no editor is open.
-QWidget* WindowInFront(QWidget* zMainWindow) {
+/// The topmost editor, also when a message box is over it. `zMainWindow` when no editor is open.
+QWidget* TopmostWindow(QWidget* zMainWindow) {
   QWidget* window = QApplication::activeModalWidget();
   while (window != nullptr && qobject_cast<ToolWindow*>(window) == nullptr) {
     window = window->parentWidget();
@@ -51,7 +51,7 @@ void SendProgress::Update() {
     return;
   }
   const std::size_t percent = (toGo * 100 + total_ - 1) / total_;
-  Show(WindowInFront(mainWindow_), QStringLiteral("%1% to go - ").arg(percent));
+  Show(TopmostWindow(mainWindow_), QStringLiteral("%1% to go - ").arg(percent));
 }
 
 void SendProgress::Show(QWidget* zWindow, const QString& zProgress) {

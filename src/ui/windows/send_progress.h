@@ -11,14 +11,14 @@
 
 namespace loquitor {
 
-/// Shows how much of a long send is still to go, in front of the title of the window in front:
-/// "43% to go - Orvatone EEPROM Editor". Sends of less than a second are not shown.
+/// Shows in a window's title how much of a long send is left: "43% to go - Orvatone EEPROM Editor".
+/// The window is the topmost one. Sends of less than a second are not shown.
 class SendProgress : public QObject {
  public:
-  /// `zMainWindow` is the window in front when no editor is open. Both outlive this object.
+  /// `zMainWindow` shows the progress when no editor is open. Both outlive this object.
   SendProgress(QWidget* zMainWindow, const CodeSender& zSender);
 
-  /// A send has begun, or the last one has ended.
+  /// To be called with true when a send begins, and with false when the last one has ended.
   void SetSending(bool zIsSending);
 
  private:
@@ -29,11 +29,11 @@ class SendProgress : public QObject {
   QWidget* mainWindow_;
   const CodeSender& sender_;
   QTimer timer_;
-  std::size_t total_ = 0;  // the bytes of the present send
-  std::size_t toGo_ = 0;   // those that it had when it was looked at last
-  int looks_ = 0;          // how often it has been looked at
+  std::size_t total_ = 0;  // bytes of the present send
+  std::size_t toGo_ = 0;   // bytes that were left at the last look
+  int looks_ = 0;          // how many looks at the present send there were
   QPointer<QWidget> shownIn_;
-  QString title_;  // of that window, without the progress
+  QString title_;  // the title of shownIn_ without the progress
 };
 
 }  // namespace loquitor

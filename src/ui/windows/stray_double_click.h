@@ -4,9 +4,9 @@ class QWidget;
 
 namespace loquitor {
 
-/// Makes `zWindow` ignore a double click whose first press went to another window: one that opened
-/// it, or a box over it that the first press has closed. Must be called before the window is shown
-/// for the first time.
+/// Makes `zWindow` ignore a double click whose first press went to another window: to the one that
+/// opened it, or to a box over it that the first press closed. To be called before the window is
+/// shown for the first time.
 void IgnoreStrayDoubleClicks(QWidget* zWindow);
 
 }  // namespace loquitor

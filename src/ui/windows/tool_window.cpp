@@ -1,7 +1,6 @@
 #include "ui/windows/tool_window.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 
 #include "ui/controls/form.h"
 #include "ui/controls/keys.h"
@@ -27,7 +26,7 @@ ToolWindow::ToolWindow(QWidget* zOwner, const QString& zCaption, TwipSize zClien
 
 void ToolWindow::ShowModal() {
   LoadOnce();
-  static_cast<void>(exec());  // how a window was closed says nothing
+  static_cast<void>(exec());  // the result code has no meaning here
 }
 
 void ToolWindow::Open() {
@@ -50,7 +49,7 @@ void ToolWindow::done(int zResult) {
     return;
   }
   isUnloaded_ = true;
-  // Hidden first: the owner is free again even if the unloading has to wait for the line.
+  // Hidden first, so that the owner is free even if Unload has to wait for the line.
   QDialog::done(zResult);
   Unload();
   emit Closed();

@@ -6,15 +6,16 @@
 
 namespace loquitor {
 
-/// Base of the editors: a modal tool window with a close box, owned by the window that opened it,
-/// centred on the screen, not in the task bar. Enter presses no button and Escape closes nothing.
-/// It ignores a double click whose first press went to another window.
+/// The base of the editors: a modal tool window with a close box, owned by the window that opened
+/// it, centred on the screen, not in the task bar. Enter presses no button, and Escape does not
+/// close it. It ignores a double click whose first press went to another window.
 class ToolWindow : public QDialog {
   Q_OBJECT
  public:
   enum class Sizing { Fixed, Resizable };
 
-  /// `zCaption`: the title, blanks at its ends kept. `zClientSize`: the client area.
+  /// `zCaption` is the title, with the blanks at its ends. `zClientSize` is the size of the client
+  /// area. `zOwner` may be null.
   ToolWindow(QWidget* zOwner, const QString& zCaption, TwipSize zClientSize,
              Sizing zSizing = Sizing::Fixed);
 
@@ -24,19 +25,22 @@ class ToolWindow : public QDialog {
   /// Loads and shows the window and returns at once (tests).
   void Open();
 
-  /// Whether it has been closed after having been shown.
+  /// Whether it has been closed after it was shown. Already true while Unload runs.
   bool IsUnloaded() const { return isUnloaded_; }
 
  signals:
-  /// The window has been closed, in whatever way, and unloaded. Raised once.
+  /// The window has been closed in any way, and Unload has run. Raised once.
   void Closed();
 
  protected:
-  /// The window's own steps: once before it is shown, once when it has been closed (it is hidden
-  /// then, and its owner takes input again) however that came about, and each time that it becomes
-  /// the active window.
+  /// Called once, before the window is shown.
   virtual void Load() {}
+
+  /// Called once, when the window has been closed in any way. It is hidden then, and its owner
+  /// takes input again.
   virtual void Unload() {}
+
+  /// Called each time that the window becomes the active one, between Load and Unload.
   virtual void Activate() {}
 
   void keyPressEvent(QKeyEvent* zEvent) override;
