@@ -104,7 +104,7 @@ void DictionaryBrowser::SaveWord(const std::string& zWord) {
     context_.prompts.Tell(window_, *refusal);
     return;
   }
-  // A dictionary that cannot be written is passed over in silence, as everywhere.
+  // The user is not told when the dictionary cannot be written, as with every other file.
   const std::string sayData = txtSayData_->Text();
   static_cast<void>(
       context_.dictionary.SaveDictionaryValue(DictionaryStore::Section, zWord, sayData));

@@ -14,12 +14,12 @@
 namespace loquitor {
 
 /// The Dictionary frame of the phrase editor. It loads the entries of words into the Say Data,
-/// steps through the dictionary in alphabetical order, and saves the Say Data under a word.
+/// steps through the dictionary in alphabetical order, and saves the Say Data as a word's entry.
 class DictionaryBrowser : public QObject {
   Q_OBJECT
  public:
-  /// `zForm` has the frame's controls and txtSayData. `zWindow` shows the hourglass and owns the
-  /// messages.
+  /// `zForm` has the frame's controls and txtSayData. `zWindow` owns this object and the messages,
+  /// and shows the hourglass.
   DictionaryBrowser(QWidget* zWindow, const Form& zForm, const EditorContext& zContext);
 
  signals:
@@ -29,7 +29,7 @@ class DictionaryBrowser : public QObject {
   /// The mnemonic text is to be said.
   void SayWanted(const std::string& zAllophoneList);
 
-  /// The entries of these words of `zBox` were loaded.
+  /// The entries of `zWords`, the text of `zBox`, were loaded.
   void Loaded(QWidget* zBox, const std::string& zWords);
 
   /// The Say Data was saved as an entry.

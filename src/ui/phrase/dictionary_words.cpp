@@ -61,7 +61,7 @@ std::optional<QString> RefusalOfWord(std::string_view zWord) {
     return std::nullopt;
   }
   if (*unstorable == '=') {
-    return "A dictionary word cannot hold an equals sign (=).  Remove it and try again.";
+    return "A dictionary word cannot contain an equals sign (=).  Remove it and try again.";
   }
   return QString("A dictionary word cannot begin with %1.  Remove it and try again.")
       .arg(QChar(*unstorable));

@@ -16,25 +16,25 @@ enum class NextWordMode {
   Any,
 };
 
-/// Nothing when neither check box is ticked.
+/// The mode that the two check boxes mean. Nothing when neither is ticked.
 std::optional<NextWordMode> NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTicked);
 
-/// The entries of the words of `zText`, each followed by one blank.
+/// The entries of the words of `zText`, each followed by one blank. A missing entry is empty.
 std::string LoadedText(const DictionaryStore& zDictionary, std::string_view zText);
 
 /// Whether a step in that mode stops at a word whose entry loads as `zSayData`. In the mode
-/// WithData, `zSayData` must contain the capitals of `zFindWith`.
+/// WithData, `zSayData` must also contain `zFindWith` converted to upper case.
 bool IsWanted(NextWordMode zMode, std::string_view zSayData, std::string_view zFindWith);
 
-/// Tells the user that the dictionary has no word for that mode.
+/// The message that the dictionary has no word for that mode.
 QString NoWordNotice(NextWordMode zMode);
 
-/// Why the dictionary cannot hold an entry under `zWord` (not empty), as a message to the user;
-/// nothing when it can.
+/// Why `zWord` (not empty) cannot be a word of the dictionary, as a message to the user. Nothing
+/// when it can.
 std::optional<QString> RefusalOfWord(std::string_view zWord);
 
-/// What to tell the user who has saved `zSayData` as an entry that is too long to come back whole;
-/// empty when it comes back whole.
+/// The message that `zSayData`, saved as an entry, is too long to come back whole. Empty when it
+/// comes back whole.
 QString CutNotice(std::string_view zSayData);
 
 }  // namespace loquitor

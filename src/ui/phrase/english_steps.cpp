@@ -45,16 +45,13 @@ EnglishSteps::EnglishSteps(TextArea* zArea, const EditorContext& zContext)
 void EnglishSteps::AddStep(const QString& zCaption, const QKeySequence& zKey,
                            void (EnglishSteps::*zStep)()) {
   const bool canRead = context_.english != nullptr;
-  auto* action =
-      new QAction(canRead ? zCaption : zCaption + " (this build cannot read English)", area_);
-  action->setShortcut(zKey);
+  QAction* action = area_->addAction(
+      canRead ? zCaption : zCaption + " (this build cannot read English)", zKey, this, zStep);
   action->setShortcutVisibleInContextMenu(true);
   action->setEnabled(canRead);
-  connect(action, &QAction::triggered, this, zStep);
-  area_->addAction(action);
 }
 
-/// Remembers where the menu was opened by the mouse until the next key.
+/// Remembers where the mouse opened the menu, until the next key.
 bool EnglishSteps::eventFilter(QObject*, QEvent* zEvent) {
   if (zEvent->type() == QEvent::ContextMenu) {
     const auto* menu = static_cast<QContextMenuEvent*>(zEvent);
@@ -67,7 +64,7 @@ bool EnglishSteps::eventFilter(QObject*, QEvent* zEvent) {
   return false;
 }
 
-/// A moment later, because the end of a menu hides hints.
+/// Shows a hint at the area. A moment later, because a menu that closes hides hints.
 void EnglishSteps::Tell(const QString& zText) const {
   QTimer::singleShot(100, area_, [area = area_, zText] { ShowHint(area, zText); });
 }
@@ -83,8 +80,8 @@ std::optional<WordPlace> EnglishSteps::TakeWord() {
   return place;
 }
 
-/// What speaks a word: its entry if that gives any code, otherwise its English sounds. Tells when
-/// there are none.
+/// The sounds of a word: its entry if the entry gives any code, otherwise its English sounds. Tells
+/// when there are none.
 std::string EnglishSteps::SoundsOf(const WordPlace& zPlace) const {
   if (context_.translator.FindSilentParts(zPlace.word).empty()) {
     return context_.dictionary.GetDictionaryValue(DictionaryStore::Section, zPlace.word, "");
@@ -143,8 +140,7 @@ void EnglishSteps::EnglishToSounds() {
   }
 }
 
-/// Puts the sounds in place of the selection, or of the whole text without one, and tells what is
-/// not in them.
+/// Replaces the selection, or else the whole text, by its sounds. Tells which words were left out.
 void EnglishSteps::ReadAsEnglish() {
   const bool isWhole = area_->SelectionLength() == 0;
   const std::string text = isWhole ? area_->Text() : area_->SelectedText();

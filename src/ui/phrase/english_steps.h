@@ -16,18 +16,19 @@ class QAction;
 
 namespace loquitor {
 
-/// What the context menu of the Say Data box, and its keys, make of English words: Insert Its
-/// Sounds, Add to Dictionary, English to Sounds. By the mouse the word is the one under it, by a
-/// key the one at the caret. What cannot be done is told in a hint.
+/// Three actions for English words in the Say Data box, with entries in its context menu and keys:
+/// Insert Its Sounds (F6) and Add to Dictionary (Shift+F6) for one word, English to Sounds (F9) for
+/// a text. The word is the one under the mouse when the mouse has opened the menu, otherwise the
+/// one at the caret. A hint tells why an action changes nothing.
 class EnglishSteps : public QObject {
   Q_OBJECT
  public:
   /// The area owns this object.
   EnglishSteps(TextArea* zArea, const EditorContext& zContext);
 
-  /// Offers, in a hint at `zBox`, the sounds of the words of `zWords` that have no data in the
-  /// dictionary. Until the Say Data changes, the key of Insert Its Sounds inserts them at the
-  /// caret. Nothing happens when every word has data or no sounds.
+  /// Shows a hint at `zBox` with the words of `zWords` that have no data in the dictionary, and
+  /// with their sounds. Until the Say Data changes, F6 inserts these sounds at the caret. Shows no
+  /// hint when every word has data, or in a build that cannot read English.
   void OfferSounds(QWidget* zBox, std::string_view zWords);
 
  signals:
@@ -53,8 +54,8 @@ class EnglishSteps : public QObject {
 
   TextArea* area_;
   const EditorContext context_;
-  std::optional<int> clicked_;  ///< where the context menu was opened by the mouse
-  std::string offered_;
+  std::optional<int> clicked_;  ///< where the mouse opened the context menu
+  std::string offered_;         ///< the sounds of the last offer, until the Say Data changes
 };
 
 }  // namespace loquitor

@@ -17,13 +17,9 @@ constexpr int Margin = 60;  // twips around the buttons
 
 constexpr ControlRow Rows[] = {
     {ControlKind::TextArea, "txtCodes", "", "", {0, 0, 7335, 4710}, "", "Codes"},
-    {ControlKind::Button,
-     "btnCopy",
-     "",
-     "Copy to Clipboard",
-     {4365, 4770, 1695, 435},
-     "Copy the numeric Orvatone codes to the windows Clipboard."},
-    {ControlKind::Button, "btnDone", "", "Done", {6120, 4770, 1155, 435}},
+    ButtonRow("btnCopy", "", "Copy to Clipboard", {4365, 4770, 1695, 435},
+              "Copy the numeric Orvatone codes to the windows Clipboard."),
+    ButtonRow("btnDone", "", "Done", {6120, 4770, 1155, 435}),
 };
 
 }  // namespace
@@ -36,8 +32,8 @@ frmCodes::frmCodes(QWidget* zOwner, const EditorContext& zContext)
   txtCodes_ = form.Get<TextArea>("txtCodes");
   btnCopy_ = form.Get<QPushButton>("btnCopy");
   btnDone_ = form.Get<QPushButton>("btnDone");
-  connect(btnCopy_, &QPushButton::clicked, this, &frmCodes::btnCopy_Click);
-  connect(btnDone_, &QPushButton::clicked, this, &frmCodes::close);
+  form.OnClick("btnCopy", this, &frmCodes::btnCopy_Click);
+  form.OnClick("btnDone", this, &frmCodes::close);
 }
 
 void frmCodes::Load() {

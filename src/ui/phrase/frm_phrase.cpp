@@ -102,7 +102,8 @@ void frmPhrase::Load() {
 void frmPhrase::Activate() {
   marks_->LookAgain();  // another window or program may have changed the dictionary
   if (QWidget* before = focusWidget()) {
-    before->setFocus(Qt::ActiveWindowFocusReason);  // so that a box takes its text when it loses it
+    // So that a box that loses the focus takes its text.
+    before->setFocus(Qt::ActiveWindowFocusReason);
   }
   txtSayData_->setFocus();
   palette_->FocusRefusedBox();

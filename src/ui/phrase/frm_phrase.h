@@ -17,21 +17,21 @@ class VoiceControls;
 
 /// The phrase editor. The user writes a phrase as Say Data, hears it, views its codes, and builds
 /// it from the sound palette, the voice controls and the dictionary. It starts with
-/// SharedState::PhraseToMove and WordToMove if they are not empty. Done stores both there; closing
-/// it otherwise does not.
+/// SharedState::PhraseToMove and WordToMove. Done stores the Say Data and the word there; closing
+/// it in another way does not.
 class frmPhrase : public ToolWindow {
   Q_OBJECT
  public:
   frmPhrase(QWidget* zOwner, const EditorContext& zContext);
 
-  /// Sends mnemonic text to the chip, after the control-code prefix if that is ticked.
+  /// Sends mnemonic text to the chip, after the control-code prefix if that is ticked for Say Data.
   void SayThisAllophoneList(std::string_view zAllophoneList);
 
-  /// Shows the codes of a code string in the codes viewer. Returns when that is closed.
+  /// Shows a code string in the codes viewer. Returns when the viewer has been closed.
   void ShowThisCodeList(std::string_view zOrvatoneCodes);
 
-  /// Replaces the selection of the Say Data by the text and one blank, as one undoable step. If
-  /// nothing is selected, inserts both at the caret, after moving it past the blanks that follow.
+  /// Replaces the selection of the Say Data by `zText` and one blank, as one undoable step. If
+  /// nothing is selected, inserts them at the caret, which first moves past the blanks after it.
   void InsertIntoSayData(std::string_view zText);
 
  protected:

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int MemberHeight = 255;
 
-/// A member of a frame whose members have one size.
+/// A member of a frame whose members are all of one size.
 struct SoundRow {
   int index;
   const char* caption;

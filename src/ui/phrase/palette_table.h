@@ -38,21 +38,21 @@ struct PaletteMember {
   PaletteCaption caption;     ///< for example "IY", "Wait", "NTC#1"
   const char* frame;          ///< the name of the frame that holds it
   TwipRect place;             ///< in the frame
-  const char* tooltip = "";   ///< empty for the notes, see TooltipOf, and for most sound effects
-  const char* valueBox = "";  ///< the box with the value that follows its code, or empty
+  const char* tooltip = "";   ///< empty for most sound effects and for the notes; see TooltipOf
+  const char* valueBox = "";  ///< name of the box with the value that follows its code, or empty
 };
 
 inline constexpr std::size_t PaletteMemberCount = 183;
 inline constexpr std::size_t PaletteIndexCount = 198;  ///< indexes are 0 to 197, with gaps
 
-/// The palette, frame by frame; within a frame from its top left to its bottom right corner, row by
-/// row or column by column.
+/// The palette, frame by frame. Each frame goes from its top left to its bottom right corner, row
+/// by row or column by column.
 extern const std::array<PaletteMember, PaletteMemberCount> PaletteTable;
 
 /// The mnemonic of a member with its backslash, in the caption's letter case.
 std::string MnemonicOf(const PaletteMember& zMember);
 
-/// The tooltip of a member (ASCII); for a note it names the note. Empty when there is none.
+/// The tooltip of a member (ASCII). That of a note names the note. Empty when there is none.
 std::string TooltipOf(const PaletteMember& zMember);
 
 }  // namespace loquitor

@@ -8,6 +8,7 @@ namespace loquitor {
 namespace {
 
 constexpr std::string_view Pauses = " ,";
+constexpr std::string_view PausesAndBackslash = " ,\\";
 
 }  // namespace
 
@@ -26,11 +27,11 @@ TextSpan WholeWords(std::string_view zText, TextSpan zView, bool zIsCutAtStart, 
   const std::size_t before = zText.substr(0, zView.start).find_last_of(Pauses);
   std::size_t start = before == std::string_view::npos ? 0 : before + 1;
   if (before == std::string_view::npos && zIsCutAtStart) {
-    start = zText.find_first_of(" ,\\");
+    start = zText.find_first_of(PausesAndBackslash);
   }
   std::size_t end = zText.find_first_of(Pauses, zView.end);
   if (end == std::string_view::npos && zIsCutAtEnd) {
-    end = zText.find_last_of(" ,\\");
+    end = zText.find_last_of(PausesAndBackslash);
   } else if (end == std::string_view::npos) {
     end = zText.size();
   }

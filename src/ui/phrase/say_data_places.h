@@ -9,12 +9,13 @@ namespace loquitor {
 
 /// A dictionary word in a Say Data text.
 struct WordPlace {
-  std::string word;    ///< as it is looked up: without the characters that Say Data ignores
+  std::string word;    ///< as it is looked up, without the characters that Say Data ignores
   std::size_t start;   ///< offset of its first character
-  std::size_t length;  ///< up to its last character, the ignored ones included
+  std::size_t length;  ///< from there to its last character, with the ignored ones
 };
 
-/// The word that `zPosition` is in or at an end of. Nothing at pauses and mnemonics.
+/// The word that contains the position `zPosition`, or begins or ends there. Nothing at pauses and
+/// mnemonics.
 std::optional<WordPlace> WordAt(std::string_view zSayData, std::size_t zPosition);
 
 /// A part of a text from `start` to before `end`.
@@ -24,10 +25,11 @@ struct TextSpan {
   bool operator==(const TextSpan&) const = default;
 };
 
-/// `zView`, a part of the text `zText`, extended so that it cuts no word and no mnemonic.
+/// `zView`, a part of `zText`, extended so that it cuts no word and no mnemonic.
 ///
-/// `zText` may itself be cut out of a longer text. At such an end a word that reaches it is left
-/// out as far as it can be part of something longer.
+/// `zText` may be a part of a longer text, which continues at the ends that are said to be cut. A
+/// word or mnemonic that reaches such an end may be incomplete, and is left out. Returns {0, 0}
+/// when nothing is left.
 TextSpan WholeWords(std::string_view zText, TextSpan zView, bool zIsCutAtStart, bool zIsCutAtEnd);
 
 }  // namespace loquitor

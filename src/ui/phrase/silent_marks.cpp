@@ -8,7 +8,8 @@
 namespace loquitor {
 namespace {
 
-constexpr int Reach = 2000;  // characters before and after the view in which a word is followed
+// A word that is partly in view is followed over so many characters out of view.
+constexpr int Reach = 2000;
 
 }  // namespace
 
@@ -18,7 +19,7 @@ SilentMarks::SilentMarks(TextArea* zArea, const SayDataTranslator& zTranslator)
   idle_.setInterval(0);
   connect(&idle_, &QTimer::timeout, this, &SilentMarks::Mark);
   connect(area_, &QPlainTextEdit::textChanged, this, &SilentMarks::LookAgain);
-  // The scroll bar is silent when the box scrolls by itself.
+  // When the box scrolls by itself, the scroll bar raises no signal.
   connect(area_, &QPlainTextEdit::updateRequest, this, [this](const QRect& zRect, int zScrolled) {
     if (zScrolled != 0 || zRect.contains(area_->viewport()->rect())) {
       LookAgain();

@@ -8,16 +8,16 @@
 
 namespace loquitor {
 
-/// Underlines, in the part of a Say Data box that is in view, the words and mnemonics for which the
-/// chip gets no code. It looks again, in the next idle turn, after every change of the text or of
-/// what is in view. Costs the length of what is in view, however long the text is.
+/// Underlines the words and mnemonics of a Say Data box for which the chip gets no code. Looks at
+/// what is in view only, so the time that it takes does not grow with the text. Looks again in the
+/// next idle turn after every change of the text or of what is in view.
 class SilentMarks : public QObject {
   Q_OBJECT
  public:
   /// The area owns this object. `zTranslator` outlives both.
   SilentMarks(TextArea* zArea, const SayDataTranslator& zTranslator);
 
-  /// Looks again in the next idle turn, because the dictionary may have changed.
+  /// Looks again in the next idle turn. To be called when the dictionary may have changed.
   void LookAgain() { idle_.start(); }
 
  protected:

@@ -11,7 +11,7 @@
 
 namespace loquitor {
 
-/// The codes that the palette knows by name.
+/// The chip codes that the palette treats in a way of their own.
 namespace palette_code {
 inline constexpr std::int16_t Wait = 16;
 inline constexpr std::int16_t Pitch = 22;
@@ -22,11 +22,12 @@ inline constexpr std::int16_t Reset = 31;
 /// Whether a code-table index is that of a note.
 bool IsNote(std::int16_t zCode);
 
-/// The number at the start of a value box's text, rounded, as the byte that is sent; nothing when
-/// it is outside 0 to 255.
+/// The number at the start of a value box's text (text/number_text.h), rounded to the nearest with
+/// halves to even, as the byte that is sent. 0 when there is no number; nothing when it is outside
+/// 0 to 255.
 std::optional<std::uint8_t> ValueByte(std::string_view zBoxText);
 
-/// `zCode` as a code string, followed by `zValue` where there is one.
+/// The code string of `zCode` (0 to 255), followed by `zValue` if there is one.
 std::string SoundCodes(std::int16_t zCode, std::optional<std::uint8_t> zValue = std::nullopt);
 
 /// The question before the chip is told to wait; lines joined by CR LF.

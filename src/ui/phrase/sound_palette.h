@@ -15,21 +15,22 @@
 
 namespace loquitor {
 
-/// The sound palette of the phrase editor: a click on a member plays it, a double click also asks
-/// for its mnemonic to be inserted into the Say Data.
+/// The sound palette of the phrase editor. A click on a member plays it. A double click also asks
+/// for its mnemonic, with the text of its value box if it has one, to be inserted into the Say
+/// Data.
 class SoundPalette : public QObject {
   Q_OBJECT
  public:
   /// Adds `zRows` to `zForm`, and after each frame the members that it holds.
   static void AddRowsAndMembers(Form& zForm, std::span<const ControlRow> zRows);
 
-  /// `zForm` must hold the members, their value boxes and their frames. `zWindow` shows the
-  /// hourglass and owns the messages.
+  /// `zForm` has the members, their value boxes and their frames. `zWindow` owns this object and
+  /// the messages, and shows the hourglass.
   SoundPalette(QWidget* zWindow, const Form& zForm, const EditorContext& zContext,
                VoiceControls& zVoice);
 
-  /// Moves the focus to the value box that has just been refused, if there is one. The window calls
-  /// it when it becomes active again after the message.
+  /// Moves the focus to the value box whose text was refused last, once for each refusal. To be
+  /// called when the window has become active again after the message.
   void FocusRefusedBox();
 
  signals:
@@ -61,7 +62,7 @@ class SoundPalette : public QObject {
   const EditorContext context_;
   VoiceControls& voice_;
   std::array<Sound, PaletteIndexCount> sounds_{};  ///< by index in the control group
-  TextBox* refusedBox_ = nullptr;                  ///< until it has been given the focus
+  TextBox* refusedBox_ = nullptr;                  ///< until it gets the focus
 };
 
 }  // namespace loquitor

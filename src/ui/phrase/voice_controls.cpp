@@ -7,7 +7,7 @@ constexpr char FrameName[] = "Frame9";
 constexpr int FirstTop = 240;
 constexpr int RowDistance = 300;
 
-/// The rows of one setting, `zTop` twips below the top of the frame.
+/// Adds the controls of one setting, `zTop` twips below the top of the frame.
 void AddSetting(Form& zForm, const VoiceSetting& zSetting, int zTop) {
   const std::string caption = zSetting.caption;
   const std::string textBoxName = caption + " value";
@@ -83,7 +83,7 @@ QVector<ClickLabel*> VoiceControls::Labels() const {
 }
 
 void VoiceControls::Label_DblClick(VoiceIndex zSetting) {
-  controls_[zSetting].value->TakeText();  // what is typed counts, even before the box is left
+  controls_[zSetting].value->TakeText();  // the focus may still be in the box
   emit InsertWanted(codeTable_.GetCodeMnemonic(VoiceSettings[zSetting].code) + " \\" +
                     std::to_string(controls_[zSetting].value->Value()));
 }

@@ -30,16 +30,17 @@ class VoiceControls : public QObject {
   /// The control-code prefix: the code and the present value of each setting, 8 bytes.
   std::string GetControlCodes() const;
 
-  /// The same when the settings are to be sent before Say Data, else empty.
+  /// GetControlCodes when the settings are to be sent before Say Data, otherwise empty.
   std::string PrefixForSayData() const;
 
   /// Whether the settings are to be sent before the sounds of the palette.
   bool AppliesToSounds() const { return chkApplyControlsBeforeSounds_->Value() == 1; }
 
+  /// Gives each setting its default value.
   void SetDefaults();
   void SetPitch(std::uint8_t zPitch);
 
-  /// The clickable labels, in order.
+  /// The clickable labels, in the order of VoiceIndex.
   QVector<ClickLabel*> Labels() const;
 
  signals:

@@ -9,7 +9,7 @@ namespace loquitor {
 /// One of the four voice settings of the chip, and its controls.
 struct VoiceSetting {
   const char* caption;
-  const char* label;  ///< control names
+  const char* label;  ///< the names of its controls
   const char* textBox;
   const char* bar;
   const char* tooltip;  ///< of the label
@@ -19,7 +19,7 @@ struct VoiceSetting {
   int defaultValue;
 };
 
-/// In the order of their codes, of their places in the window and of the prefix.
+/// The order of their codes, of their places in the window and in the prefix.
 enum VoiceIndex : std::size_t { Volume, Speed, Pitch, Bend, VoiceSettingCount };
 
 inline constexpr std::array<VoiceSetting, VoiceSettingCount> VoiceSettings{{

@@ -27,7 +27,7 @@ void WordHistory::Area_ContentsChanged() {
   const int before = end_;
   end_ = area_->document()->availableUndoSteps();
   if (end_ < before && !area_->document()->isRedoAvailable()) {
-    edits_.clear();  // the text was set anew
+    edits_.clear();  // SetText has forgotten the undo history
   }
   for (auto edit = edits_.rbegin(); edit != edits_.rend(); ++edit) {
     if (edit->end > end_ && edit->end <= before) {

@@ -11,8 +11,8 @@
 namespace loquitor {
 
 /// Keeps a word box in step with the undo history of a text area. When an edit that loaded the
-/// entry of a word is undone, the word from before comes back; when it is redone, that word. A word
-/// that the user has typed since stays.
+/// entry of a word is undone, the box gets the word from before it back. When the edit is redone,
+/// the box gets the loaded word again. A word that the user has typed since then stays.
 class WordHistory : public QObject {
   Q_OBJECT
  public:
