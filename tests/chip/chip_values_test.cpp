@@ -22,7 +22,7 @@ TEST(Detune, SendsOnlyBytesInHexadecimal) {
   }
 }
 
-TEST(EepromImage, PutsFilledSlotsInOrderBehindTheirOffsetsModulo256) {
+TEST(EepromImage, PutsFilledSlotsInOrderAfterTheirOffsetsModulo256) {
   std::array<SlotCodes, PhraseSlotCount> phrases;
   phrases[0] = "\x80";
   phrases[2] = "";  // mnemonics without a code still take their place
@@ -96,7 +96,7 @@ TEST(PhraseNumber, IsDescribedByThePhraseThatIsPlayed) {
   EXPECT_EQ(DescribePhraseNumber(0, ""), "Phrase 0 is empty.");
   EXPECT_THAT(DescribePhraseNumber(20, "hello"), ::testing::EndsWith("number.\nPhrase 4: hello"));
   EXPECT_EQ(PlayedPhrase(-1), 15);
-  EXPECT_THAT(DescribePhraseNumber(std::nullopt, "hello"), ::testing::HasSubstr("no number"));
+  EXPECT_THAT(DescribePhraseNumber(std::nullopt, "hello"), ::testing::HasSubstr("not a number"));
 }
 
 }  // namespace

@@ -138,7 +138,7 @@ TEST_F(EventWindow, NamesTheRowsWhoseNumbersCannotBeSent) {
   Type("txtSCPNode", "99999999999");
   EXPECT_EQ(Written(), "");
   EXPECT_EQ(Told().join("|"),
-            "Nothing was sent, because this is no number that can be written:\r\n\r\n"
+            "Nothing was sent, because this is not a number that can be written:\r\n\r\n"
             "Input #0 - Goes High: \"2147483648\"\r\nInput #1 - Goes Low: \"abc\"\r\n"
             "Power up & Reset: \"-\"\r\nSCP Node: \"99999999999\"\r\n\r\n"
             "Type a phrase number from 0 to 15 (an SCP node from 0 to 7) and write again.");

@@ -43,8 +43,8 @@ void ChipWrite::Send(std::string_view zCommand) {
   SetControlsEnabled(true);
 }
 
-/// A send may be under way after its last byte, while a window that was opened meanwhile holds up
-/// its loop.
+/// A send whose last byte has gone out is still under way while a window that was opened meanwhile
+/// holds up its loop.
 bool ChipWrite::IsGoingOut() const {
   return sender_.IsUnderWay(ticket_) && !sender_.PendingOutput().empty();
 }

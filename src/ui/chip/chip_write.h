@@ -10,19 +10,20 @@
 namespace loquitor {
 
 /// The write of a window to the chip. It continues to its last byte when the window is closed.
-/// While it is going out, the controls that would cut it are disabled; also in a window of the same
-/// kind that is opened meanwhile. Belongs to its window.
+/// While it goes out, the controls that would cut it are disabled, also in a window of the same
+/// kind that is opened meanwhile.
 class ChipWrite : public QObject {
  public:
-  /// `zTicket` names the last write of this kind of window, and outlives the window. `zControls`:
-  /// the controls that would cut the write.
+  /// `zWindow` owns this object. `zSender` and `zTicket` outlive it; `zTicket` names the last write
+  /// of this kind of window. `zControls` are the controls that would cut the write.
   ChipWrite(QWidget* zWindow, CodeSender& zSender, SendTicket& zTicket, QWidgetList zControls);
 
-  /// For a window that is about to be shown: shows a write that an earlier window left going out,
-  /// until it ends. The pointer over the window is the hourglass until then.
+  /// To be called before the window is shown. If the write of an earlier window is still going out,
+  /// disables the controls and shows the hourglass over the window until that write ends.
   void ShowEarlierWrite();
 
-  /// Sends `zCommand`. Returns as CodeSender::SendCodesToOrvatone does.
+  /// Sends the command string `zCommand`, with the controls disabled. Returns when
+  /// CodeSender::SendCodesToOrvatone does.
   void Send(std::string_view zCommand);
 
  private:

@@ -5,7 +5,7 @@
 
 namespace loquitor {
 
-inline constexpr int DetuneLocation = 235;
+inline constexpr int DetuneLocation = 235;  ///< where the EEPROM holds the clock detune
 
 /// What to send for a detune text.
 struct DetuneRequest {
@@ -13,9 +13,9 @@ struct DetuneRequest {
   bool isRefused = false;  ///< the value is above 255 and must not be sent
 };
 
-/// Reads a detune text. After "&H" (capital H) at its start come hexadecimal digits, up to the
-/// first character that is none; no digits mean 0. A value above 255 is refused. Any other text
-/// gives no command and is not refused.
+/// Reads a detune text: "&H" (capital H) at its start, then hexadecimal digits up to the first
+/// other character. No digits mean 0. A value above 255 is refused. Any other text gives no command
+/// and is not refused.
 DetuneRequest ReadDetune(std::string_view zText);
 
 }  // namespace loquitor

@@ -14,20 +14,21 @@ inline constexpr int PhraseSlotCount = 16;            ///< phrases that the chip
 inline constexpr std::size_t MaxImageLength = 235;    ///< locations 0 to 234 hold the image
 inline constexpr std::size_t ReservedLocations = 21;  ///< 235 to 255: detune and configuration
 inline constexpr std::size_t EepromSize = 256;
-inline constexpr char EndOfPhrase = '\xff';  ///< ends a phrase; as start offset: the slot is empty
+inline constexpr char EndOfPhrase = '\xff';  ///< as a start offset it means an empty slot
 
 /// The code string of a slot, without the byte that ends it; nothing for an empty slot.
 using SlotCodes = std::optional<std::string>;
 
-/// The codes of a Say Data text for its slot. Nothing when it expands to the empty text. The empty
-/// string when it expands to mnemonics that give no code.
+/// The codes of a slot's Say Data. Nothing when it expands to the empty text. The empty string when
+/// it expands to mnemonics that give no code.
 SlotCodes TranslateSlot(const SayDataTranslator& zTranslator, std::string_view zSayData);
 
 /// The bytes for location 0 onward: 16 start offsets (position in the image modulo 256, 255 for an
 /// empty slot), then the codes of each filled slot in slot order, each followed by 255.
 std::string BuildEepromImage(const std::array<SlotCodes, PhraseSlotCount>& zSlots);
 
-/// The command string that writes `zImage` (at most MaxImageLength bytes) to location 0 onward.
+/// The command string that writes `zImage` (at most MaxImageLength bytes) to location 0 onward, and
+/// ends with the connection test.
 std::string EepromWriteString(std::string_view zImage);
 
 /// How many locations are in use when an image of `zImageLength` bytes is stored.

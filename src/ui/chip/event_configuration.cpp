@@ -79,7 +79,7 @@ int PlayedPhrase(int zNumber) {
 
 std::string DescribePhraseNumber(std::optional<int> zNumber, std::string_view zPhrase) {
   if (!zNumber) {
-    return "This is no number that can be written. Type one from 0 to 15.";
+    return "This is not a number that can be written. Type one from 0 to 15.";
   }
   const int played = PlayedPhrase(*zNumber);
   std::string text;

@@ -50,15 +50,14 @@ struct OptionRow {
   OptionFrame frame;
   const char* setting;  ///< the caption of the pair
   const char* caption;
-  const char* key;  ///< in section [EEPROM] of the settings
-  std::uint8_t
-      bit;  ///< set in the byte of the frame by the left one of a pair; 0 for the right one
+  const char* key;   ///< in section [EEPROM] of the settings
+  std::uint8_t bit;  ///< set in the frame's byte when it is chosen; 0 for the right one of a pair
 };
 
 inline constexpr int OptionCount = 16;
 
-/// The keys of the input styles are swapped: In7RC belongs to TTL Signal, In7TTL to RC Pulse. They
-/// stay so because stored files have them.
+/// The keys of the input styles are swapped: In7RC belongs to TTL Signal, In7TTL to RC Pulse.
+/// Stored files have them so.
 inline constexpr std::array<OptionRow, OptionCount> OptionRows{{
     {OptionFrame::InputStyle, "Input #7", "TTL Signal", "In7RC", 0x10},
     {OptionFrame::InputStyle, "Input #7", "RC Pulse", "In7TTL", 0},
@@ -78,7 +77,7 @@ inline constexpr std::array<OptionRow, OptionCount> OptionRows{{
     {OptionFrame::OutputStartup, "Output #2", "Off", "Out2Off", 0},
 }};
 
-/// What one event does. The power-up event has only playsPhrase and phrase.
+/// What one event does. The power-up event uses only playsPhrase and phrase.
 struct EventSetting {
   bool playsPhrase = false;
   bool clearsBuffer = false;
@@ -95,11 +94,11 @@ struct EventConfiguration {
   int scpNode = 0;  ///< any number; the chip gets its low three bits
 };
 
-/// The byte of an input's event: phrase in bits 0 to 3; bit 4 set unless it restarts from a wait,
-/// bit 5 set if it calls the phrase, bit 6 unless it clears the buffer, bit 7 unless it plays.
+/// The byte of an input's event. Bits 0 to 3 hold the phrase. Bit 4 is set unless it restarts from
+/// a wait, bit 5 if it calls the phrase, bit 6 unless it clears the buffer, bit 7 unless it plays.
 std::uint8_t EventByte(const EventSetting& zEvent);
 
-/// The byte of the power-up event: as EventByte, bits 4, 5 and 6 always set.
+/// The byte of the power-up event: as EventByte, with bits 4, 5 and 6 always set.
 std::uint8_t PowerUpByte(const EventSetting& zEvent);
 
 /// The byte for location 238: outputs controlled by the chip in bits 0 to 2, Auto Silence in bit 3,
@@ -114,15 +113,15 @@ std::uint8_t StartupNodeByte(const EventConfiguration& zConfiguration);
 /// command; the connection test.
 std::string EventConfigurationString(const EventConfiguration& zConfiguration);
 
-/// The phrase number of a box's text: the number at its start (text/number_text.h), rounded to the
-/// nearest with halves to even. Nothing when there is none or it is beyond 32 bits.
+/// The phrase number in a box's text: the number at its start (text/number_text.h), rounded to the
+/// nearest with halves to even. Nothing when there is no number or it does not fit 32 bits.
 std::optional<int> PhraseNumberOf(std::string_view zText);
 
 /// The phrase that the chip plays for a phrase number, 0 to 15.
 int PlayedPhrase(int zNumber);
 
-/// What a phrase number means, in a sentence for its box. `zNumber` is nothing for a text that
-/// cannot be sent. `zPhrase` is the Say Data of the phrase that is played.
+/// Tells the user what a phrase number means. `zNumber` is nothing for a text that cannot be sent.
+/// `zPhrase` is the Say Data of phrase PlayedPhrase(*zNumber).
 std::string DescribePhraseNumber(std::optional<int> zNumber, std::string_view zPhrase);
 
 }  // namespace loquitor

@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "ui/controls/check_box.h"
+#include "ui/controls/fitting.h"
 #include "ui/controls/text_box.h"
 
 namespace loquitor {
@@ -148,7 +149,7 @@ void AddEvents(Form& zForm) {
   }
 }
 
-/// The frame of an option, and the option that is the first one in it.
+/// A frame of options, and the index of the first option in it.
 struct OptionFrameControl {
   const char* name;
   int firstOption;
@@ -192,8 +193,7 @@ void AddOption(Form& zForm, int zIndex) {
 const TwipSize EventClientSize{OptionsLeft + OptionsWidth + Margin, Bottom + Margin};
 
 QString EventCaption(int zRow) {
-  return QString::fromUtf8(EventRows[static_cast<std::size_t>(zRow)].caption)
-      .replace(QStringLiteral("&&"), QStringLiteral("&"));
+  return ShownCaption(QString::fromUtf8(EventRows[static_cast<std::size_t>(zRow)].caption));
 }
 
 void BuildEventForm(Form& zForm) {

@@ -13,7 +13,7 @@ extern const TwipSize EventClientSize;
 /// Fills the event configuration window with its controls, in their tab order.
 void BuildEventForm(Form& zForm);
 
-/// The caption of an event's row as it is shown.
+/// The caption of event row `zRow` (0 to EventCount - 1) as it is shown.
 QString EventCaption(int zRow);
 
 }  // namespace loquitor

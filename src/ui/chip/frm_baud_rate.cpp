@@ -60,7 +60,7 @@ frmBaudRate::frmBaudRate(QWidget* zOwner, const EditorContext& zContext)
   connect(&rates_, &OptionGroup::Click, this, &frmBaudRate::Option1_Click);
   form_.OnClick("btnSendSyncChar", this, &frmBaudRate::btnSendSyncChar_Click);
   form_.OnClick("btnSendDetuneValue", this, &frmBaudRate::btnSendDetuneValue_Click);
-  form_.OnClick("btnDone", this, &frmBaudRate::btnDone_Click);
+  form_.OnClick("btnDone", this, &frmBaudRate::close);
 }
 
 void frmBaudRate::AddControls() {
@@ -117,10 +117,6 @@ void frmBaudRate::btnSendDetuneValue_Click() {
   }
   // Even an empty command opens the port and restarts its closing timer.
   context_.sender.SendCodesToOrvatone(request.command, false);
-}
-
-void frmBaudRate::btnDone_Click() {
-  close();
 }
 
 }  // namespace loquitor

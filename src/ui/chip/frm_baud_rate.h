@@ -10,7 +10,7 @@
 namespace loquitor {
 
 /// Chooses the speed of the line, sends the sync character by which the chip learns it, and writes
-/// the chip's clock detune value. A chosen speed is stored at once; the detune value nowhere.
+/// the chip's clock detune value. A chosen speed is stored at once. The detune value is not stored.
 class frmBaudRate : public ToolWindow {
   Q_OBJECT
  public:
@@ -24,7 +24,6 @@ class frmBaudRate : public ToolWindow {
   void Option1_Click(int zIndex);
   void btnSendSyncChar_Click();
   void btnSendDetuneValue_Click();
-  void btnDone_Click();
 
   bool IsDetuneConfirmed(const std::string& zText);
 

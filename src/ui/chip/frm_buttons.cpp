@@ -16,7 +16,7 @@ namespace {
 constexpr const char* Section = "EEPROM";
 constexpr QRgb UnusualNumber = qRgb(255, 232, 160);
 
-/// One kind of check box of the event rows: its control group, the stem of its settings keys and
+/// One kind of check box in the event rows: its control group, the stem of its settings keys and
 /// the field that it sets.
 struct EventCheck {
   const char* control;
@@ -58,7 +58,7 @@ frmButtons::frmButtons(QWidget* zOwner, const EditorContext& zContext)
   form_.OnClick("btnWrite", this, &frmButtons::btnWrite_Click);
   form_.OnClick("btnShutUp", this, &frmButtons::btnShutUp_Click);
   form_.Get<PushButton>("btnShutUp")->SetKey(Qt::Key_F8);
-  form_.OnClick("btnDone", this, &frmButtons::btnDone_Click);
+  form_.OnClick("btnDone", this, &frmButtons::close);
 }
 
 CheckBox* frmButtons::Check(const char* zName, int zRow) const {
@@ -164,9 +164,9 @@ std::vector<frmButtons::NumberBox> frmButtons::UnusableNumbers() const {
 }
 
 void frmButtons::Report(const std::vector<NumberBox>& zUnusable) {
-  constexpr int MostShown = 40;  // characters of a text that someone has pasted
+  constexpr int MostShown = 40;  // characters of a text; a pasted one may be long
   QString text =
-      QStringLiteral("Nothing was sent, because this is no number that can be written:\r\n");
+      QStringLiteral("Nothing was sent, because this is not a number that can be written:\r\n");
   for (const NumberBox& number : zUnusable) {
     text += QStringLiteral("\r\n%1: \"%2\"").arg(number.row, number.box->text().left(MostShown));
   }
@@ -192,10 +192,6 @@ void frmButtons::btnWrite_Click() {
 
 void frmButtons::btnShutUp_Click() {
   context_.sender.ShutUp();
-}
-
-void frmButtons::btnDone_Click() {
-  close();
 }
 
 void frmButtons::txtPhrase_Change(int zIndex) {

@@ -31,12 +31,12 @@ class frmButtons : public ToolWindow {
   /// A control whose state the settings file keeps, as text.
   struct StoredControl {
     std::string key;
-    const char* initial;  ///< when nothing is stored
+    const char* initial;  ///< the text when nothing is stored
     std::function<void(std::string_view)> show;
     std::function<std::string()> read;
   };
 
-  /// All of them, in the order of the settings file.
+  /// All stored controls, in the order of the settings file.
   std::vector<StoredControl> StoredControls() const;
   static StoredControl Stored(std::string zKey, const char* zInitial, CheckBox* zBox);
   static StoredControl Stored(std::string zKey, TextBox* zBox);
@@ -49,7 +49,7 @@ class frmButtons : public ToolWindow {
   EventSetting ReadEvent(int zRow) const;
   EventConfiguration ReadControls() const;
 
-  /// A number box and what its row is called.
+  /// A number box and the name of its row.
   struct NumberBox {
     QString row;
     TextBox* box;
@@ -62,7 +62,6 @@ class frmButtons : public ToolWindow {
 
   void btnWrite_Click();
   void btnShutUp_Click();
-  void btnDone_Click();
   void txtPhrase_Change(int zIndex);
   void txtPhrase_LostFocus(int zIndex);
 

@@ -53,7 +53,7 @@ std::string PhraseKey(int zIndex) {
   return "Phrase" + std::to_string(zIndex);
 }
 
-/// What is wrong with keeping `zPhrase` in the settings file; empty when nothing is.
+/// What the user loses when the settings file keeps `zPhrase`. Empty when nothing.
 QString StorageWarning(const SayDataTranslator& zTranslator, std::string_view zPhrase) {
   const std::string stored = ValueAfterSaving(zPhrase);
   if (stored.size() > ProfileFile::MaxSetting) {
@@ -72,7 +72,7 @@ QString StorageWarning(const SayDataTranslator& zTranslator, std::string_view zP
   return {};
 }
 
-/// The background of the usage label; none for the normal one.
+/// The background of the usage label. Invalid for the normal one.
 QColor ColourOf(UsageBand zBand) {
   switch (zBand) {
     case UsageBand::Overfull:
@@ -103,10 +103,10 @@ frmEEPROM::frmEEPROM(QWidget* zOwner, const EditorContext& zContext)
   form_.OnClick("btnWrite", this, &frmEEPROM::btnWrite_Click);
   form_.OnClick("btnShutUp", this, &frmEEPROM::btnShutUp_Click);
   form_.Get<PushButton>("btnShutUp")->SetKey(Qt::Key_F8);
-  form_.OnClick("btnDone", this, &frmEEPROM::btnDone_Click);
+  form_.OnClick("btnDone", this, &frmEEPROM::close);
 }
 
-/// The controls whose use would cut a write and leave the chip half written.
+/// The controls that would cut a write and leave the chip half written.
 QWidgetList frmEEPROM::WriteCutters() const {
   QWidgetList controls{form_.Get<QWidget>("btnWrite")};
   for (std::size_t slot = 0; slot < phrases_.size(); ++slot) {
@@ -185,16 +185,12 @@ void frmEEPROM::btnShutUp_Click() {
   context_.sender.ShutUp();
 }
 
-void frmEEPROM::btnDone_Click() {
-  close();
-}
-
 void frmEEPROM::Phrase_Click(int zIndex) {
   context_.shared.WordToMove.clear();
   context_.shared.PhraseToMove = phrases_[static_cast<std::size_t>(zIndex)]->Phrase();
   frmPhrase editor(this, context_);
-  // When it closes, not after ShowModal, which may return much later while a send of the editor
-  // waits for the line; by then another phrase may have been edited.
+  // Not after ShowModal: while a send of the editor waits for the line, ShowModal may return long
+  // after the editor has been closed, when another phrase has been edited.
   connect(&editor, &frmPhrase::Closed, this, [this, zIndex] {
     ShowPhrase(zIndex, context_.shared.PhraseToMove);
     ReportUsed();

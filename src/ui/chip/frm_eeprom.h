@@ -14,9 +14,9 @@
 
 namespace loquitor {
 
-/// The editor of the sixteen phrases that the chip stores: shows them, has each edited in the
-/// phrase editor, plays what the chip holds, shows how much of the EEPROM they take and writes
-/// them. The labels hold the phrases; the settings file keeps them between runs.
+/// The editor of the sixteen phrases that the chip stores. It shows them, opens each in the phrase
+/// editor, plays what the chip holds, shows how much of the EEPROM they take and writes them. The
+/// labels hold the phrases. The settings file keeps them between runs.
 class frmEEPROM : public ToolWindow {
   Q_OBJECT
  public:
@@ -25,8 +25,8 @@ class frmEEPROM : public ToolWindow {
   /// The bytes for location 0 onward that the present phrases make with the present dictionary.
   std::string GetEEPROMPhraseString() const;
 
-  /// Shows how many locations that takes, on red when there are not so many, on yellow when few are
-  /// left.
+  /// Shows how many of the chip's locations are in use with these bytes: on yellow when few are
+  /// left, on red when there are not enough.
   void ReportUsed();
 
  protected:
@@ -42,7 +42,6 @@ class frmEEPROM : public ToolWindow {
 
   void btnWrite_Click();
   void btnShutUp_Click();
-  void btnDone_Click();
   void Phrase_Click(int zIndex);
   void lbs_Click(int zIndex);
 

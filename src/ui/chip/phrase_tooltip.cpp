@@ -3,7 +3,7 @@
 namespace loquitor {
 namespace {
 
-/// Qt moves a tooltip that is higher than the screen so that its beginning is lost.
+/// `zText`, cut to the height of a screen. Qt would hide the beginning of a higher tooltip.
 QString FittingText(const QString& zText) {
   constexpr int MostLines = 25;
   constexpr int MostCharacters = 2000;  // about as many lines of a tooltip

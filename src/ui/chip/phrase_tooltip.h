@@ -4,7 +4,7 @@
 
 namespace loquitor {
 
-/// `zText` as a tooltip that Qt breaks into lines: rich text that shows every character as it is.
+/// `zText` as rich text for a tooltip. Qt breaks it into lines and shows every character as it is.
 /// A text that is too long for a screen is cut, with an ellipsis.
 QString PhraseTooltip(const QString& zText);
 

@@ -12,7 +12,7 @@ namespace loquitor {
 namespace {
 
 constexpr int SidePadding = 6;               ///< pixels between the edge and the text
-constexpr int MostPaintedCharacters = 1000;  ///< no row is wider; keeps long texts quick to paint
+constexpr int MostPaintedCharacters = 1000;  ///< more than a row can show; keeps painting fast
 constexpr QRgb WarningBackground = qRgb(255, 232, 160);
 constexpr QChar LineBreakArrow(0x21b5);
 constexpr QChar WarningSign(0x26a0);
@@ -66,7 +66,7 @@ void PhraseLabel::SetPhrase(std::string_view zPhrase, const QString& zWarning) {
   const QString phrase = ToQString(zPhrase);
   isMarked_ = !zWarning.isEmpty();
   setText(phrase);
-  setShortcut({});  // an & of the phrase is none
+  setShortcut({});  // setText makes one of an & in the phrase
   setAccessibleName(QStringLiteral("Phrase %1: ").arg(slot_) +
                     (phrase.isEmpty() ? QStringLiteral("empty") : phrase));
   // Never empty: a screen reader would then read the tooltip with its HTML.

@@ -20,9 +20,9 @@ class SlotLabel : public ClickLabel {
   void Draw(const QString& zText, Qt::Alignment zAlignment, const QColor& zColour);
 };
 
-/// The row of one stored phrase. Its text is the whole Say Data. It is drawn as one line that is
-/// elided where the row ends, with arrows for line breaks; an empty row is drawn with the words
-/// that say how to fill it. The tooltip is the text, cut when it would not fit the screen.
+/// The row of one stored phrase. Its text is the whole Say Data. It is drawn as one line, elided
+/// where the row ends, with arrows for line breaks. An empty row says how to fill it. The tooltip
+/// is the text, cut when it would not fit the screen.
 class PhraseLabel : public SlotLabel {
   Q_OBJECT
  public:
@@ -32,8 +32,8 @@ class PhraseLabel : public SlotLabel {
   /// The Say Data as Windows-1252 bytes.
   std::string Phrase() const;
 
-  /// Shows `zPhrase`. `zWarning`: when not empty, the row is marked, and its tooltip begins with
-  /// this sentence.
+  /// Shows `zPhrase` (Windows-1252 bytes). If `zWarning` is not empty, the row is marked, and its
+  /// tooltip begins with the warning.
   void SetPhrase(std::string_view zPhrase, const QString& zWarning);
 
  protected:
