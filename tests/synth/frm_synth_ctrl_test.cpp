@@ -184,7 +184,7 @@ TEST_F(OpenSynthTest, ADragThatBringsTheFocusToAnAdjustBarStartsAtTheNewBases) {
     bar->setValue(150);
     EXPECT_EQ(Values(tones)[0], 30);
     Box("txtSound")->setFocus();
-    // 150 of 200: in the right half of the bar, where the thumb is no more once it is at 100.
+    // 150 of 200 is in the right half of the bar. At 100 the thumb is not there any more.
     const QPoint thumb(bar->width() * 2 / 3, bar->height() / 2);
     mouse.Press(bar, thumb);
     EXPECT_EQ(bar->value(), 100) << adjust;

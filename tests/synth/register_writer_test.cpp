@@ -21,7 +21,7 @@ TEST_F(SynthTest, AWriterThatGivesUpWaitsForNoByteInThePortsQueue) {
   EXPECT_EQ(Sent(), Writes({{1, 5}}));
 }
 
-/// The sends of windows closed since may still wait, as deep in each other as sends go.
+/// The sends of closed windows may still wait, nested as deep as sends can be.
 TEST_F(SynthTest, AWriterWhoseBytesAreLeftToAnotherSendWritesEachRegisterOnceMore) {
   TurnHost turns;
   CodeSender deep(port, turns, settings);

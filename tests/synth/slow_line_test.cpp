@@ -10,7 +10,7 @@
 namespace loquitor::testing {
 namespace {
 
-/// A user whose mouse moves every 8 milliseconds, whatever the line is busy with.
+/// A user whose mouse moves every 8 milliseconds, also while the line is busy.
 class SlowLineHost : public ScriptedHost {
  public:
   explicit SlowLineHost(SimulatedLine& zLine) : line_(zLine) {}
@@ -77,7 +77,7 @@ class SlowSynthTest : public SynthTest {
                             slowSender, prompts,    shared};
 };
 
-TEST_F(SlowSynthTest, WhateverIsMovedMeanwhileTheChipEndsWithWhatTheWindowShows) {
+TEST_F(SlowSynthTest, TheChipEndsWithWhatTheWindowShowsWhateverTheUserMoves) {
   GivenSounds("Loud", LoudSound);
   const QList<ScrollBar*> bars = window->findChildren<ScrollBar*>();
   const QList<TextBox*> boxes = Get("Frame1")->findChildren<TextBox*>();

@@ -23,8 +23,8 @@ constexpr QColor OverLimit(255, 0, 0);
 constexpr QColor NearLimit(255, 255, 0);
 constexpr QColor WrongNumber(255, 176, 176);
 
-// At 2400 baud the longest farewell takes 0.7 seconds.
-constexpr int LongestFarewell = 3000;  // milliseconds
+// At 2400 baud the last writes take 0.7 seconds at most.
+constexpr int LongestClosing = 3000;  // milliseconds
 
 QColor ColourOf(synth::VolumeBand zBand, const QColor& zButtonFace) {
   switch (zBand) {
@@ -38,7 +38,7 @@ QColor ColourOf(synth::VolumeBand zBand, const QColor& zButtonFace) {
   return zButtonFace;
 }
 
-/// Why the volume boxes have that colour; empty within the limit.
+/// Why the volume boxes have the colour of `zBand`. Empty within the limit.
 QString ReasonOf(synth::VolumeBand zBand, int zSum) {
   return zBand == synth::VolumeBand::Within ? QString()
                                             : QString("The three tone volumes add up to %1 of %2.")
@@ -137,8 +137,8 @@ void FrmSynthCtrl::changeEvent(QEvent* zEvent) {
 }
 
 void FrmSynthCtrl::Load() {
-  // Sent once the window is shown: if the line is held back the sends wait, and the user needs the
-  // window meanwhile.
+  // Sent when the window is shown. While the line is held back the sends wait, and the user needs
+  // the window meanwhile.
   QTimer::singleShot(0, this, [this] {
     if (!IsUnloaded()) {
       SynthShutUp();
@@ -147,17 +147,17 @@ void FrmSynthCtrl::Load() {
 }
 
 void FrmSynthCtrl::Unload() {
-  // The line may be held back for ever.
-  QTimer::singleShot(LongestFarewell, this, [this] {
+  // The line may be held back forever.
+  QTimer::singleShot(LongestClosing, this, [this] {
     writer_.GiveUp();
-    farewell_.reset();
+    closingHold_.reset();
   });
-  farewell_.emplace(context_.sender);
+  closingHold_.emplace(context_.sender);
   writer_.StopSending();
   SynthShutUp();
   SendEnvolopeControlToOrvatone(0);
   if (!writer_.IsSending()) {
-    farewell_.reset();
+    closingHold_.reset();
   }
 }
 
@@ -179,9 +179,9 @@ void FrmSynthCtrl::scEnvolopeFreq_Change() {
 }
 
 void FrmSynthCtrl::ValueBox_LostFocus(int zRegister) {
-  // The control that takes the focus is told, and gets the press that moved the focus, only after
-  // this has returned. The write lets events run, so it has to wait: a release would come before
-  // its press, and an adjust bar would move before it has taken its bases.
+  // Only after this has returned, the control that takes the focus learns of it and gets the press
+  // that moved it there. The write lets events run, so it has to wait. Otherwise a release would
+  // come before its press, and an adjust bar would move before it has taken its bases.
   writer_.Postpone([&] { Control(zRegister).TakeText(); });
   QTimer::singleShot(0, this, [this] { writer_.SendPostponedWhenIdle(); });
 }
@@ -306,7 +306,7 @@ void FrmSynthCtrl::SendEnvolopeControlToOrvatone(std::uint8_t zControlValue) {
 }
 
 std::uint8_t FrmSynthCtrl::GetEnvolopeCtrlValue() const {
-  // None is chosen only until the opening has chosen the first one.
+  // None is chosen only before the first SynthShutUp.
   const int type = std::max(envelopeTypes_->Chosen(), 0);
   return EnvelopeControlByte(static_cast<synth::EnvelopeType>(type),
                              form_.Get<CheckBox>("Check2(0)")->Value() != 0,

@@ -21,10 +21,11 @@ class SoundNameBox;
 
 /// The window in which the synthesizer is played by hand. Every change of a value is sent to the
 /// chip at once, as one register write. Opening and closing the window leave the chip reset and
-/// quiet. While the last writes go out after closing, no other window takes user input.
+/// quiet. While the last writes go out after closing, for 3 seconds at most, no other window takes
+/// user input.
 ///
 /// Events run during every write. A handler that changes several controls sets all of them before
-/// the first write, so that a handler that runs in those events finds none of them half done.
+/// the first write, so that the handlers that run in those events see the whole change.
 class FrmSynthCtrl : public ToolWindow {
   Q_OBJECT
  public:
@@ -85,7 +86,7 @@ class FrmSynthCtrl : public ToolWindow {
   SoundNameBox* soundName_ = nullptr;
   std::array<std::int32_t, synth::ToneCount + 1> FreqAdjBase_{};  // by oscillator
   std::array<std::int16_t, synth::ToneCount + 1> VolAdjBase_{};
-  std::optional<UserInputHold> farewell_;  // from closing until the last byte has gone out
+  std::optional<UserInputHold> closingHold_;  // from closing until the last byte has gone out
 };
 
 }  // namespace loquitor

@@ -37,7 +37,7 @@ void RegisterWriter::Postpone(const std::function<void()>& zChange) {
 
 void RegisterWriter::SendPostponedWhenIdle() {
   if (depth_ == 0) {
-    SendPostponed();  // otherwise the sends under way are followed by these
+    SendPostponed();  // otherwise the sends under way go on with these
   }
 }
 
@@ -84,7 +84,7 @@ void RegisterWriter::Send(const Command& zCommand) {
 }
 
 void RegisterWriter::WriteWhatWasCut() {
-  bool isLeftToOther = false;  // a send further out has the bytes, and keeps those of a turn whole
+  bool isLeftToOther = false;  // an outer send has taken the bytes over and writes them whole
   while (cut_.any() && !isLeftToOther && !sender_.HasFailed()) {
     for (int number = 0; number < synth::RegisterCount; ++number) {
       if ((cut_ & Only(number)).any()) {

@@ -15,10 +15,10 @@ namespace loquitor {
 /// Writes registers of the synthesizer through the sender, each write as a send of its own.
 ///
 /// A write that starts in the events of another one cuts that one short. If both are for the same
-/// register, the newer value is the one that counts. If they are for different registers, the chip
-/// would keep an old value that the window no longer shows. So when the last of these sends has
-/// ended, each register that was cut and not written since is written again, with the value that
-/// the window shows then.
+/// register, only the newer value counts. If they are for different registers, the chip would keep
+/// an old value that the window no longer shows. So when the last of these sends has ended, each
+/// register whose write was cut is written again unless it has been written since, with the value
+/// that the window shows then.
 ///
 /// Events run during every write. A change of several controls is therefore made inside Postpone:
 /// all controls are set before the first event runs.
@@ -28,17 +28,19 @@ class RegisterWriter {
   /// writer.
   RegisterWriter(CodeSender& zSender, std::function<int(int)> zShownValue);
 
-  /// Writes `zValue` to register `zNumber` (0 to 15), after the sends that are postponed.
+  /// Writes `zValue` to register `zNumber` (0 to 15). Sends that are postponed go out first. Inside
+  /// Postpone the write is postponed.
   void Write(int zNumber, int zValue);
 
-  /// Sends the reset string, after the sends that are postponed.
+  /// Sends the reset string, in the same order as Write.
   void SendReset();
 
   /// Runs `zChange`, which must not let events run, and postpones what it writes. Drops writes to
   /// the same registers that were postponed before.
   void Postpone(const std::function<void()>& zChange);
 
-  /// Sends what is postponed, in order. Cuts a write under way. A reset under way goes out first.
+  /// Sends what is postponed, in order. This cuts a write under way, but not a reset, which goes
+  /// out first.
   void SendPostponed();
 
   /// As SendPostponed, after the sends of this writer that are under way.
@@ -56,14 +58,14 @@ class RegisterWriter {
  private:
   using Registers = std::bitset<synth::RegisterCount>;
 
+  /// What one send carries.
   struct Command {
     Registers target;  ///< the one register that it writes; none for the reset
     std::string bytes;
   };
-
-  static Registers Only(int zNumber) { return Registers(1ULL << zNumber); }
   using Commands = std::deque<Command>;
 
+  static Registers Only(int zNumber) { return Registers(1ULL << zNumber); }
   static Command WriteOf(int zNumber, int zValue) {
     return {Only(zNumber), RegisterWrite(zNumber, zValue)};
   }

@@ -53,7 +53,7 @@ std::string_view FaultOfSoundName(std::string_view zName) {
     return "The name of a sound cannot begin or end with a blank. Remove the blank and try again.";
   }
   if (UnstorableInSection(zName) || std::any_of(zName.begin(), zName.end(), IsControl)) {
-    return "The name of a sound cannot hold a closing bracket ( ] ) or a control character. "
+    return "The name of a sound cannot contain a closing bracket ( ] ) or a control character. "
            "Choose another name and try again.";
   }
   return {};

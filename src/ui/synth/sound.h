@@ -18,12 +18,12 @@ struct Sound {
 /// nearest one in range.
 Sound ReadSound(const SoundLibrary& zLibrary, std::string_view zName);
 
-/// Stores the sound in one change of the file. A file that cannot be written is unchanged, and
-/// there is no message.
+/// Stores the sound in one change of the file. When the file cannot be written it stays as it is,
+/// and there is no message.
 void SaveSound(const SoundLibrary& zLibrary, std::string_view zName, const Sound& zSound);
 
-/// Why `zName` cannot be the name of a sound, as a message to the user; empty when it can. A name
-/// is the name of a section of the sound library: it is not empty, has no blanks at its ends, no
+/// Why `zName` cannot be the name of a sound, as a message to the user. Empty when it can. A name
+/// is the name of a section of the sound library: it is not empty and has no blanks at its ends, no
 /// closing bracket and no control character.
 std::string_view FaultOfSoundName(std::string_view zName);
 

@@ -45,7 +45,7 @@ QString SoundNameBox::FaultOfName() const {
     return {};
   }
   const std::string_view fault = FaultOfSoundName(box_->Text());
-  return fault.empty() ? "No sound has this name yet. Save makes it. Load would only set all "
+  return fault.empty() ? "No sound has this name yet. Save creates it. Load would only set all "
                          "frequencies and volumes to 0."
                        : ToQString(fault);
 }
@@ -96,7 +96,7 @@ bool SoundNameBox::ListTakes(QKeyEvent* zEvent) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Escape:
-      list_->hide();  // the box shows the choice already
+      list_->hide();  // the box already shows the choice
       return true;
     default:
       return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 #include <functional>
 
 class QAbstractItemView;
@@ -14,19 +15,19 @@ class TextBox;
 /// Helps to type the name of a sound into a text box. Any name can be typed.
 ///
 /// The names that begin with the text are listed below the box while the user types, and when Down
-/// is pressed. The list takes neither the focus nor the mouse: a click on a button of
-/// the window presses that button although the list is open. Up and Down choose in it, Enter takes
-/// the choice and Escape closes the list.
+/// is pressed. The list takes neither the focus nor clicks outside it: a click on a button of the
+/// window presses that button although the list is open. Up, Down, Page Up and Page Down choose in
+/// it and show the choice in the box. Enter and Escape close it.
 ///
-/// A name that no sound has, or that no sound can have, is marked by the colour of the box. The
-/// tooltip says why.
+/// The colour of the box marks a name that no sound has, or that no sound can have. The tooltip
+/// says why.
 class SoundNameBox : public QObject {
   Q_OBJECT
  public:
-  /// `zNames` returns the names that there are now. The box owns this object.
+  /// `zNames` returns the present names of the sounds. The box owns this object.
   SoundNameBox(TextBox* zBox, std::function<QStringList()> zNames);
 
-  /// Updates the mark of the name. To be called after the sounds have changed.
+  /// Marks the name, or removes its mark. To be called after the sounds have changed.
   void UpdateMark();
 
   bool eventFilter(QObject* zWatched, QEvent* zEvent) override;

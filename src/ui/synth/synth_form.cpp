@@ -11,7 +11,7 @@ namespace {
 
 using enum ControlKind;
 
-/// Away from every quiet value, so that opening the window writes them all.
+/// Different from every quiet value, so that opening the window writes them all.
 constexpr int StartValue = 1;
 
 constexpr BarRange MasterVolume{synth::MaxMasterVolume, 4, StartValue};
@@ -84,7 +84,7 @@ constexpr OscillatorPlace OscillatorPlaces[synth::OscillatorCount] = {
     {"FrameOsc(6)", 660}, {"FrameOsc(6)", 1680},
 };
 
-/// The one description of an oscillator, 1 to 5.
+/// Adds the controls of oscillator `zIndex`, 1 to 5.
 void AddOscillator(Form& zForm, int zIndex) {
   const OscillatorPlace& place = OscillatorPlaces[zIndex - 1];
   const std::string group = "FrameOsc(" + std::to_string(zIndex) + ")";
@@ -104,7 +104,7 @@ void AddOscillator(Form& zForm, int zIndex) {
   zForm.Add(rows);
 }
 
-/// The value boxes, or the bars, in the order in which both are reached by Tab.
+/// The value boxes (prefix "txt") or the bars ("sc") in tab order, which is the same for both.
 std::vector<QString> InTabOrder(const QString& zPrefix, const QString& zEnvelopeFrequency) {
   std::vector<QString> names;
   const auto add = [&](const char* zKind, int zIndex) {

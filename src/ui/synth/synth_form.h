@@ -4,6 +4,7 @@
 
 namespace loquitor {
 
+/// The client area of the synth control window.
 inline constexpr TwipSize SynthClientSize{9375, 7860};
 
 /// Fills the synth control window with its controls, in their tab order.

@@ -7,8 +7,8 @@
 namespace loquitor {
 
 /// The synthesizer as the program knows it: five oscillators (1 to 3 make tones, 4 and 5 noise), an
-/// envelope, a distortion of the noise and a master volume, each a numbered register of the chip.
-/// Registers are written with RegisterWrite (line/scp.h); nothing is read back.
+/// envelope, a distortion of the noise and a master volume. Their values are numbered registers of
+/// the chip, which are written with RegisterWrite (line/scp.h). Nothing is read back.
 namespace synth {
 inline constexpr int OscillatorCount = 5;
 inline constexpr int ToneCount = 3;
@@ -26,7 +26,7 @@ inline constexpr int EnvelopeControlRegister = 8;
 constexpr int FrequencyRegister(int zOscillator) {
   return zOscillator;
 }
-/// The register of a level: 0 is distortion, 1 master volume.
+/// The register of a level: 0 is the distortion, 1 the master volume.
 constexpr int LevelRegister(int zLevel) {
   return zLevel + 6;
 }
@@ -79,18 +79,18 @@ synth::VolumeBand BandOfToneVolumes(int zSum);
 /// The smaller of the two: `zValue`, but no more than `zMax`.
 std::int16_t max(std::int16_t zValue, std::int16_t zMax);
 
-/// The multiple of `zBase` (above 0) that is nearest to `zFrequency` (0 to 3999), the upper of two
-/// equally near ones, as a whole number (halves to the even neighbour). Where that is above 3999,
-/// the highest multiple that is not.
+/// The multiple of `zBase` (above 0) that is nearest to `zFrequency` (0 to 3999), as a whole number
+/// (halves to the even neighbour). Of two that are equally near, the upper one. When that is above
+/// 3999, the highest multiple that is not.
 int HarmonisedFrequency(int zFrequency, double zBase);
 
-/// `zPercent` (0 to 200) of a base, as a whole number (halves to the even neighbour), at most the
-/// highest frequency or volume.
+/// `zPercent` (0 to 200) per cent of a base, which is a frequency or a volume. A whole number
+/// (halves to the even neighbour), at most the highest frequency or volume.
 int AdjustedFrequency(std::int32_t zBase, int zPercent);
 int AdjustedVolume(std::int16_t zBase, int zPercent);
 
-/// The number at the start of `zText`, brought into the range 0 to `zMaximum` and then made whole
-/// (halves to the even neighbour). 0 when there is no number.
+/// The number at the start of `zText` (text/number_text.h), brought into the range 0 to `zMaximum`
+/// and then made whole (halves to the even neighbour). 0 when there is no number.
 int WholeNumberInRange(std::string_view zText, int zMaximum);
 
 }  // namespace loquitor
