@@ -13,7 +13,7 @@
 namespace loquitor::testing {
 namespace {
 
-/// Takes longer for its first words than the editor works without showing its progress.
+/// Is so slow at its first words that the editor shows its progress.
 class SlowPhones : public ScriptedPhones {
  public:
   std::vector<WordPhones> PhonesOf(std::span<const std::string> zWords) override {

@@ -52,7 +52,7 @@ class DictionaryEditor : public ToolWindowTest {
 
 constexpr const char* Unsorted = "[words]\r\nCat=\\KE \\AX \\TT\r\nant=\\AY\r\nbee=";
 
-TEST_F(DictionaryEditor, ShowsTheFileAndStandsAsLaidOut) {
+TEST_F(DictionaryEditor, ShowsTheFileInItsLayout) {
   OpenOn("[words]\r\na=\\AY\rb=\xA0\n\nc");
   EXPECT_EQ(Box().Text(), "[words]\na=\\AY\nb=\xA0\n\nc");
   EXPECT_EQ(Selection(), std::make_pair(0, std::string()));
@@ -125,7 +125,7 @@ TEST_F(DictionaryEditor, AMissingDictionaryIsCreatedBySavingOnly) {
   EXPECT_EQ(Told().size(), 1);
 }
 
-TEST_F(DictionaryEditor, FindStartsBehindTheSelectionAndWrapsAround) {
+TEST_F(DictionaryEditor, FindStartsAfterTheSelectionAndWrapsAround) {
   OpenOn("[words]\r\nCat=1\r\ndog=2\r\nconCAT=3\r\n");
   Click("btnFind");  // cancelled: F3 asks again
   QTest::keyClick(window.get(), Qt::Key_F3);
@@ -169,7 +169,7 @@ TEST_F(DictionaryEditor, AMatchIsScrolledIntoView) {
   }
 }
 
-TEST_F(DictionaryEditor, ImportAddsTheWordsThatTheFileLacksBehindTheText) {
+TEST_F(DictionaryEditor, ImportAddsTheWordsThatTheFileLacksAfterTheText) {
   OpenOn("[words]\r\ncat=1\r\nempty=\r\ntail=2");
   WriteBytes(WordList(), "Cat dog; EMPTY, don't\r\nDog");
   Box().Select(0, 0);
@@ -187,7 +187,7 @@ TEST_F(DictionaryEditor, ImportAddsTheWordsThatTheFileLacksBehindTheText) {
   EXPECT_EQ(Told(), QStringList({"4 Words added", "4 Words added", "0 Words added"}));
 }
 
-TEST_F(DictionaryEditor, AMissingWordListIsCreatedEmptyAndOneThatIsNoFileNeverWaitedFor) {
+TEST_F(DictionaryEditor, AMissingWordListIsCreatedEmptyAndAPipeIsNotWaitedFor) {
   OpenOn(Unsorted);
   Click("btnReadTerms");
   EXPECT_TRUE(std::filesystem::is_empty(WordList()));
@@ -303,7 +303,7 @@ TEST_F(DictionaryEditor, SaveChangesShowsWhetherSomethingIsUnsaved) {
   EXPECT_TRUE(isUnsaved());
 }
 
-TEST_F(DictionaryEditor, WhatCannotBeReadOrDrawnIsNotReplacedUnasked) {
+TEST_F(DictionaryEditor, AsksBeforeItReplacesAFileThatCannotBeReadOrDrawn) {
   const std::string longLine = "\r\n" + std::string(EditableLimits::LineLength, '\0');
   OpenOn(longLine);
   EXPECT_EQ(Told(), QStringList());

@@ -7,7 +7,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
-#include <array>
 #include <filesystem>
 #include <optional>
 #include <utility>
@@ -27,8 +26,8 @@ namespace {
 
 constexpr TwipSize ClientSize{10350, 7500};
 
-constexpr std::array<ControlRow, 7> Rows{{
-    {ControlKind::Button, "btnReadTerms", "", "Import New Words", {9060, 210, 1245, 615}},
+constexpr ControlRow Rows[] = {
+    ButtonRow("btnReadTerms", "", "Import New Words", {9060, 210, 1245, 615}),
     {ControlKind::TextArea,
      "txtDictionary",
      "",
@@ -36,12 +35,12 @@ constexpr std::array<ControlRow, 7> Rows{{
      {60, 60, 8925, 7395},
      "",
      "Text of the dictionary"},
-    {ControlKind::Button, "btnSaveChanges", "", "Save Changes", {9060, 6000, 1245, 435}},
-    {ControlKind::Button, "btnSort", "", "Save && Sort", {9060, 5460, 1245, 435}},
-    {ControlKind::Button, "btnDone", "", "Done", {9060, 6960, 1245, 435}},
-    {ControlKind::Button, "btnFind", "", "Find", {9060, 3540, 1245, 435}},
-    {ControlKind::Button, "btnEraseBlank", "", "Erase Blank Entries", {9060, 930, 1245, 585}},
-}};
+    ButtonRow("btnSaveChanges", "", "Save Changes", {9060, 6000, 1245, 435}),
+    ButtonRow("btnSort", "", "Save && Sort", {9060, 5460, 1245, 435}),
+    ButtonRow("btnDone", "", "Done", {9060, 6960, 1245, 435}),
+    ButtonRow("btnFind", "", "Find", {9060, 3540, 1245, 435}),
+    ButtonRow("btnEraseBlank", "", "Erase Blank Entries", {9060, 930, 1245, 585}),
+};
 
 constexpr const char* WordListFile = "ImportWords.txt";
 constexpr std::string_view NoEntry = "NoEntry";
@@ -79,50 +78,43 @@ frmDictEdit::frmDictEdit(QWidget* zOwner, const EditorContext& zContext)
   btnSaveChanges_ = form_.Get<QPushButton>("btnSaveChanges");
   ConnectControls();
   AddActions();
+  AddUndoActions();
 }
 
 void frmDictEdit::ConnectControls() {
   form_.OnClick("btnReadTerms", this, &frmDictEdit::btnReadTerms_Click);
   form_.OnClick("btnSaveChanges", this, &frmDictEdit::btnSaveChanges_Click);
   form_.OnClick("btnSort", this, &frmDictEdit::btnSort_Click);
-  form_.OnClick("btnDone", this, &frmDictEdit::btnDone_Click);
+  form_.OnClick("btnDone", this, &frmDictEdit::close);
   form_.OnClick("btnFind", this, &frmDictEdit::btnFind_Click);
   form_.OnClick("btnEraseBlank", this, &frmDictEdit::btnEraseBlank_Click);
   connect(txtDictionary_, &QPlainTextEdit::textChanged, this, [this] { ShowWhetherSaved(false); });
 }
 
-/// An action of the window, whichever control has the focus.
-QAction* frmDictEdit::AddAction(const QString& zText, const QList<QKeySequence>& zKeys) {
-  auto* const action = new QAction(zText, this);
-  action->setShortcuts(zKeys);
-  addAction(action);
-  return action;
+/// These keys act whichever control of the window has the focus.
+void frmDictEdit::AddActions() {
+  QAction* const find = addAction("&Find...", this, &frmDictEdit::btnFind_Click);
+  find->setShortcuts(QKeySequence::Find);
+  QAction* const findNext = addAction("Find &Next", Qt::Key_F3, this, &frmDictEdit::FindNext);
+  QAction* const save = addAction("&Save Changes", this, &frmDictEdit::btnSaveChanges_Click);
+  save->setShortcuts(QKeySequence::Save);
+  const bool canRead = context_.english != nullptr;
+  QAction* const fill = addAction(
+      canRead ? "Fill &Blank Entries" : "Fill &Blank Entries (this build cannot read English)",
+      this, &frmDictEdit::FillBlank);
+  fill->setEnabled(canRead);
+  txtDictionary_->addActions({find, findNext, save, fill});
 }
 
-void frmDictEdit::AddActions() {
-  const auto keys = [](QKeySequence::StandardKey zKey) { return QKeySequence::keyBindings(zKey); };
-  QAction* const find = AddAction("&Find...", keys(QKeySequence::Find));
-  connect(find, &QAction::triggered, this, &frmDictEdit::btnFind_Click);
-  QAction* const findNext = AddAction("Find &Next", {Qt::Key_F3});
-  connect(findNext, &QAction::triggered, this, &frmDictEdit::FindNext);
-  QAction* const save = AddAction("&Save Changes", keys(QKeySequence::Save));
-  connect(save, &QAction::triggered, this, &frmDictEdit::btnSaveChanges_Click);
-  const bool canRead = context_.english != nullptr;
-  QAction* const fill = AddAction(
-      canRead ? "Fill &Blank Entries" : "Fill &Blank Entries (this build cannot read English)", {});
-  fill->setEnabled(canRead);
-  connect(fill, &QAction::triggered, this, &frmDictEdit::FillBlank);
-  txtDictionary_->addActions({find, findNext, save, fill});
-
-  // The text itself takes these keys only while it has the focus.
-  QAction* const undo = AddAction("Undo", keys(QKeySequence::Undo));
-  connect(undo, &QAction::triggered, txtDictionary_, &QPlainTextEdit::undo);
-  QList<QKeySequence> redoKeys = keys(QKeySequence::Redo);
+/// The text itself takes these keys only while it has the focus.
+void frmDictEdit::AddUndoActions() {
+  QAction* const undo = addAction("Undo", txtDictionary_, &QPlainTextEdit::undo);
+  undo->setShortcuts(QKeySequence::Undo);
+  QList<QKeySequence> redoKeys = QKeySequence::keyBindings(QKeySequence::Redo);
   if (const QKeySequence other(Qt::CTRL | Qt::Key_Y); !redoKeys.contains(other)) {
     redoKeys.append(other);
   }
-  QAction* const redo = AddAction("Redo", redoKeys);
-  connect(redo, &QAction::triggered, txtDictionary_, &QPlainTextEdit::redo);
+  addAction("Redo", txtDictionary_, &QPlainTextEdit::redo)->setShortcuts(redoKeys);
 }
 
 void frmDictEdit::Load() {
@@ -187,11 +179,7 @@ void frmDictEdit::btnEraseBlank_Click() {
   SaveAndRewrite(form_.Get<QPushButton>("btnEraseBlank"), CleanedText);
 }
 
-void frmDictEdit::btnDone_Click() {
-  close();
-}
-
-/// Saves, and then shows what `zRewrite` makes of the bytes that are now in the file.
+/// Saves, then shows what `zRewrite` makes of the file.
 void frmDictEdit::SaveAndRewrite(QWidget* zButton, std::string (*zRewrite)(std::string)) {
   RunBusy(this, zButton, [&] {
     if (SaveText()) {
@@ -200,7 +188,7 @@ void frmDictEdit::SaveAndRewrite(QWidget* zButton, std::string (*zRewrite)(std::
   });
 }
 
-/// Shows what `zRewrite` makes of the bytes in the file.
+/// Reads the file back and shows what `zRewrite` makes of its bytes.
 void frmDictEdit::ShowRewritten(std::string (*zRewrite)(std::string)) {
   std::optional<std::string> bytes = ReadWholeFile(context_.dictionary.File());
   if (!bytes) {
@@ -209,7 +197,7 @@ void frmDictEdit::ShowRewritten(std::string (*zRewrite)(std::string)) {
                                     .arg(Shown(context_.dictionary.File())));
     return;
   }
-  const std::string text = zRewrite(*std::exchange(bytes, std::nullopt));
+  const std::string text = zRewrite(std::move(*bytes));
   const bool isSame = text.size() == TextLength() && text == txtDictionary_->Text();
   if (!isSame) {
     txtDictionary_->ReplaceText(text);
@@ -233,7 +221,7 @@ bool frmDictEdit::SaveText() {
   return true;
 }
 
-/// A file that could not be shown is replaced by what is in the box only after a question.
+/// Whether the text in the box may replace the file. Asks when the file could not be shown.
 bool frmDictEdit::MayReplaceFile() {
   return !isUnread_ ||
          context_.prompts.Ask(
@@ -292,8 +280,8 @@ void frmDictEdit::FillBlank() {
   }
 }
 
-/// Nothing when the user cancels. Events run only while the progress is shown, and with it the
-/// window takes no input.
+/// Nothing when the user cancels or the window is closed. Events run only while the progress is
+/// shown, which keeps the window from taking input.
 std::optional<FilledEntries> frmDictEdit::FillWithProgress(const std::string& zText) {
   constexpr int untilShown = 500;  // milliseconds
   constexpr int betweenSteps = 50;
@@ -311,7 +299,7 @@ std::optional<FilledEntries> frmDictEdit::FillWithProgress(const std::string& zT
       return true;
     }
     progress.setValue(static_cast<int>(zBytesRead));
-    QCoreApplication::processEvents();  // also at the first value, when Qt runs none
+    QCoreApplication::processEvents();  // QProgressDialog runs none at its first value
     nextStep = time.elapsed() + betweenSteps;
     return !progress.wasCanceled() && !IsUnloaded();
   });
@@ -348,12 +336,12 @@ void frmDictEdit::btnReadTerms_Click() {
                        PromptButtons::Ok);
 }
 
-/// In bytes; without making the text, which takes a while when it is long.
+/// In bytes. Does not make the text, which would take a while when it is long.
 std::size_t frmDictEdit::TextLength() const {
   return static_cast<std::size_t>(txtDictionary_->document()->characterCount()) - 1;
 }
 
-/// Adds `zText` after the last character; the caret ends after it, in view.
+/// Adds `zText` at the end of the text. The caret is then after it, in view.
 void frmDictEdit::AppendToText(std::string_view zText) {
   if (!zText.empty()) {
     txtDictionary_->moveCursor(QTextCursor::End);
@@ -362,8 +350,8 @@ void frmDictEdit::AppendToText(std::string_view zText) {
   }
 }
 
-/// Feeds the word list to `zImport`, with the window alive meanwhile, until its end, until the
-/// window is closed or until the box would hold too much. Returns what went wrong, or nothing.
+/// Feeds the word list to `zImport` until its end, until the window is closed or until the box
+/// would hold too much. Events run meanwhile. Returns what went wrong, or nothing.
 QString frmDictEdit::ImportFailure(WordImport& zImport) {
   WordList list(WordListFile);
   while (const std::optional<std::string_view> piece = list.NextPiece()) {
@@ -375,7 +363,7 @@ QString frmDictEdit::ImportFailure(WordImport& zImport) {
     if (IsTooMuch(zImport)) {
       return QStringLiteral(
           "The word list has more words, or a longer one, than the dictionary can take;\r\nonly "
-          "the words before were added.");
+          "the words before that were added.");
     }
   }
   zImport.Finish();

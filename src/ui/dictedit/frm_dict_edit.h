@@ -15,8 +15,9 @@
 namespace loquitor {
 
 /// The dictionary editor: the dictionary file as one text that can be typed in, searched, saved,
-/// sorted, cleaned and extended with the words of ImportWords.txt (in the working directory). Only
-/// the saving buttons write the file. Closing the window drops what has not been saved.
+/// sorted, cleaned, extended with the words of ImportWords.txt (in the working directory), and
+/// filled with the sounds of its blank entries. Only Save Changes, Save & Sort and Erase Blank
+/// Entries write the file. Closing the window drops what has not been saved.
 class frmDictEdit : public ToolWindow {
   Q_OBJECT
  public:
@@ -31,11 +32,10 @@ class frmDictEdit : public ToolWindow {
   void btnSort_Click();
   void btnEraseBlank_Click();
   void btnReadTerms_Click();
-  void btnDone_Click();
 
   void ConnectControls();
-  QAction* AddAction(const QString& zText, const QList<QKeySequence>& zKeys);
   void AddActions();
+  void AddUndoActions();
   void FixBoxWidth();
   void LoadDictionary();
   void TellOnceShown(const QString& zText);

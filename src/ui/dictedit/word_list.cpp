@@ -8,7 +8,7 @@ namespace loquitor {
 WordList::WordList(const std::filesystem::path& zFile) {
   std::error_code failure;
   if (!std::filesystem::exists(zFile, failure)) {
-    std::ofstream(zFile, std::ios::app);  // keeps what another program may just have put there
+    std::ofstream(zFile, std::ios::app);  // another program may just have created it with content
   }
   if (!std::filesystem::is_regular_file(zFile, failure)) {
     hasFailed_ = true;

@@ -10,13 +10,13 @@
 
 namespace loquitor {
 
-/// A word list on the disk, read in pieces so that the program can handle events in between.
+/// Reads the file of a word list in pieces, so that the program can handle events in between.
 class WordList {
  public:
   static constexpr std::size_t PieceBytes = 65536;
 
-  /// Opens `zFile`, or creates it, empty, when it is missing. What it grows by afterwards is not
-  /// read. A folder, a device or a pipe counts as not readable.
+  /// Opens `zFile`. Creates an empty file when it is missing. Bytes that are appended afterwards
+  /// are not read. A folder, a device or a pipe is a failure.
   explicit WordList(const std::filesystem::path& zFile);
 
   /// The next bytes, at most PieceBytes, valid until the next call. Nothing at the end and after a
