@@ -36,7 +36,7 @@ DesktopSender::DesktopSender(SerialPort& zPort, const Controls& zControls,
       progress_(zControls.window, sender_),
       Timer1_(zControls.window) {
   Timer1_.setObjectName(QStringLiteral("Timer1"));
-  Timer1_.setTimerType(Qt::PreciseTimer);  // others may fire too early
+  Timer1_.setTimerType(Qt::PreciseTimer);  // the other types may fire too early
   QObject::connect(&Timer1_, &QTimer::timeout, [this] { Timer1_Timer(); });
 }
 
@@ -53,7 +53,7 @@ bool DesktopSender::IsFlowControlTicked() const {
 void DesktopSender::ShowPortState(PortState zState) {
   portState_ = zState;
   controls_.txtComPort->SetBackground(ColourOf(zState));
-  // A port that is lost while nothing is sent answers no press.
+  // A port that is lost while nothing is sent has failed nothing that the user did.
   const bool isAnswer = sender_.Failure().error != PortError::Lost || sender_.IsSending();
   if (zState == PortState::Failed && isAnswer && !refusesPorts_) {
     failureHint_.Tell(FailureText());

@@ -17,9 +17,8 @@ namespace loquitor {
 class CheckBox;
 class TextBox;
 
-/// The sender of the desktop program, with all that it needs of the program: the port number and
-/// the flow control box of the main window, the port box's colour, the timer that closes the port,
-/// and the event loop.
+/// The sender of the desktop program, and its host: the port number and the flow control box of the
+/// main window, the colour of the port box, the timer that closes the port, and the event loop.
 class DesktopSender : private SenderHost {
  public:
   /// The main window, and its controls that hold the serial settings.
@@ -35,14 +34,16 @@ class DesktopSender : private SenderHost {
 
   CodeSender& Sender() { return sender_; }
 
-  /// Shows the state of the port: white, green or red.
+  /// Colours the port box: white, green or red. Shows a hint at the control that was used last when
+  /// something that the user did has failed.
   void ShowPortState(PortState zState) override;
 
-  /// Why the port failed, if the box shows that, and which port number leads where.
+  /// The tooltip of the port box: why the port failed, while the box is red, and which port number
+  /// leads where.
   QString PortText() const;
 
-  /// From now on no port is opened: what is left of a handler that waits for the line must not open
-  /// one while the program ends.
+  /// From now on no port is opened. Otherwise a handler that waits for the line could open one
+  /// while the program ends.
   void RefusePorts() { refusesPorts_ = true; }
 
  private:

@@ -18,14 +18,15 @@ namespace loquitor {
 
 namespace {
 
-// A signal handler gets nothing else to work with. Stays open: signals may come until the end.
+// A global, because a signal handler gets no other data. Never closed: signals may come until the
+// program ends.
 std::atomic<int> pipeEnd = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
 
 void OnSignal(int) {
   const int error = errno;
   const char byte = 0;
-  static_cast<void>(!::write(pipeEnd, &byte, 1));  // a full pipe holds a request already
+  static_cast<void>(!::write(pipeEnd, &byte, 1));  // a full pipe already holds a request
   errno = error;
 }
 
@@ -51,7 +52,7 @@ void Drain(int zPipe) {
 void HandleEndingSignals(QObject* zContext, std::function<void()> zHandler) {
   std::array<int, 2> ends{};
   if (::pipe(ends.data()) != 0) {
-    return;  // no descriptors left: the signals end the program at once
+    return;  // the signals then end the program at once
   }
   for (const int end : ends) {
     static_cast<void>(::fcntl(end, F_SETFD, FD_CLOEXEC));  // cannot fail for a fresh descriptor

@@ -122,7 +122,7 @@ void frmUtility::Unload() {
   settings_.SaveIniValue("Serial", "FlowControl", chkFlow_->Value());
 }
 
-/// The user cannot close this window under a modal one, but a session that ends can.
+/// The user cannot close this window while an editor is open, but the end of the session can.
 void frmUtility::CloseEditors() {
   const QWidget* last = nullptr;
   while (QWidget* modal = QApplication::activeModalWidget()) {
@@ -145,8 +145,8 @@ bool frmUtility::eventFilter(QObject* zWatched, QEvent* zEvent) {
   return QWidget::eventFilter(zWatched, zEvent);
 }
 
-/// Shows the editor modally, unless one is open already or still opening. An editor that has been
-/// closed counts no more, even when a send of it is still waiting for the line.
+/// Shows the editor modally, unless one is open or being opened. An editor that has been closed is
+/// not open, even while one of its sends still waits for the line.
 template <class Editor>
 void frmUtility::ShowEditor() {
   if (openEditor_ != nullptr && !openEditor_->IsUnloaded()) {

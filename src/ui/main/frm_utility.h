@@ -21,10 +21,10 @@ class frmUtility : public QWidget {
              Prompts& zPrompts, PhoneSource* zPhones = nullptr);
   ~frmUtility() override;
 
-  /// Loads the settings and shows the window in the middle of the screen.
+  /// Shows the window. The first time, loads the settings and centres it on the screen.
   void Open();
 
-  /// What the editors get. Lives as long as the window.
+  /// What the editors are given. Lives as long as the window.
   const EditorContext& Context() const { return parts_.Context(); }
 
  protected:

@@ -26,15 +26,16 @@ QIcon ProgramIcon() {
   return icon;
 }
 
-/// Makes a write beyond the system's limit for file sizes fail like one on a full disk. Without
-/// this it would end the program, and what is not saved would be lost.
+/// Makes a write beyond the system's limit for file sizes fail like a write on a full disk. Without
+/// this it would end the program, and unsaved work would be lost.
 void OutliveWritesBeyondTheLimit() {
 #ifdef SIGXFSZ
   static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));  // cannot fail for a signal that exists
 #endif
 }
 
-/// Qt ends the program with a core dump when it cannot reach a display.
+/// Handles Qt's messages while the QApplication is made. When no display can be reached, it ends
+/// the program with a message. Without this, Qt would end it with a core dump.
 void EndWithoutDisplay(QtMsgType zType, const QMessageLogContext&, const QString& zMessage) {
   if (zType == QtFatalMsg) {
     std::cerr << "Loquitor: no window can be opened, because no display can be reached. "

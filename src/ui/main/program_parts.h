@@ -7,10 +7,10 @@
 
 namespace loquitor {
 
-/// Owns what the editors share, and makes their context of it.
+/// Owns what the editors share, and makes their EditorContext.
 class ProgramParts {
  public:
-  /// All of them outlive this object. `zPhones` is null in a build that cannot read English.
+  /// All arguments outlive this object. `zPhones` is null in a build that cannot read English.
   ProgramParts(CodeSender& zSender, const SettingsFile& zSettings,
                const DictionaryStore& zDictionary, Prompts& zPrompts, PhoneSource* zPhones)
       : translator_(codeTable_, zDictionary), context_{codeTable_, translator_, zDictionary,
@@ -21,6 +21,7 @@ class ProgramParts {
     }
   }
 
+  /// Fills the code table, which is empty before.
   void BuildCodeTable() { codeTable_.BuildCodeTable(); }
 
   /// Lives as long as this object.
