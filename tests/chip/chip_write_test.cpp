@@ -61,7 +61,8 @@ class AWrite : public ToolWindowTest, public ::testing::WithParamInterface<Writi
     Click("btnWrite");
     EXPECT_NE(first, nullptr);
   }
-  /// Whether the window shows a write that goes on: what would cut it is disabled.
+  /// Expects that the window shows, or does not show, a write that goes on. While it does, the
+  /// controls that would cut the write are disabled.
   void ExpectShown(bool zIsShown) {
     EXPECT_EQ(window->cursor().shape() == Qt::WaitCursor, zIsShown);
     for (const char* name : {"btnWrite", "lbs(0)", "Phrase(15)"}) {

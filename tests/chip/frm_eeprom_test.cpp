@@ -21,8 +21,8 @@ class EepromEditor : public ToolWindowTest {
     return QAccessible::queryAccessibleInterface(Get(zName))->text(QAccessible::Name);
   }
 
-  /// Opens the phrase editor on a row, types `zText` into it, leaves it by `zLeave`; what it
-  /// showed.
+  /// Opens the phrase editor on a row, puts `zText` into it and leaves it by `zLeave`. Returns what
+  /// it showed first.
   std::string Edit(int zSlot, std::string_view zText,
                    const std::function<void(ToolWindow*)>& zLeave = &PressDone) {
     std::string shown;

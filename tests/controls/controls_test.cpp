@@ -82,7 +82,7 @@ TEST_F(CheckBoxTest, AGroupStartsWithNoneAndHoldsAtMostOne) {
   EXPECT_EQ(Events(), "2 0");
 }
 
-/// A label that notes c for Click, d for DoubleClick.
+/// A label that notes c for clicked and d for DoubleClick.
 class ClickLabelTest : public ControlsTest {
  protected:
   ClickLabelTest() {
@@ -105,7 +105,7 @@ TEST_F(ClickLabelTest, ASecondPressInTimeIsADoubleClickEvenWhileTheFirstIsStillA
   for (const auto& [interval, expected] :
        Rows<int, const char*>{{150, "cd"}, {300, "cd"}, {600, "cc"}}) {
     mouse.ClickTwice(label, interval);
-    QTest::qWait(750);  // the next press is no second one
+    QTest::qWait(750);  // so that the next press is a first one
     EXPECT_EQ(Events(), expected) << interval;
   }
 }
@@ -126,7 +126,7 @@ TEST_F(ClickLabelTest, AClickThatOpensABoxWaitsForTheSecondPress) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return events == "c"; }, 3000)) << qPrintable(events);
 }
 
-TEST_F(ClickLabelTest, AHeldClickIsRaisedBeforeWhateverIsPressedNextActs) {
+TEST_F(ClickLabelTest, AHeldClickIsRaisedBeforeTheNextPressActs) {
   label->SetHoldsClick(true);
   QPushButton button("Say It", &window);
   button.setGeometry(100, 40, 60, 20);
@@ -249,7 +249,7 @@ TEST_F(ScrollBarTest, ADragGoesOnFromWhereTheFocusHasMovedTheThumb) {
   EXPECT_TRUE(Events().endsWith(QString("change:%1").arg(moved)));
 }
 
-TEST_F(ScrollBarTest, EveryOtherWayChangesOncePerStepAndNotAtTheValueThatStands) {
+TEST_F(ScrollBarTest, EveryOtherWayRaisesOneChangePerStepAndNoneWithoutAChange) {
   const auto set = [this](int zValue) { return [this, zValue] { bar.setValue(zValue); }; };
   const auto key = [this](Qt::Key zKey) { return [this, zKey] { QTest::keyClick(&bar, zKey); }; };
   const auto press = [this](QStyle::SubControl zPart) { return [this, zPart] { Press(zPart); }; };

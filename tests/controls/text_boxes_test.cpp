@@ -103,7 +103,7 @@ TEST_F(TextBoxes, TakeWhatTheCodePageHoldsAndRefuseTheRestWithAHint) {
   }
 }
 
-TEST_F(TextBoxes, RefuseADropAndAPasteWholeSoThatNothingIsHalfInserted) {
+TEST_F(TextBoxes, RefuseADropAndAPasteAsAWhole) {
   box.SetText("kept");
   area.SetText("kept");
   for (const auto insert : {&Paste, &Drop}) {

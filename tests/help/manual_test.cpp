@@ -36,7 +36,7 @@ class Manual : public WindowTest {
   static void Follow(const QString& zLink) {
     Pages()->setSource(Pages()->source().resolved(QUrl(zLink)));
   }
-  /// What `zWhat` gives for the pieces of the page, without empty texts.
+  /// What `zWhat` returns for each fragment of the page, without empty texts.
   static QStringList Found(const std::function<QString(const QTextCharFormat&)>& zWhat) {
     QStringList found;
     for (QTextBlock block = Pages()->document()->begin(); block.isValid(); block = block.next()) {
@@ -68,7 +68,7 @@ TEST_F(Manual, OpensAtTheChapterOfTheWindowThatF1IsPressedIn) {
       QTest::keyClick(control != nullptr ? control : editor, Qt::Key_F1);
       ASSERT_NE(Pages(), nullptr);
       EXPECT_EQ(TopHeading().toStdString(), zHeading);
-      // As the desktop sends it, which a modal window keeps from the windows that it blocks.
+      // Sent to the native window, as the desktop does: a modal window blocks keys there.
       QTest::keyClick(Pages()->window()->windowHandle(), Qt::Key_Escape);
       EXPECT_EQ(Pages(), nullptr);
       EXPECT_TRUE(editor->isVisible());

@@ -260,7 +260,7 @@ TEST_F(MainWindow, StaysUsableWhileASendOfAClosedEditorWaitsForTheLine) {
   port.isHeldBack = true;
   std::string steps;
   After(0, [&] {
-    After(0, [&] {  // the test of the editor waits for the line: it is closed, another opened
+    After(0, [&] {  // a send of the editor waits for the line: it is closed, another one opened
       Modal()->close();
       EXPECT_EQ(Modal(), nullptr);
       After(0, [&] {

@@ -8,10 +8,10 @@
 namespace loquitor::testing {
 namespace {
 
-/// The same luck each time for the same seed.
-class Luck {
+/// Random numbers, the same each time for the same seed.
+class RandomNumbers {
  public:
-  explicit Luck(unsigned zSeed) : numbers_(zSeed) {}
+  explicit RandomNumbers(unsigned zSeed) : numbers_(zSeed) {}
 
   /// 0 to below `zBelow`.
   int Random(std::size_t zBelow) { return zBelow == 0 ? 0 : static_cast<int>(numbers_() % zBelow); }
@@ -25,8 +25,8 @@ class Luck {
 /// Someone who clicks, types, drags and closes whatever is in front, without a plan.
 class RestlessUser : public QObject {
  public:
-  RestlessUser(QWidget* zMainWindow, Luck& zLuck, int zActions)
-      : mainWindow_(zMainWindow), luck_(zLuck), left_(zActions) {}
+  RestlessUser(QWidget* zMainWindow, RandomNumbers& zRandom, int zActions)
+      : mainWindow_(zMainWindow), random_(zRandom), left_(zActions) {}
 
   void Start() { ScheduleNext(); }
   int ActionsLeft() const { return left_; }
@@ -68,7 +68,7 @@ class RestlessUser : public QObject {
     }
   }
 
-  /// Any control but the one that would end the program.
+  /// Any control except the one that would end the program.
   QWidget* RandomControl(QWidget* zWindow) {
     QWidgetList controls;
     for (QWidget* control : zWindow->findChildren<QWidget*>()) {
@@ -131,19 +131,19 @@ class RestlessUser : public QObject {
     }
   }
 
-  int Random(std::size_t zBelow) { return luck_.Random(zBelow); }
-  int Random(int zBelow) { return luck_.Random(zBelow); }
-  bool Chance(int zOneIn) { return luck_.Chance(zOneIn); }
+  int Random(std::size_t zBelow) { return random_.Random(zBelow); }
+  int Random(int zBelow) { return random_.Random(zBelow); }
+  bool Chance(int zOneIn) { return random_.Chance(zOneIn); }
 
   QWidget* mainWindow_;
-  Luck& luck_;
+  RandomNumbers& random_;
   int left_;
 };
 
 /// Answers each question with any of its buttons.
 class RashPrompts : public Prompts {
  public:
-  explicit RashPrompts(Luck& zLuck) : luck_(zLuck) {}
+  explicit RashPrompts(RandomNumbers& zRandom) : random_(zRandom) {}
 
   PromptAnswer Ask(QWidget*, const QString&, const QString& zText,
                    PromptButtons zButtons) override {
@@ -152,29 +152,29 @@ class RashPrompts : public Prompts {
       return PromptAnswer::Ok;
     }
     const bool canCancel = zButtons != PromptButtons::YesNo;
-    if (canCancel && luck_.Chance(3)) {
+    if (canCancel && random_.Chance(3)) {
       return PromptAnswer::Cancel;
     }
     return zButtons == PromptButtons::OkCancel ? PromptAnswer::Ok
-           : luck_.Chance(2)                   ? PromptAnswer::Yes
+           : random_.Chance(2)                 ? PromptAnswer::Yes
                                                : PromptAnswer::No;
   }
 
   std::optional<QString> AskText(QWidget*, const QString&, const QString& zPrompt,
                                  const QString& zInitial) override {
     asked.push_back(zPrompt);
-    return luck_.Chance(3)   ? std::nullopt
-           : luck_.Chance(2) ? std::optional(zInitial)
-                             : QStringLiteral("o");
+    return random_.Chance(3)   ? std::nullopt
+           : random_.Chance(2) ? std::optional(zInitial)
+                               : QStringLiteral("o");
   }
 
   std::vector<QString> asked;
 
  private:
-  Luck& luck_;
+  RandomNumbers& random_;
 };
 
-/// Whether a restless user, whose disk and port are in order, can have brought up the box himself.
+/// Whether a user whose disk is in order can come across this box.
 bool MayBeAsked(const QString& zText) {
   static const QRegularExpression boxes(
       "^(Find:|“.*” was not found|\\d+ Words added|Must select either With Data|No word |Every "
@@ -210,14 +210,14 @@ class RandomActions : public WindowTest {
   }
   ~RandomActions() override { std::filesystem::current_path("/"); }
 
-  /// Ten times: opens the program over `zPort`, acts, and closes it in the midst of whatever is
-  /// going on. `zMishap` is what happens to the line now and then.
-  void Live(SerialPort& zPort, int zActions, const std::function<void()>& zMishap) {
+  /// Ten times: opens the program over `zPort`, acts, and closes it whatever it is doing then.
+  /// `zMishap` happens to the line now and then.
+  void RunProgram(SerialPort& zPort, int zActions, const std::function<void()>& zMishap) {
     constexpr int rounds = 10;
     for (int round = 0; round < rounds; ++round) {
       frmUtility mainWindow(zPort, settings, dictionary, rash);
       mainWindow.Open();
-      RestlessUser user(&mainWindow, luck, zActions / rounds);
+      RestlessUser user(&mainWindow, random, zActions / rounds);
       user.onMishap = zMishap;
       user.Start();
       ASSERT_TRUE(QTest::qWaitFor([&] { return !mainWindow.isVisible(); }, 240'000));
@@ -231,23 +231,23 @@ class RandomActions : public WindowTest {
     }
   }
 
-  Luck luck{static_cast<unsigned>(Given("LOQUITOR_RANDOM_SEED", 20261122))};
-  RashPrompts rash{luck};
+  RandomNumbers random{static_cast<unsigned>(Given("LOQUITOR_RANDOM_SEED", 20261122))};
+  RashPrompts rash{random};
 };
 
 TEST_F(RandomActions, AreSurvivedOverALineThatFailsInEveryWay) {
   std::size_t opened = 0;
   const auto change = [&] {
-    port.isHeldBack = luck.Chance(3);
-    port.unsentBytes = luck.Chance(4) ? 5 : 0;
-    port.refusesToOpen = luck.Chance(4);
-    port.bytesUntilFailure = luck.Chance(4) ? luck.Random(300) : -1;
-    if (port.IsOpen() && luck.Chance(4)) {
+    port.isHeldBack = random.Chance(3);
+    port.unsentBytes = random.Chance(4) ? 5 : 0;
+    port.refusesToOpen = random.Chance(4);
+    port.bytesUntilFailure = random.Chance(4) ? random.Random(300) : -1;
+    if (port.IsOpen() && random.Chance(4)) {
       port.Vanish();
     }
     opened = port.opened.size();
   };
-  Live(port, Given("LOQUITOR_RANDOM_ACTIONS", 2000), change);
+  RunProgram(port, Given("LOQUITOR_RANDOM_ACTIONS", 2000), change);
   EXPECT_GT(opened, 10u) << "hardly anything was sent";
 }
 

@@ -64,7 +64,7 @@ class EnglishSteps : public PhraseWindowTest {
   EnglishReader reader_{phones_, codeTable};
 };
 
-TEST_F(EnglishSteps, WhatIsSilentIsUnderlinedWhileItIsTypedAndUntilItIsSaved) {
+TEST_F(EnglishSteps, SilentWordsAreUnderlinedWhileTheyAreTypedAndUntilTheyAreSaved) {
   QTest::keyClicks(SayDataBox(), "dog robot \\IY\\ZQ blan");
   EXPECT_EQ(Underlined(), "[robot][\\ZQ][blan]");
   QTest::keyClicks(SayDataBox(), "k");
@@ -81,7 +81,7 @@ TEST_F(EnglishSteps, WhatIsSilentIsUnderlinedWhileItIsTypedAndUntilItIsSaved) {
   EXPECT_EQ(Underlined(), "[blank]");
 }
 
-TEST_F(EnglishSteps, OfALongTextOnlyWhatIsInViewIsLookedAt) {
+TEST_F(EnglishSteps, OnlyThePartOfALongTextThatIsInViewIsUnderlined) {
   std::string text;
   for (int i = 0; i < 5000; ++i) {
     text += "word" + std::to_string(i) + " ";
@@ -113,7 +113,7 @@ TEST_F(EnglishSteps, InsertItsSoundsReplacesTheWordInOneStep) {
   EXPECT_EQ(SayData(), std::string("dog ") + Robot + "|");
 }
 
-TEST_F(EnglishSteps, WhatCannotBeReadIsToldAndChangesNothing) {
+TEST_F(EnglishSteps, AHintTellsWhatCannotBeReadAndNothingChanges) {
   const Rows<const char*, Qt::KeyboardModifiers, const char*> rows = {
       {"a  |  \\IY", Qt::NoModifier, "no word here"},
       {"mum|ble", Qt::NoModifier, "“mumble” cannot be read"},

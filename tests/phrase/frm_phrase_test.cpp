@@ -12,7 +12,7 @@ namespace {
 
 class FrmPhraseTest : public PhraseWindowTest {
  protected:
-  /// The text of the one codes viewer that a double click on the button opens.
+  /// Double-clicks the button. Returns the text of the one codes viewer that opens.
   std::string CodesShownBy(const char* zButton) {
     std::vector<std::string> shown;
     QTimer whenOpen;
@@ -31,7 +31,7 @@ class FrmPhraseTest : public PhraseWindowTest {
   }
 };
 
-TEST_F(FrmPhraseTest, StartsWithTheTextsOfItsOpenerAndReturnsThemByDoneAlone) {
+TEST_F(FrmPhraseTest, StartsWithTheTextsOfItsOpenerAndReturnsThemOnlyByDone) {
   EXPECT_EQ(SayData(), "|");
   EXPECT_EQ(Box("txtDict")->Text(), "");
   for (const bool isDone : {false, true}) {
@@ -160,7 +160,7 @@ TEST_F(FrmPhraseTest, DoesNothingMoreWhenItIsClosedAsAnActionBegins) {
   EXPECT_EQ(Sent(), "");
 }
 
-TEST_F(FrmPhraseTest, KeepsWhatLiesOutsideItsFrameOutOfReachAndNothingElse) {
+TEST_F(FrmPhraseTest, HidesOnlyTheControlsOutsideTheirFrame) {
   std::set<QString> hidden;
   for (const QWidget* control : window->findChildren<QWidget*>()) {
     if (control->isHidden() && !control->objectName().startsWith("qt_")) {

@@ -13,7 +13,7 @@ class PaletteTableTest : public WindowTest {
   const CodeTable& table = codeTable;
 };
 
-TEST_F(PaletteTableTest, HoldsEveryMnemonicOfTheCodeTableOnceButTheVoiceSettings) {
+TEST_F(PaletteTableTest, HoldsEveryMnemonicOfTheCodeTableOnceExceptTheVoiceSettings) {
   std::multiset<int> expected;
   for (std::int16_t index = 0; index < CodeTable::EntryCount; ++index) {
     const bool isCode = index < 20 || (index > 23 && index < 256);
@@ -33,7 +33,7 @@ TEST_F(PaletteTableTest, HoldsEveryMnemonicOfTheCodeTableOnceButTheVoiceSettings
   EXPECT_EQ(found, expected);
 }
 
-TEST_F(PaletteTableTest, LaysNoTwoMembersOfAFrameOverEachOther) {
+TEST_F(PaletteTableTest, NoTwoMembersOfAFrameOverlap) {
   std::map<std::string, std::vector<QRect>> frames;
   for (const PaletteMember& member : PaletteTable) {
     const QRect place = member.place.ToPixels();

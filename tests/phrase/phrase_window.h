@@ -46,8 +46,7 @@ class PhraseWindowTest : public ToolWindowTest {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !doubleClicks.isEmpty(); }));
   }
 
-  /// Keeps every question open for a while as a modal box, which swallows what is clicked
-  /// meanwhile.
+  /// Shows a modal box for a while at every question. It swallows all clicks meanwhile.
   void GivenBoxesThatSwallowClicks() {
     prompts.whileOpen = [this] {
       QDialog box(window.get());
@@ -80,7 +79,7 @@ class PhraseWindowTest : public ToolWindowTest {
     return text.insert(start + length, "]").insert(start, "[");
   }
 
-  /// Puts a text in that form into the Say Data.
+  /// Puts a text into the Say Data, in the form that SayData returns.
   void GivenSayData(std::string zMarked) {
     const std::size_t start = zMarked.find_first_of("|[");
     zMarked.erase(start, 1);

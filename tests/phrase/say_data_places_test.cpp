@@ -8,7 +8,7 @@ namespace loquitor::testing {
 namespace {
 
 TEST(SayDataPlaces, AWordIsWhatTheDictionaryIsAskedFor) {
-  // The place of the question, the word, and its text.
+  // The text with the position as a bar, the word, and the text of the word.
   const Rows<const char*, const char*, const char*> rows = {{"say ro|bot", "robot", "robot"},
                                                             {"say |robot", "robot", "robot"},
                                                             {"robot|, no", "robot", "robot"},
@@ -29,7 +29,7 @@ TEST(SayDataPlaces, AWordIsWhatTheDictionaryIsAskedFor) {
 }
 
 TEST(SayDataPlaces, AViewIsExtendedToWholeWordsAndNotBeyondACut) {
-  // The view in brackets, the ends at which the text is cut, the whole words.
+  // The text with the view in brackets, whether it is cut at each end, and the whole words.
   const Rows<const char*, bool, bool, const char*> rows = {
       {"one t[wo th]ree four", false, false, "two three"},
       {"o[ne two]", false, false, "one two"},

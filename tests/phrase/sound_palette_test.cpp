@@ -192,7 +192,7 @@ TEST_F(SoundPaletteTest, TheKeysMovePlayAndInsert) {
     Key(key);
   }
   EXPECT_EQ(Box("txtCall")->Text() + Sent() + SayData(), "1 2|")
-      << "a value box has its keys alone";
+      << "the keys of a value box play and insert nothing";
 }
 
 TEST_F(SoundPaletteTest, TheKeysMarkTheCurrentMemberVisiblyAndDescribeIt) {
@@ -210,7 +210,7 @@ TEST_F(SoundPaletteTest, TheKeysMarkTheCurrentMemberVisiblyAndDescribeIt) {
   EXPECT_EQ(spoken->text(QAccessible::Description), "See, Even, Feed");
 }
 
-TEST_F(SoundPaletteTest, TheTabKeyStopsOnceInEachFrameInTheOrderOfTheEye) {
+TEST_F(SoundPaletteTest, TheTabKeyStopsOnceInEachFrameFromLeftToRightAndTopToBottom) {
   EXPECT_EQ(TabOrder("txtSayData"),
             "txtSayData bntSayIt btnSaySelection btnClear btnCodes Command2 "
             "txtDict cmdLoadOver cmdLoadInsert btnNextWord chkWith chkWithout cmdSave "

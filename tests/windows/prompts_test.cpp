@@ -17,7 +17,7 @@
 namespace loquitor::testing {
 namespace {
 
-/// Does something to the box that is up next.
+/// Calls `zAct` with the box that is shown next.
 template <class Box>
 void WhenUp(std::function<void(Box*)> zAct) {
   QTimer::singleShot(0, qApp, [zAct] {

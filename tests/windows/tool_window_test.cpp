@@ -112,7 +112,7 @@ TEST_F(ToolWindowTest, LooksLikeAToolWindowInTheMiddleOfTheScreen) {
   EXPECT_EQ(resizable.size(), QSize(500, 5));
 }
 
-TEST_F(ToolWindowTest, TheOwnerIsFreeAtOnceEvenWhenUnloadingAndTheOpenerHaveToWait) {
+TEST_F(ToolWindowTest, IsUnloadedWithItsOwnerFreeBeforeShowModalReturns) {
   NotingWindow window(&owner);
   bool isShownModal = false;
   QTimer::singleShot(0, &window, [&] {
