@@ -53,7 +53,8 @@ std::string PhraseKey(int zIndex) {
   return "Phrase" + std::to_string(zIndex);
 }
 
-/// What the user loses when the settings file keeps `zPhrase`. Empty when nothing.
+/// Tells the user what the settings file does not keep of `zPhrase`. Empty when it keeps all that
+/// matters.
 QString StorageWarning(const SayDataTranslator& zTranslator, std::string_view zPhrase) {
   const std::string stored = ValueAfterSaving(zPhrase);
   if (stored.size() > ProfileFile::MaxSetting) {

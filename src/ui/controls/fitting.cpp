@@ -1,6 +1,8 @@
 #include "ui/controls/fitting.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
+#include <QStringList>
 #include <algorithm>
 
 namespace loquitor {

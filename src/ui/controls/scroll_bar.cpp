@@ -102,7 +102,7 @@ void ScrollBar::wheelEvent(QWheelEvent* zEvent) {
 }
 
 void ScrollBar::keyPressEvent(QKeyEvent* zEvent) {
-  // Qt turns all keys of a scroll bar round, which makes these two go the wrong way.
+  // Qt reverses all keys of a scroll bar, so these two would go the wrong way.
   switch (zEvent->key()) {
     case Qt::Key_Left:
       triggerAction(SliderSingleStepSub);

@@ -1,7 +1,6 @@
 #include "ui/main/desktop_sender.h"
 
 #include <QApplication>
-#include <utility>
 
 #include "line/port_numbers.h"
 #include "line/qt/serial_devices.h"
@@ -53,7 +52,7 @@ bool DesktopSender::IsFlowControlTicked() const {
 void DesktopSender::ShowPortState(PortState zState) {
   portState_ = zState;
   controls_.txtComPort->SetBackground(ColourOf(zState));
-  // A port that is lost while nothing is sent has failed nothing that the user did.
+  // When a port is lost while nothing is sent, nothing that the user did has failed.
   const bool isAnswer = sender_.Failure().error != PortError::Lost || sender_.IsSending();
   if (zState == PortState::Failed && isAnswer && !refusesPorts_) {
     failureHint_.Tell(FailureText());

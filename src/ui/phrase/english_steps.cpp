@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QStringList>
 #include <QTimer>
 
 #include "english/unread_text.h"
@@ -14,7 +15,7 @@
 namespace loquitor {
 namespace {
 
-constexpr std::size_t LongestResult = 1'000'000;  // what a line of the box can have
+constexpr std::size_t LongestResult = 1'000'000;  // the box takes no longer line
 
 /// English is read in UTF-8.
 std::string ToUtf8(std::string_view zBytes) {

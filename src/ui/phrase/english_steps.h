@@ -1,8 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -118,7 +118,7 @@ void frmPhrase::btnSaySelection_Click() {
 }
 
 void frmPhrase::Say(SayDataPart zPart, const char* zButton) {
-  // Keys that are typed while the phrase goes out belong to the Say Data.
+  // Keys that are typed while the phrase is sent go to the Say Data.
   txtSayData_->setFocus();
   const bool isOpen = RunBusy(this, form_.Get<PushButton>(zButton), [&] {
     SayThisAllophoneList(context_.translator.ExpandSayData((txtSayData_->*zPart)()));

@@ -1,7 +1,5 @@
 #include "ui/phrase/say_data_places.h"
 
-#include <algorithm>
-
 #include "core/say_data_runs.h"
 
 namespace loquitor {

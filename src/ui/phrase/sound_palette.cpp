@@ -95,7 +95,7 @@ std::string SoundPalette::TakePrefix() {
   return !isSkipped && voice_.AppliesToSounds() ? voice_.GetControlCodes() : std::string();
 }
 
-/// What a click sends after the prefix. Nothing when the number in the value box is no byte.
+/// What a click sends after the prefix. Nothing when the number in the value box is not a byte.
 std::optional<std::string> SoundPalette::CodesOf(const Sound& zSound) const {
   if (IsNote(zSound.code)) {
     return SoundCodes(palette_code::Pitch, context_.codeTable.GetNotePitch(zSound.code));

@@ -179,9 +179,9 @@ void FrmSynthCtrl::scEnvolopeFreq_Change() {
 }
 
 void FrmSynthCtrl::ValueBox_LostFocus(int zRegister) {
-  // Only after this has returned, the control that takes the focus learns of it and gets the press
-  // that moved it there. The write lets events run, so it has to wait. Otherwise a release would
-  // come before its press, and an adjust bar would move before it has taken its bases.
+  // The control that takes the focus learns of it, and gets the press that moved it there, only
+  // after this has returned. The write lets events run, so it has to wait. Otherwise a release
+  // would come before its press, and an adjust bar would move before it has taken its bases.
   writer_.Postpone([&] { Control(zRegister).TakeText(); });
   QTimer::singleShot(0, this, [this] { writer_.SendPostponedWhenIdle(); });
 }

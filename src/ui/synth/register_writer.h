@@ -4,7 +4,6 @@
 #include <deque>
 #include <functional>
 #include <string>
-#include <string_view>
 
 #include "line/code_sender.h"
 #include "line/scp.h"
