@@ -69,7 +69,7 @@ TEST(EventConfiguration, MakesConfigurationBytes) {
   }
 }
 
-TEST(DecimalForm, IsTheShortestThatPeopleExpect) {
+TEST(DecimalForm, IsTheShortestDecimalForm) {
   const Rows<std::string, std::string> rows = {{"", "0"},           {"12.5", "12.5"},
                                                {".5", "0.5"},       {"-.5", "-0.5"},
                                                {"7.0", "7"},        {"007", "7"},

@@ -128,7 +128,7 @@ TEST_P(AWrite, SendsNothingWhenItsWindowIsClosedAsItBegins) {
   EXPECT_EQ(Written(), "");
 }
 
-TEST_P(AWrite, LeavesItsShutUpToALineHeldBackWhenItsWindowIsClosed) {
+TEST_P(AWrite, SendsItsShutUpWhenTheLineIsFreeAlthoughItsWindowIsClosed) {
   port.isHeldBack = true;
   After(20, [this] { Click("btnShutUp"); });
   After(40, [this] { Click("btnDone"); });

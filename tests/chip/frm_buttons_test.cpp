@@ -71,7 +71,7 @@ TEST_F(EventWindow, TheChipThenHoldsWhatWasClickedAndTyped) {
   }
 }
 
-TEST_F(EventWindow, ShowsTheNextRunWhatThisOneHeld) {
+TEST_F(EventWindow, ShowsWhatTheLastRunStored) {
   Open<frmButtons>();
   for (int row = 0; row < InputEventCount; ++row) {
     ClickRow(row % 2 == 0 ? "chPlay" : "chClear", row);
@@ -105,11 +105,11 @@ TEST_F(EventWindow, ShowsTheNextRunWhatThisOneHeld) {
   EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"), file);
 }
 
-TEST_F(EventWindow, ReadsStoredStatesAsTheyAreMeant) {
+TEST_F(EventWindow, ReadsEveryFormOfAStoredState) {
   WriteBytes(folder / "Loquitor.ini",
              "[eeprom]\nPLAY0=1\nClear0= 1x\nRestart0=01\nInterupt0=2\nAutoSilence=-1\n"
              "Play1=2\nClear1=-1\nRestart1=True\nInterupt1=junk\n"
-             "In7RC=true\nIn7TTL=1\n"  // both of a pair: the later one
+             "In7RC=true\nIn7TTL=1\n"  // both of a pair: the later one counts
              "Out0Chip=-1\nOut0Phrase=0\nUnknown=kept\n");
   Open<frmButtons>();
   EXPECT_EQ(ChosenOptions(), (std::vector<int>{1, 4}));
@@ -121,7 +121,7 @@ TEST_F(EventWindow, ReadsStoredStatesAsTheyAreMeant) {
   EXPECT_EQ(settings.GetIniValue("EEPROM", "Play0", ""), "1");
 }
 
-TEST_F(EventWindow, NormalisesANumberThatIsLeft) {
+TEST_F(EventWindow, NormalisesANumberWhenItsBoxIsLeft) {
   Open<frmButtons>();
   for (const auto& [typed, left] : {std::pair("7x", "7"), {"12.5", "12.5"}, {"abc", "0"}}) {
     TypePhrase(2, typed);
@@ -149,7 +149,7 @@ TEST_F(EventWindow, NamesTheRowsWhoseNumbersCannotBeSent) {
   for (const int row : {0, 3, 16}) {
     TypePhrase(row, "0");
   }
-  Type("txtSCPNode", "node");  // no number means node 0
+  Type("txtSCPNode", "node");  // a text without a number means node 0
   std::string expected = FirstUse;
   for (const auto& [none, number] : {std::pair("245J32HD0", "245J32HD7"),
                                      {"246J32HD0", "246J32HD5"},

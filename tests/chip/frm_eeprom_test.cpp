@@ -83,7 +83,7 @@ TEST_F(EepromEditor, ColoursTheUsageAndRefusesWhatDoesNotFit) {
                                {241, yellow, true},
                                {256, yellow, true},
                                {257, QColor(255, 0, 0), false}}) {
-    // The reserved locations, the offsets and one end of a phrase are used anyway.
+    // The reserved locations, the offsets and the end of one phrase take 38.
     std::string entry = "many=";
     for (int code = 38; code < used; ++code) {
       entry += "\\IY";

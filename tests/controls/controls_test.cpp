@@ -188,7 +188,7 @@ class ScrollBarTest : public ControlsTest {
     from = Part(QStyle::SC_ScrollBarSlider);
     QTest::mousePress(&bar, Qt::LeftButton, {}, from);
   }
-  /// Drags the thumb to so many pixels left of where it was pressed; the value there.
+  /// Drags the thumb to `zPixels` left of where it was pressed. Returns the value there.
   int DragLeft(int zPixels) {
     const QPoint at = from - QPoint(zPixels, 0);
     QMouseEvent move(QEvent::MouseMove, at, bar.mapToGlobal(at), Qt::NoButton, Qt::LeftButton, {});
@@ -221,7 +221,7 @@ TEST_F(ScrollBarTest, ADragScrollsAndChangesOnceAtItsEnd) {
   EXPECT_EQ(Events(), QString("change:%1").arg(second));
 }
 
-TEST_F(ScrollBarTest, ADragThatEndsWhereItBeganOrIsSetByCodeChangesNothingMore) {
+TEST_F(ScrollBarTest, ADragThatEndsWhereItBeganOrIsSetByCodeRaisesNoChangeAtItsEnd) {
   PressThumb();
   DragLeft(40);
   EXPECT_EQ(DragLeft(0), 96);
@@ -273,7 +273,7 @@ TEST_F(ScrollBarTest, EveryOtherWayRaisesOneChangePerStepAndNoneWithoutAChange) 
   }
 }
 
-TEST_F(ScrollBarTest, TheFocusComesBeforeWhatBringsIt) {
+TEST_F(ScrollBarTest, GotFocusIsRaisedBeforeThePressOrTheWheelActs) {
   Press(QStyle::SC_ScrollBarSubLine);
   EXPECT_EQ(Events(), "focus:96 change:95");
   other.setFocus();

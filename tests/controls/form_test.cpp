@@ -104,7 +104,7 @@ TEST(Fitting, NarrowsThenShrinksUntilEveryLineFits) {
   EXPECT_EQ(fitted(10), font);
   EXPECT_EQ(fitted(9).pixelSize(), font.pixelSize());
   EXPECT_LT(fitted(6).pixelSize(), font.pixelSize());
-  EXPECT_GE(FittingFont(font, "Test", 1).pixelSize(), 8);  // ends, still readable
+  EXPECT_GE(FittingFont(font, "Test", 1).pixelSize(), 8);  // still readable
   for (const auto& [room, isTight] :
        Rows<QSize, bool>{{{300, 15}, false}, {{90, 40}, false}, {{50, 28}, true}}) {
     EXPECT_EQ(WrappingFont(font, "View Codes for Selection", room) != font, isTight);

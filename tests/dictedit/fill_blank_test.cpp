@@ -99,7 +99,7 @@ TEST_F(FillBlank, ShowsItsProgressWhenItTakesLongAndChangesNothingWhenCancelled)
   }
 }
 
-TEST_F(FillBlank, IsDisabledWithTheReasonWithoutEnglish) {
+TEST_F(FillBlank, IsDisabledWithoutEnglishAndSaysWhy) {
   Open<frmDictEdit>();
   EXPECT_FALSE(Entry()->isEnabled());
   EXPECT_EQ(Entry()->text().remove('&'), "Fill Blank Entries (this build cannot read English)");

@@ -129,7 +129,7 @@ TEST_F(MainWindow, LeavingThePortBoxClosesThePortAndTheNextSendOpensTheNewOne) {
   EXPECT_EQ(port.opened.back().device, "/scripted/seven");
 }
 
-TEST_F(MainWindow, ThePortBoxTellsThePortsThatExistNow) {
+TEST_F(MainWindow, TheTooltipOfThePortBoxListsThePresentPorts) {
   Start();
   WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n3=/dev/null\r\n");
   EXPECT_THAT(PortTooltip(), ::testing::HasSubstr("/dev/null"));
@@ -178,7 +178,7 @@ TEST_F(PortFailures, WaitForTheReleaseOfTheMouseWhichWouldHideTheHint) {
   EXPECT_NE(AwaitHint(), "");
 }
 
-TEST_F(PortFailures, OfAPortThatIsLostAreToldWhenItIsLostInMidSend) {
+TEST_F(PortFailures, OfALostPortAreToldOnlyDuringASend) {
   Start();
   Click("cmdTestSerialPort");
   port.Vanish();
@@ -279,7 +279,7 @@ TEST_F(MainWindow, StaysUsableWhileASendOfAClosedEditorWaitsForTheLine) {
   EXPECT_EQ(port.TakeWritten(), "abc");
 }
 
-TEST_F(MainWindow, ClosingEndsASendThatWaitsAndOpensThePortNoMore) {
+TEST_F(MainWindow, ClosingEndsAWaitingSendAndOpensNoPortAgain) {
   Start();
   port.isHeldBack = true;
   After(0, [&] { main->close(); });

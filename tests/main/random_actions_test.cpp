@@ -13,7 +13,7 @@ class RandomNumbers {
  public:
   explicit RandomNumbers(unsigned zSeed) : numbers_(zSeed) {}
 
-  /// 0 to below `zBelow`.
+  /// From 0 to `zBelow` - 1; 0 for 0.
   int Random(std::size_t zBelow) { return zBelow == 0 ? 0 : static_cast<int>(numbers_() % zBelow); }
   int Random(int zBelow) { return Random(static_cast<std::size_t>(zBelow)); }
   bool Chance(int zOneIn) { return Random(zOneIn) == 0; }

@@ -19,7 +19,7 @@ class DictionaryBrowserTest : public PhraseWindowTest {
     Tick("chkWithout", zIsWithout);
   }
 
-  /// Presses the button and gives the word, the Say Data and what was said.
+  /// Presses the button. Returns the word, the Say Data and what was said.
   std::string Step() {
     Press("btnNextWord");
     return Box("txtDict")->Text() + ": " + SayData() + ": " + Sent();
@@ -62,10 +62,10 @@ TEST_F(DictionaryBrowserTest, StepsToAllWordsOrThoseWithOrWithoutData) {
   EXPECT_EQ(Step(), "dog: \\DO |: \xAF");
   EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84");
   Box("txtfindwith")->SetText("\\ke");
-  EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84") << "round to itself";
+  EXPECT_EQ(Step(), "cat: \\KE \\AY |: \xC2\x84") << "the only match again";
   GivenModes(false, true);
   Tick("chkApplyControlsBeforeSayData", true);
-  EXPECT_EQ(Step(), "apple:  |: ") << "and says nothing, the prefix neither";
+  EXPECT_EQ(Step(), "apple:  |: ") << "says nothing, not even the prefix";
 }
 
 TEST(DictionaryWords, SayWhenAnEntryIsTooLongToComeBackWhole) {
@@ -83,7 +83,7 @@ TEST(DictionaryWords, AreFoundByTheCapitalsOfAText) {
                                                      {"\x8A\x9F ", "\x9A\xFF", true}};
   for (const auto& [sayData, findWith, isWanted] : rows) {
     EXPECT_EQ(IsWanted(NextWordMode::WithData, sayData, findWith), isWanted) << findWith;
-    EXPECT_TRUE(IsWanted(NextWordMode::Any, sayData, findWith)) << "no matter in other modes";
+    EXPECT_TRUE(IsWanted(NextWordMode::Any, sayData, findWith)) << "not used in other modes";
   }
 }
 
@@ -125,7 +125,7 @@ TEST_F(DictionaryBrowserTest, UndoBringsTheWordBackWithItsSayData) {
   SayDataBox()->redo();
   EXPECT_EQ(Box("txtDict")->Text(), "cat");
   QTest::keyClicks(SayDataBox(), "x");
-  EXPECT_EQ(press(Qt::Key_Z), "cat: \\KE \\AY ") << "what was typed, and no more";
+  EXPECT_EQ(press(Qt::Key_Z), "cat: \\KE \\AY ") << "undoes only what was typed";
   Type("txtDict", "mine");
   EXPECT_EQ(press(Qt::Key_Z), "mine: ");
 }

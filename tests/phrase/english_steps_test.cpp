@@ -174,7 +174,7 @@ TEST_F(EnglishSteps, LoadingAWordWithoutDataOffersItsSounds) {
   }
 }
 
-TEST_F(EnglishSteps, TheMenuNamesTheKeysAndWithoutEnglishTheReason) {
+TEST_F(EnglishSteps, TheMenuShowsTheKeysAndSaysWhenItCannotReadEnglish) {
   const auto keys = [&] {
     QMenu* menu = MenuAt(0);
     QString all;

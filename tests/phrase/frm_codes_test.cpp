@@ -21,7 +21,7 @@ class CodesViewer : public ToolWindowTest {
   }
 };
 
-TEST_F(CodesViewer, CopiesWhatTheBoxHoldsNowEditsIncluded) {
+TEST_F(CodesViewer, CopiesTheTextOfTheBoxWithItsEdits) {
   OpenWith("");
   EXPECT_EQ(Copied(), "");
   OpenWith("183, 131, 146");

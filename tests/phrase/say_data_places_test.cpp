@@ -7,7 +7,7 @@
 namespace loquitor::testing {
 namespace {
 
-TEST(SayDataPlaces, AWordIsWhatTheDictionaryIsAskedFor) {
+TEST(SayDataPlaces, FindsTheWordThatTheDictionaryIsAskedFor) {
   // The text with the position as a bar, the word, and the text of the word.
   const Rows<const char*, const char*, const char*> rows = {{"say ro|bot", "robot", "robot"},
                                                             {"say |robot", "robot", "robot"},

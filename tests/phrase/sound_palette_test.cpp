@@ -176,7 +176,7 @@ TEST_F(SoundPaletteTest, TheKeysMovePlayAndInsert) {
   Focus("Frame9");
   Key(Qt::Key_Space);
   Key(Qt::Key_Insert);
-  EXPECT_EQ(Sent(), "") << "inserting plays nothing, a click on a voice label neither";
+  EXPECT_EQ(Sent(), "") << "neither inserting nor a click on a voice label plays anything";
   EXPECT_EQ(SayData(), "\\UH \\OW \\VOLUME \\96 |");
   Get("Command1(140)")->setFocus();
   Key(Qt::Key_Space);

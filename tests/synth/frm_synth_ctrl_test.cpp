@@ -215,7 +215,7 @@ TEST_F(OpenSynthTest, TheWheelRebasesBeforeItTurns) {
   EXPECT_EQ(Value("scVol(4)"), 9);
 }
 
-TEST_F(OpenSynthTest, AClickAwayFromABoxArrivesThoughItsWriteLetsTheReleaseIn) {
+TEST_F(OpenSynthTest, AClickThatLeavesABoxActsEvenWhenItsReleaseComesDuringTheWrite) {
   Type("txtFreq(1)", "44");
   auto* box = Get<CheckBox>("Check2(1)");
   const QPoint place = box->mapTo(window.get(), box->rect().center());

@@ -57,7 +57,7 @@ class SlowSynthTest : public SynthTest {
     LetRun();
   }
 
-  /// Lets the user make so many moves; at the end no mouse button is down and the line is free.
+  /// Lets the user make `zMoves` moves. At the end no mouse button is down and the line is free.
   void Play(int zMoves) {
     slowHost.movesLeft = zMoves;
     while (slowHost.movesLeft > 0) {

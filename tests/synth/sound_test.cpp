@@ -39,7 +39,7 @@ TEST_F(OpenSynthTest, LoadingWritesOnlyWhatDiffersOscillatorByOscillator) {
   EXPECT_TRUE(prompts.asked.empty());
 }
 
-TEST_F(OpenSynthTest, AWrongNameIsRefusedAndALibraryThatCannotBeUsedIsPassedOver) {
+TEST_F(OpenSynthTest, AWrongNameIsRefusedAndAnUnusableLibraryGivesNoMessage) {
   Given("scFreq", {440});
   for (const char* button : {"btnSave", "btnLoad"}) {
     prompts.asked.clear();

@@ -30,7 +30,7 @@ class SynthTest : public ToolWindowTest {
     opening = Sent();
   }
 
-  /// Sets the bars 1, 2 and so on of a kind and forgets what that sent.
+  /// Sets the bars 1, 2 and so on of a kind, and drops what that sent.
   void Given(const char* zStem, const std::vector<int>& zValues) {
     int index = 1;
     for (const int value : zValues) {
@@ -63,7 +63,7 @@ class SynthTest : public ToolWindowTest {
     return values;
   }
 
-  /// A chip that has received `zBytes` holds what the window shows.
+  /// Expects that a chip that has received `zBytes` holds what the window shows.
   void ExpectShown(const std::string& zBytes) {
     VirtualChip chip;
     chip.Receive(zBytes);

@@ -31,11 +31,11 @@ class Busy : public ::testing::Test {
   QLineEdit* box = new QLineEdit(window.get());
 };
 
-TEST_F(Busy, DisablesTheButtonUnderAnHourglassAndGivesBothBack) {
+TEST_F(Busy, DisablesTheButtonAndShowsTheHourglassMeanwhile) {
   button->setFocus();
   EXPECT_TRUE(RunBusy(window.get(), button, [&] {
     ExpectBusy(true);
-    EXPECT_FALSE(box->hasFocus()) << "disabling pushed the focus on";
+    EXPECT_FALSE(box->hasFocus()) << "disabling moved the focus";
     EXPECT_TRUE(RunBusy(window.get(), button, [&] { ExpectBusy(true); }));
     ExpectBusy(true);
   }));
@@ -55,7 +55,7 @@ TEST_F(Busy, LetsEventsRunBeforeAndAfter) {
   EXPECT_EQ(runs, 2);
 }
 
-TEST_F(Busy, LeavesTheWorkOutWhenTheWindowIsClosedBefore) {
+TEST_F(Busy, DoesNoWorkWhenTheWindowIsClosedBefore) {
   bool isDone = false;
   Post([&] { window->close(); });
   EXPECT_FALSE(RunBusy(window.get(), button, [&] { isDone = true; }));
@@ -68,7 +68,7 @@ TEST_F(Busy, TellsThatTheWindowWasClosedOrDestroyedMeanwhile) {
   EXPECT_FALSE(RunBusy(window.get(), button, [&] { window.reset(); }));
 }
 
-TEST_F(Busy, DoesNotNestWithoutEnd) {
+TEST_F(Busy, LimitsHowDeepHandlersNest) {
   int handlers = 0;
   int depth = 0;
   int deepest = 0;

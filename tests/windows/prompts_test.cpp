@@ -48,7 +48,7 @@ TEST(DesktopPrompts, EachButtonAndTheCloseBoxHaveTheirAnswer) {
   }
 }
 
-TEST(DesktopPrompts, TextsAppearAsTheyAre) {
+TEST(DesktopPrompts, TextsAreShownAsTheyAre) {
   DesktopPrompts prompts;
   WhenUp<QMessageBox>([](QMessageBox* zBox) {
     EXPECT_EQ(zBox->windowTitle(), "Loquitor");
@@ -80,7 +80,7 @@ TEST(DesktopPrompts, AnInputBoxGivesItsTextOrNothing) {
   EXPECT_EQ(prompts.AskText(nullptr, "Find", "Find:", "before"), std::nullopt);
 }
 
-TEST(DesktopPrompts, ABoxWhoseOwnerGoesIsClosed) {
+TEST(DesktopPrompts, ABoxIsClosedWhenItsOwnerIsDestroyed) {
   DesktopPrompts prompts;
   QPointer<QWidget> owner;
   const auto show = [&] {
