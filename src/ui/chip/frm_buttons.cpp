@@ -7,6 +7,7 @@
 #include "ui/chip/event_form.h"
 #include "ui/chip/phrase_tooltip.h"
 #include "ui/controls/code_page.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/push_button.h"
 #include "ui/windows/busy.h"
 
@@ -14,7 +15,6 @@ namespace loquitor {
 namespace {
 
 constexpr const char* Section = "EEPROM";
-constexpr QRgb UnusualNumber = qRgb(255, 232, 160);
 
 /// One kind of check box in the event rows: its control group, the stem of its settings keys and
 /// the field that it sets.
@@ -203,7 +203,7 @@ void frmButtons::txtPhrase_Change(int zIndex) {
   const QString description = ToQString(DescribePhraseNumber(number, phrase));
   box->setToolTip(PhraseTooltip(description));
   box->setAccessibleDescription(description);
-  box->SetBackground(number == played ? QColor() : QColor(UnusualNumber));
+  box->SetBackground(number == played ? QColor() : WarningBackground);
 }
 
 void frmButtons::txtPhrase_LostFocus(int zIndex) {

@@ -13,7 +13,6 @@ namespace {
 
 constexpr int SidePadding = 6;               ///< pixels between the edge and the text
 constexpr int MostPaintedCharacters = 1000;  ///< more than a row can show; keeps painting fast
-constexpr QRgb WarningBackground = qRgb(255, 232, 160);
 constexpr QChar LineBreakArrow(0x21b5);
 constexpr QChar WarningSign(0x26a0);
 const QString HowToFill = QStringLiteral("Click to write a phrase");
@@ -73,7 +72,7 @@ void PhraseLabel::SetPhrase(std::string_view zPhrase, const QString& zWarning) {
   setAccessibleDescription(isMarked_ ? zWarning : HowToEdit);
   setToolTip((isMarked_ ? PhraseTooltip(zWarning) : QString()) +
              PhraseTooltip(phrase.isEmpty() ? HowToEdit : phrase));
-  SetBackground(isMarked_ ? QColor(WarningBackground) : QColor());
+  SetBackground(isMarked_ ? WarningBackground : QColor());
 }
 
 void PhraseLabel::paintEvent(QPaintEvent*) {

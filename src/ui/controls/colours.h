@@ -9,6 +9,12 @@ class QWidget;
 
 namespace loquitor {
 
+/// The background of a control whose content deserves a second look, such as unsaved changes.
+inline constexpr QColor WarningBackground{255, 232, 160};
+
+/// The background of a box whose text was refused.
+inline constexpr QColor RefusalBackground{255, 170, 170};
+
 /// Black or white, whichever is easier to read on `zBackground`.
 QColor ReadableOn(const QColor& zBackground);
 

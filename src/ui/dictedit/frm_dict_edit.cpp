@@ -159,9 +159,8 @@ void frmDictEdit::TellOnceShown(const QString& zText) {
 }
 
 void frmDictEdit::ShowWhetherSaved(bool zIsSaved) {
-  const QColor unsaved(255, 232, 160);
   SetColours(btnSaveChanges_, QPalette::Button, QPalette::ButtonText,
-             zIsSaved ? QColor() : unsaved);
+             zIsSaved ? QColor() : WarningBackground);
   btnSaveChanges_->setToolTip(zIsSaved
                                   ? QStringLiteral("Everything is saved.")
                                   : QStringLiteral("The text has changes that are not saved."));

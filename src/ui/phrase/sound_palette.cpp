@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "ui/controls/colours.h"
 #include "ui/phrase/sound_command.h"
 #include "ui/windows/busy.h"
 
@@ -9,7 +10,6 @@ namespace loquitor {
 namespace {
 
 constexpr char GroupName[] = "Command1";
-constexpr QColor RefusedColor{255, 170, 170};
 
 void AddMember(Form& zForm, const PaletteMember& zMember) {
   const std::string tooltip = TooltipOf(zMember);
@@ -131,7 +131,7 @@ bool SoundPalette::ConfirmWait() {
 
 void SoundPalette::RefuseValue(const Sound& zSound) {
   refusedBox_ = zSound.valueBox;
-  refusedBox_->SetBackground(RefusedColor);
+  refusedBox_->SetBackground(RefusalBackground);
   context_.prompts.Tell(window_, ValueNotice(*zSound.member));
   if (window_->isActiveWindow()) {
     FocusRefusedBox();

@@ -8,6 +8,7 @@
 #include "text/number_text.h"
 #include "ui/controls/check_box.h"
 #include "ui/controls/code_page.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/push_button.h"
 #include "ui/controls/scroll_bar.h"
 #include "ui/controls/text_box.h"
@@ -21,7 +22,6 @@ namespace {
 constexpr int NeutralAdjustment = 100;  // per cent
 constexpr QColor OverLimit(255, 0, 0);
 constexpr QColor NearLimit(255, 255, 0);
-constexpr QColor WrongNumber(255, 176, 176);
 
 // At 2400 baud the last writes take 0.7 seconds at most.
 constexpr int LongestClosing = 3000;  // milliseconds
@@ -200,7 +200,7 @@ void FrmSynthCtrl::MarkHFreq(bool zIsMarked) {
   auto* box = form_.Get<TextBox>("txtHFreq");
   const QString fault =
       zIsMarked ? QStringLiteral("Harmonise needs a number above 0 here.") : QString();
-  box->SetBackground(zIsMarked ? WrongNumber : QColor());
+  box->SetBackground(zIsMarked ? RefusalBackground : QColor());
   box->setToolTip(fault);
   box->setAccessibleDescription(fault);
 }

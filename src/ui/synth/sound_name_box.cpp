@@ -8,16 +8,11 @@
 #include <utility>
 
 #include "ui/controls/code_page.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/text_box.h"
 #include "ui/synth/sound.h"
 
 namespace loquitor {
-
-namespace {
-
-constexpr QColor NewName(255, 230, 160);
-
-}  // namespace
 
 SoundNameBox::SoundNameBox(TextBox* zBox, std::function<QStringList()> zNames)
     : QObject(zBox), box_(zBox), names_(std::move(zNames)), model_(new QStringListModel(this)) {
@@ -35,7 +30,7 @@ SoundNameBox::SoundNameBox(TextBox* zBox, std::function<QStringList()> zNames)
 
 void SoundNameBox::UpdateMark() {
   const QString fault = FaultOfName();
-  box_->SetBackground(fault.isEmpty() ? QColor() : NewName);
+  box_->SetBackground(fault.isEmpty() ? QColor() : WarningBackground);
   box_->setToolTip(fault);
   box_->setAccessibleDescription(fault);
 }
