@@ -154,7 +154,7 @@ class PortFailures : public MainWindow {
   }
 };
 
-TEST_F(PortFailures, AreToldAtThePressedControlAndInTheTooltipOfTheBoxWhileItIsRed) {
+TEST_F(PortFailures, AreToldAtTheLastUsedControlAndInTheTooltipOfTheBoxWhileItIsRed) {
   const QString inUse = "Port 1: /scripted/one is in use by another program.";
   Start();
   port.refusesToOpen = true;

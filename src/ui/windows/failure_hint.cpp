@@ -13,7 +13,7 @@ FailureHint::FailureHint() {
 }
 
 void FailureHint::Tell(const QString& zText) {
-  control_ = pressed_.Get();  // now, because a handler may move the focus later
+  control_ = lastUsed_.Get();  // now, because a handler may move the focus later
   text_ = zText;
   wait_.start();
 }
@@ -23,7 +23,7 @@ void FailureHint::ShowWhenReleased() {
     return;
   }
   wait_.stop();
-  QWidget* control = control_ && control_->isVisible() ? control_.data() : pressed_.Get();
+  QWidget* control = control_ && control_->isVisible() ? control_.data() : lastUsed_.Get();
   if (control != nullptr) {
     ShowHint(control, text_);
   }

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "ui/windows/pressed_control.h"
+#include "ui/windows/last_used_control.h"
 
 namespace loquitor {
 
@@ -22,7 +22,7 @@ class FailureHint {
  private:
   void ShowWhenReleased();
 
-  PressedControl pressed_;
+  LastUsedControl lastUsed_;
   QPointer<QWidget> control_;
   QString text_;
   QTimer wait_;

@@ -1,4 +1,4 @@
-#include "ui/windows/pressed_control.h"
+#include "ui/windows/last_used_control.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@
 namespace loquitor::testing {
 namespace {
 
-TEST(PressedControlTest, IsTheOneUnderTheMouseOrTheOneWithTheFocus) {
-  const PressedControl pressed;
+TEST(LastUsedControl, IsTheOneUnderTheMouseOrTheOneWithTheFocus) {
+  const LastUsedControl lastUsed;
   QWidget window;
   auto* box = new QLineEdit(&window);
   auto label = std::make_unique<QLabel>("takes no press", &window);
@@ -20,14 +20,14 @@ TEST(PressedControlTest, IsTheOneUnderTheMouseOrTheOneWithTheFocus) {
   box->setFocus();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QTest::mouseClick(label.get(), Qt::LeftButton);
-  EXPECT_EQ(pressed.Get(), label.get());
+  EXPECT_EQ(lastUsed.Get(), label.get());
   QTest::keyClick(box, Qt::Key_Return);  // goes on to the window
-  EXPECT_EQ(pressed.Get(), box);
+  EXPECT_EQ(lastUsed.Get(), box);
   QTest::mouseClick(label.get(), Qt::LeftButton);
   label.reset();
-  EXPECT_EQ(pressed.Get(), box);
+  EXPECT_EQ(lastUsed.Get(), box);
   box->clearFocus();
-  EXPECT_EQ(pressed.Get(), &window);
+  EXPECT_EQ(lastUsed.Get(), &window);
   window.hide();
 }
 

@@ -1,15 +1,15 @@
-#include "ui/windows/pressed_control.h"
+#include "ui/windows/last_used_control.h"
 
 #include <QApplication>
 #include <QInputEvent>
 
 namespace loquitor {
 
-PressedControl::PressedControl() {
+LastUsedControl::LastUsedControl() {
   qApp->installEventFilter(this);
 }
 
-QWidget* PressedControl::Get() const {
+QWidget* LastUsedControl::Get() const {
   if (control_ && control_->isVisible()) {
     return control_;
   }
@@ -17,7 +17,7 @@ QWidget* PressedControl::Get() const {
   return focused != nullptr ? focused : QApplication::activeWindow();
 }
 
-bool PressedControl::eventFilter(QObject* zWatched, QEvent* zEvent) {
+bool LastUsedControl::eventFilter(QObject* zWatched, QEvent* zEvent) {
   switch (zEvent->type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
@@ -38,7 +38,7 @@ bool PressedControl::eventFilter(QObject* zWatched, QEvent* zEvent) {
 
 /// Takes the first widget that gets a press. Qt passes a press that the widget ignores to the
 /// widgets around it, with the same timestamp.
-void PressedControl::TakeFirst(QWidget* zWidget, quint64 zTimestamp) {
+void LastUsedControl::TakeFirst(QWidget* zWidget, quint64 zTimestamp) {
   if (!control_ || zTimestamp != timestamp_) {
     control_ = zWidget;
     timestamp_ = zTimestamp;

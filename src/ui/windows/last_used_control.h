@@ -7,9 +7,9 @@
 namespace loquitor {
 
 /// Knows which control the user has used last. Needs a QApplication, whose events it watches.
-class PressedControl : public QObject {
+class LastUsedControl : public QObject {
  public:
-  PressedControl();
+  LastUsedControl();
 
   /// After a press of the mouse or a turn of the wheel, the control under the mouse. After a key,
   /// or when that control is no longer shown, the control that has the focus, or else the active
