@@ -44,7 +44,8 @@ class LineLock {
 
   /// Locks the device with the path `zDevice`, as the file system spells it. Follows symbolic links
   /// and leaves the device's settings alone. Releases what was locked before. PortError::None on
-  /// success; otherwise Missing, NotSerial, InUse, NotPermitted or Unusable.
+  /// success; otherwise Missing, NotSerial, InUse, NotPermitted or Unusable. After a failure
+  /// the device may stay open until Release.
   PortError Take(const std::string& zDevice);
 
   /// The path of the device that Take opened last, with links resolved.
