@@ -50,7 +50,7 @@ class FillBlank : public ToolWindowTest {
   std::optional<EnglishReader> reader_;
 };
 
-TEST_F(FillBlank, LeavesTheMenuAliveThatItWasChosenFrom) {
+TEST_F(FillBlank, KeepsTheMenuThatItWasChosenFromAlive) {
   ScriptedPhones phones;
   OpenWith(phones);
   QContextMenuEvent wanted(QContextMenuEvent::Mouse, {9, 9}, Box()->mapToGlobal(QPoint(9, 9)));
