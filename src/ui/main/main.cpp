@@ -50,6 +50,8 @@ void EndWithoutDisplay(QtMsgType zType, const QMessageLogContext&, const QString
 
 int main(int argc, char** argv) {
   OutliveWritesBeyondTheLimit();
+  // The captions and bars fit their places in this style. It is on every system.
+  QApplication::setStyle(QStringLiteral("Fusion"));
   const QtMessageHandler handler = qInstallMessageHandler(EndWithoutDisplay);
   QApplication application(argc, argv);
   qInstallMessageHandler(handler);
