@@ -16,19 +16,19 @@ namespace fs = std::filesystem;
 
 constexpr const char* Dictionary = "Loquitor.Dic";
 
-/// The absolute path in an environment variable; nothing when it holds none.
-std::optional<fs::path> PathIn(const char* zVariable) {
-  const char* value = std::getenv(zVariable);
-  const fs::path path(value == nullptr ? "" : value);
+/// The path that an environment variable holds, if it is absolute. `zValue` may be null.
+template <class Character>
+std::optional<fs::path> AbsolutePath(const Character* zValue) {
+  const fs::path path = zValue == nullptr ? fs::path() : fs::path(zValue);
   return path.is_absolute() ? std::make_optional(path) : std::nullopt;
 }
 
 std::optional<fs::path> UserFolder() {
 #ifdef _WIN32
-  const std::optional<fs::path> data = PathIn("LOCALAPPDATA");
+  const std::optional<fs::path> data = AbsolutePath(_wgetenv(L"LOCALAPPDATA"));
 #else
-  std::optional<fs::path> data = PathIn("XDG_DATA_HOME");
-  if (const std::optional<fs::path> home = PathIn("HOME"); !data && home) {
+  std::optional<fs::path> data = AbsolutePath(std::getenv("XDG_DATA_HOME"));
+  if (const std::optional<fs::path> home = AbsolutePath(std::getenv("HOME")); !data && home) {
     data = *home / ".local" / "share";
   }
 #endif

@@ -6,6 +6,15 @@
 #include <string_view>
 #include <system_error>
 
+#ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include "text/wide_text.h"
+#endif
+
+#include "text/path_text.h"
+
 namespace loquitor {
 
 namespace {
@@ -17,12 +26,37 @@ bool IsDeviceName(std::string_view zText) {
   return zText.starts_with("COM") || zText.starts_with("com") || zText.starts_with("\\\\");
 }
 
+/// No link leads to a COM port.
+std::string TargetOf(const std::string& zDevice) {
+  return zDevice;
+}
+
+bool IsThere(const std::string& zDevice) {
+  std::error_code error;
+  if (!zDevice.starts_with("\\\\.\\pipe\\")) {
+    return std::filesystem::exists(PathFrom(zDevice), error);
+  }
+  // Anything else that asks for a pipe would open it.
+  constexpr DWORD shortest = 1;  // millisecond
+  return WaitNamedPipeW(WideText(zDevice).c_str(), shortest) || GetLastError() == ERROR_SEM_TIMEOUT;
+}
+
 std::string DeviceWithoutEntry(int zNumber, const std::vector<SerialDevice>&) {
   return "COM" + std::to_string(zNumber);
 }
 #else
 bool IsDeviceName(std::string_view) {
   return false;
+}
+
+std::string TargetOf(const std::string& zDevice) {
+  std::error_code error;  // of a device that does not exist
+  return TextOf(std::filesystem::canonical(zDevice, error));
+}
+
+bool IsThere(const std::string& zDevice) {
+  std::error_code error;
+  return std::filesystem::exists(zDevice, error);
 }
 
 std::string DeviceWithoutEntry(int zNumber, const std::vector<SerialDevice>& zPresent) {
@@ -48,8 +82,7 @@ const SerialDevice* FindTarget(const std::string& zDevice,
   if (const SerialDevice* device = Find(zDevice, zPresent)) {
     return device;
   }
-  std::error_code error;  // the path is then empty, which no device has
-  return Find(std::filesystem::canonical(zDevice, error).string(), zPresent);
+  return Find(TargetOf(zDevice), zPresent);
 }
 
 std::string EntryOf(int zNumber, const SettingsFile& zSettings) {
@@ -64,7 +97,7 @@ std::string DeviceOfEntry(const std::string& zEntry, const SettingsFile& zSettin
   if (IsDeviceName(zEntry)) {
     return zEntry;
   }
-  return (zSettings.Folder() / zEntry).string();
+  return TextOf(zSettings.Folder() / PathFrom(zEntry));
 }
 
 /// The line of port number `zNumber`, which means `zDevice`. Empty for a number without an entry
@@ -75,8 +108,7 @@ std::string DescribePort(int zNumber, const std::string& zDevice, const SerialDe
   if (zTarget != nullptr) {
     return zTarget->description.empty() ? line : line + "  " + zTarget->description;
   }
-  std::error_code error;
-  if (std::filesystem::exists(zDevice, error)) {
+  if (IsThere(zDevice)) {
     return line;  // for example a pseudo-terminal
   }
   return zHasEntry ? line + "  (missing)" : "";
@@ -101,7 +133,7 @@ std::string DeviceForPort(int zNumber, const SettingsFile& zSettings,
     return {};
   }
   const std::string entry = EntryOf(zNumber, zSettings);
-  if (std::filesystem::path(entry).is_absolute()) {
+  if (PathFrom(entry).is_absolute()) {
     return entry;
   }
   return entry.empty() ? DeviceWithoutEntry(zNumber, zPresent())
@@ -131,7 +163,7 @@ std::string DescribePorts(const SettingsFile& zSettings,
         "No serial port is present. Plug in the adapter, or name a device in section\n"
         "[Ports] of Loquitor.ini, for example 1=/dev/ttyUSB0.";
   }
-  return text + "\nLoquitor.ini is in " + zSettings.Folder().string();
+  return text + "\nLoquitor.ini is in " + TextOf(zSettings.Folder());
 }
 
 }  // namespace loquitor

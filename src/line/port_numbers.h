@@ -8,8 +8,7 @@
 
 namespace loquitor {
 
-/// A serial device of this machine. Texts are encoded as the platform encodes file names (UTF-8 on
-/// most systems).
+/// A serial device of this machine. Texts are as TextOf gives paths.
 struct SerialDevice {
   std::string name;         ///< short name, for example ttyUSB0 or COM3
   std::string path;         ///< what opens it, for example /dev/ttyUSB0

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "text/path_text.h"
 #include "voice/filters.h"
 
 namespace loquitor {
@@ -50,7 +51,7 @@ WavFile::WavFile(const std::filesystem::path& zPath) : path_(zPath) {
 
 void WavFile::Fail(int zError) const {
   throw std::system_error(zError == 0 ? EIO : zError, std::generic_category(),
-                          "cannot write " + path_.string());
+                          "cannot write " + TextOf(path_));
 }
 
 void WavFile::WriteHeader() {

@@ -7,11 +7,13 @@
 #include <devguid.h>
 #include <setupapi.h>
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <string>
+#include <utility>
 
-#include "line/win32/wide_text.h"
+#include "text/wide_text.h"
 
 namespace loquitor {
 namespace {
@@ -87,6 +89,9 @@ std::vector<SerialDevice> PresentComPorts() {
                      .description = description == descriptions.end() ? "" : description->second});
   }
   RegCloseKey(key);
+  std::sort(ports.begin(), ports.end(), [](const SerialDevice& zLeft, const SerialDevice& zRight) {
+    return std::pair(zLeft.name.size(), zLeft.name) < std::pair(zRight.name.size(), zRight.name);
+  });
   return ports;
 }
 

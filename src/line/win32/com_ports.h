@@ -6,8 +6,8 @@
 
 namespace loquitor {
 
-/// The COM ports that this machine has now, in no particular order, with what Windows calls them.
-/// Texts in UTF-8. Asks Windows each time (some milliseconds).
+/// The COM ports that this machine has now, COM2 before COM10, with what Windows calls them. Texts
+/// in UTF-8. Asks Windows each time (some milliseconds).
 std::vector<SerialDevice> PresentComPorts();
 
 }  // namespace loquitor

@@ -9,12 +9,16 @@
 #include <string>
 #include <utility>
 
-#include "line/win32/wide_text.h"
+#include "text/wide_text.h"
 
 namespace loquitor {
 namespace {
 
 constexpr DWORD LongestCloseMilliseconds = 100;
+
+/// The other end needs a moment to read the rest of what one program has sent until it takes the
+/// next one.
+constexpr DWORD LongestPipeWaitMilliseconds = 100;
 
 /// Why CreateFile did not open a device. Windows denies access to a port that another program has.
 PortError ErrorOf(DWORD zError) {
@@ -40,9 +44,14 @@ bool IsPipeName(std::string_view zDevice) {
 
 HANDLE OpenDevice(const std::string& zDevice) {
   const std::string path = zDevice.starts_with("\\\\") ? zDevice : "\\\\.\\" + zDevice;
-  const DWORD access = IsPipeName(path) ? GENERIC_WRITE : GENERIC_READ | GENERIC_WRITE;
-  return CreateFileW(WideText(path).c_str(), access, 0, nullptr, OPEN_EXISTING,
-                     FILE_FLAG_OVERLAPPED, nullptr);
+  const std::wstring name = WideText(path);
+  if (!IsPipeName(path)) {
+    return CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                       FILE_FLAG_OVERLAPPED, nullptr);
+  }
+  static_cast<void>(WaitNamedPipeW(name.c_str(), LongestPipeWaitMilliseconds));
+  return CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_FLAG_OVERLAPPED,
+                     nullptr);
 }
 
 /// Sets an open port to these settings. A pipe has none.
@@ -233,7 +242,8 @@ int WinSerialPort::UnsentBytes() const {
 }
 
 void WinSerialPort::CloseWhenSent() {
-  if (IsOpen()) {
+  // What a pipe has taken is read from it even when this end is closed.
+  if (IsOpen() && GetFileType(line_->Handle()) != FILE_TYPE_PIPE) {
     static_cast<void>(FlushFileBuffers(line_->Handle()));  // closing anyway
   }
   Close();

@@ -19,7 +19,8 @@ class WinSerialPort : public SerialPort {
   ~WinSerialPort() override;
 
   /// `zSettings.device` in UTF-8: the name of a port, such as COM3, or the whole name of a pipe,
-  /// such as \\.\pipe\NAME. Speed and handshaking mean nothing to a pipe.
+  /// such as \\.\pipe\NAME. Speed and handshaking mean nothing to a pipe. Waits up to 0.1 s for a
+  /// pipe that another program has.
   PortFailure Open(const SerialPortSettings& zSettings) override;
   void Close() override;
   bool IsOpen() const override;

@@ -1,6 +1,8 @@
+#ifdef _WIN32
+
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX
-#include "line/win32/wide_text.h"
+#include "text/wide_text.h"
 
 #include <windows.h>
 
@@ -24,3 +26,5 @@ std::string Utf8Text(std::wstring_view zText) {
 }
 
 }  // namespace loquitor
+
+#endif

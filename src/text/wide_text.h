@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+/// Only on Windows.
 namespace loquitor {
 
 /// `zText`, UTF-8, as Windows takes it. Bytes that are no UTF-8 become the replacement character.
