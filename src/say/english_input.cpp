@@ -7,6 +7,7 @@
 
 #include "english/new_words.h"
 #include "english/unread_text.h"
+#include "text/path_text.h"
 
 namespace loquitor {
 
@@ -20,7 +21,7 @@ void TellUnread(std::string_view zWhat, const std::vector<std::string>& zUnread)
 
 /// The bytes of a file, which may be a pipe; nothing when it cannot be read.
 std::optional<std::string> ReadWhole(const std::string& zFile) {
-  std::ifstream file(zFile, std::ios::binary);
+  std::ifstream file(PathFrom(zFile), std::ios::binary);
   std::string bytes;
   for (std::array<char, 4096> piece{}; file.good();) {
     file.read(piece.data(), piece.size());
@@ -54,7 +55,7 @@ std::optional<std::size_t> EnglishInput::AddWords(const std::string& zFile) {
   const NewWords words = SoundOutNewWords(*list, *reader_, WordsOf(dictionary_, translator_));
   TellUnread("no words of Say Data: ", words.unread);
   if (!words.entries.empty() && !dictionary_.SaveEntries(words.entries)) {
-    complaint_ = "cannot write " + dictionary_.File().string();
+    complaint_ = "cannot write " + TextOf(dictionary_.File());
     return std::nullopt;
   }
   return words.entries.size();

@@ -1,4 +1,3 @@
-#include <QCoreApplication>
 #include <algorithm>
 #include <functional>
 #include <iostream>
@@ -14,12 +13,14 @@
 #include "files/data_folder.h"
 #include "files/settings_file.h"
 #include "line/port_numbers.h"
-#include "line/qt/serial_devices.h"
 #include "say/english_input.h"
 #include "say/say_options.h"
 #include "say/silence_report.h"
 #include "say/speaker.h"
 #include "say/spoken_file.h"
+#include "say/system_line.h"
+#include "terminal/terminal.h"
+#include "text/path_text.h"
 
 namespace {
 
@@ -80,7 +81,7 @@ int Record(const SayOptions& zOptions, const Conversion& zToCodes,
     return zTranslator.MnemonicsToCodes(zTranslator.ExpandSayData(sayData));
   };
   try {
-    SpokenFile file(*zOptions.wavFile, phrase);
+    SpokenFile file(PathFrom(*zOptions.wavFile), phrase);
     const bool isRead = ForEachText(zOptions, [&](const std::string& zText) {
       file.Say(zToCodes(zText));
       return true;
@@ -137,7 +138,7 @@ int SetPort(const std::string& zMapping, const SettingsFile& zSettings) {
   if (zSettings.GetIniValue("Ports", number, "") == device) {
     return Done;
   }
-  return Complain("cannot store the device in Loquitor.ini, in " + zSettings.Folder().string(),
+  return Complain("cannot store the device in Loquitor.ini, in " + TextOf(zSettings.Folder()),
                   Failed);
 }
 
@@ -158,7 +159,7 @@ int SayCodes(const SayOptions& zOptions, const Conversion& zToCodes,
   if (zOptions.wavFile) {
     return Record(zOptions, zToCodes, zTranslator, zSettings);
   }
-  const QCoreApplication application(zCount, zArguments);
+  const SpeakerApplication application(zCount, zArguments);
   return Send(zOptions, zToCodes, zSettings);
 }
 
@@ -196,7 +197,8 @@ int Say(const SayOptions& zOptions, const SettingsFile& zSettings, int zCount, c
 int main(int zCount, char** zArguments) {
   std::ios::sync_with_stdio(false);
   std::cin.tie(nullptr);
-  const SayOptions options = ParseSayOptions({zArguments + 1, zArguments + zCount});
+  const Terminal terminal(zCount, zArguments);
+  const SayOptions options = ParseSayOptions(terminal.Arguments());
   if (!options.complaint.empty()) {
     std::cerr << "loquitor-say: " << options.complaint << "\n" << SayHelpText;
     return WrongUsage;
@@ -212,7 +214,7 @@ int main(int zCount, char** zArguments) {
     return SetPort(*options.device, settings);
   }
   if (options.wantsPorts) {
-    return Print(DescribePorts(settings, PresentSerialDevices()) + "\n");
+    return Print(DescribePorts(settings, DevicesPresent()) + "\n");
   }
   return Say(options, settings, zCount, zArguments);
 }

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "line/port_numbers.h"
-#include "line/qt/serial_devices.h"
 #include "text/number_text.h"
 
 namespace loquitor {
@@ -14,8 +13,9 @@ Speaker::Speaker(const SettingsFile& zSettings, bool zIsForced,
     : settings_(zSettings),
       isForced_(zIsForced),
       longestStandstill_(zLongestStandstill),
-      sender_(port_, *this, settings_),
-      turns_([this] { sender_.Tick(); }) {}
+      turns_([this] { sender_.Tick(); }),
+      port_(turns_),
+      sender_(port_, *this, settings_) {}
 
 bool Speaker::Say(std::string_view zCodes) {
   complaint_.clear();
@@ -48,7 +48,7 @@ std::string Speaker::PortNumberText() const {
 
 std::string Speaker::PortDevice() const {
   const std::optional<int> number = WholeNumberAtStart(PortNumberText());
-  return number ? DeviceForPort(*number, settings_, PresentSerialDevices) : std::string();
+  return number ? DeviceForPort(*number, settings_, DevicesPresent) : std::string();
 }
 
 bool Speaker::IsFlowControlTicked() const {

@@ -7,12 +7,11 @@
 
 #include "files/settings_file.h"
 #include "line/code_sender.h"
-#include "line/qt/event_turns.h"
-#include "line/qt/system_port.h"
+#include "say/system_line.h"
 
 namespace loquitor {
 
-/// Sends phrases to the port of the settings, without a window. Needs a QCoreApplication.
+/// Sends phrases to the port of the settings, without a window. Needs a SpeakerApplication.
 class Speaker : private SenderHost {
  public:
   /// `zSettings` must outlive the speaker. `zIsForced` is the answer to the long-phrase question.
@@ -49,9 +48,9 @@ class Speaker : private SenderHost {
   const SettingsFile& settings_;
   const bool isForced_;
   const std::chrono::milliseconds longestStandstill_;
-  SystemPort port_;
+  SpeakerTurns turns_;
+  SpeakerPort port_;
   CodeSender sender_;
-  EventTurns turns_;
   std::size_t bytesLeft_ = 0;
   std::chrono::steady_clock::time_point lastProgress_;  // the time when `bytesLeft_` last changed
   std::string complaint_;

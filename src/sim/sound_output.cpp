@@ -5,13 +5,14 @@
 #include <iostream>
 #include <vector>
 
+#include "text/path_text.h"
 #include "voice/filters.h"
 
 namespace loquitor {
 
 SoundOutput::SoundOutput(bool zIsSpoken, const std::string& zWavFile) {
   if (!zWavFile.empty()) {
-    file_.emplace(zWavFile);
+    file_.emplace(PathFrom(zWavFile));
     sound_.Record();
   }
   if (!zIsSpoken) {

@@ -15,8 +15,8 @@ namespace loquitor {
 class SoundOutput {
  public:
   /// `zIsSpoken`: whether to play the sound. A sound output that cannot be used is reported on
-  /// standard error. `zWavFile`: the path of the recording, or empty for none. Throws
-  /// std::system_error when it cannot be written.
+  /// standard error. `zWavFile`: the path of the recording as PathFrom takes it, or empty for none.
+  /// Throws std::system_error when it cannot be written.
   SoundOutput(bool zIsSpoken, const std::string& zWavFile);
 
   /// The sound to play and to record.

@@ -1,0 +1,65 @@
+#pragma once
+
+/// What a Speaker sends with on this system. On Windows that needs no Qt.
+
+#ifdef _WIN32
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "line/win32/com_ports.h"
+#include "line/win32/win_serial_port.h"
+#include "line/win32/win_turns.h"
+
+namespace loquitor {
+
+using SpeakerTurns = WinTurns;
+
+class SpeakerPort : public WinSerialPort {
+ public:
+  explicit SpeakerPort(SpeakerTurns& zTurns)
+      : WinSerialPort(
+            [&zTurns](std::function<void()> zAction) { zTurns.RunLater(std::move(zAction)); }) {}
+};
+
+struct SpeakerApplication {
+  SpeakerApplication(int&, char**) {}
+};
+
+/// The serial devices that this machine has now, in natural order of their names.
+inline std::vector<SerialDevice> DevicesPresent() {
+  return PresentComPorts();
+}
+
+}  // namespace loquitor
+
+#else
+
+#include <QCoreApplication>
+#include <vector>
+
+#include "line/qt/event_turns.h"
+#include "line/qt/qt_serial_port.h"
+#include "line/qt/serial_devices.h"
+
+namespace loquitor {
+
+using SpeakerTurns = EventTurns;
+
+class SpeakerPort : public QtSerialPort {
+ public:
+  explicit SpeakerPort(SpeakerTurns&) {}
+};
+
+/// Exists while a Speaker does.
+using SpeakerApplication = QCoreApplication;
+
+/// The serial devices that this machine has now, in natural order of their names.
+inline std::vector<SerialDevice> DevicesPresent() {
+  return PresentSerialDevices();
+}
+
+}  // namespace loquitor
+
+#endif
