@@ -13,9 +13,13 @@
 namespace loquitor {
 
 /// Tells one state of a file from another without reading it.
+///
+/// On Windows `changed` alone tells a file from one that was put in its place: renaming a file
+/// changes it. FAT has no such time. There another file of the same size, written at the same time,
+/// has the same stamp.
 struct FileStamp {
-  std::uint64_t device = 0;
-  std::uint64_t file = 0;     ///< the inode or file index
+  std::uint64_t device = 0;   ///< 0 on Windows
+  std::uint64_t file = 0;     ///< the inode; 0 on Windows
   std::uint64_t size = 0;     ///< bytes
   std::int64_t modified = 0;  ///< nanoseconds since 1970 on the system's clock
   std::int64_t changed = 0;   ///< likewise; programs cannot set it

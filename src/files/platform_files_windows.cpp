@@ -3,15 +3,21 @@
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX
 #include <windows.h>
+// After windows.h, which it needs.
+#include <winternl.h>
 
 #include <algorithm>
-#include <functional>
 #include <new>
 #include <string>
 #include <system_error>
 #include <utility>
 
 #include "files/platform_files.h"
+
+extern "C" {
+NTSTATUS NTAPI NtQueryFullAttributesFile(POBJECT_ATTRIBUTES, PFILE_NETWORK_OPEN_INFORMATION);
+NTSTATUS NTAPI RtlDosPathNameToNtPathName_U_WithStatus(PCWSTR, PUNICODE_STRING, PCWSTR*, void*);
+}
 
 namespace loquitor {
 namespace {
@@ -25,9 +31,10 @@ constexpr DWORD LargestPiece = 1U << 30;  ///< ReadFile and WriteFile count in 3
 /// A file handle; the destructor closes it.
 class Handle {
  public:
-  Handle(const fs::path& zFile, DWORD zAccess, DWORD zShare, DWORD zDisposition)
-      : handle_(CreateFileW(zFile.c_str(), zAccess, zShare, nullptr, zDisposition,
-                            FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+  Handle(const fs::path& zFile, DWORD zAccess, DWORD zShare, DWORD zDisposition,
+         DWORD zFlags = FILE_ATTRIBUTE_NORMAL)
+      : handle_(
+            CreateFileW(zFile.c_str(), zAccess, zShare, nullptr, zDisposition, zFlags, nullptr)) {}
   ~Handle() { Close(); }
   Handle(const Handle&) = delete;
   Handle& operator=(const Handle&) = delete;
@@ -60,21 +67,41 @@ std::int64_t Now() {
   return Nanoseconds(Joined(time.dwHighDateTime, time.dwLowDateTime));
 }
 
+/// Without device and file, which a path does not tell: whoever puts another file in the place of
+/// one renames it, and that is a change of the file.
+FileStamp StampFrom(LARGE_INTEGER zSize, LARGE_INTEGER zModified, LARGE_INTEGER zChanged) {
+  // File systems without change times (FAT) give 0. They count in steps of two seconds anyway.
+  const LARGE_INTEGER changed = zChanged.QuadPart != 0 ? zChanged : zModified;
+  return {.size = static_cast<std::uint64_t>(zSize.QuadPart),
+          .modified = Nanoseconds(static_cast<std::uint64_t>(zModified.QuadPart)),
+          .changed = Nanoseconds(static_cast<std::uint64_t>(changed.QuadPart))};
+}
+
 std::optional<FileStamp> StampOf(const Handle& zFile) {
-  BY_HANDLE_FILE_INFORMATION file{};
+  FILE_STANDARD_INFO file{};
   FILE_BASIC_INFO basic{};
   if (GetFileType(zFile.Get()) != FILE_TYPE_DISK ||
-      !GetFileInformationByHandle(zFile.Get(), &file) ||
-      (file.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ||
+      !GetFileInformationByHandleEx(zFile.Get(), FileStandardInfo, &file, sizeof file) ||
+      file.Directory ||
       !GetFileInformationByHandleEx(zFile.Get(), FileBasicInfo, &basic, sizeof basic)) {
     return std::nullopt;
   }
-  // File systems without change times (FAT) give 0. They count in steps of two seconds anyway.
-  const auto modified = static_cast<std::uint64_t>(basic.LastWriteTime.QuadPart);
-  const auto changed = static_cast<std::uint64_t>(basic.ChangeTime.QuadPart);
-  return FileStamp{file.dwVolumeSerialNumber, Joined(file.nFileIndexHigh, file.nFileIndexLow),
-                   Joined(file.nFileSizeHigh, file.nFileSizeLow), Nanoseconds(modified),
-                   Nanoseconds(changed != 0 ? changed : modified)};
+  return StampFrom(file.EndOfFile, basic.LastWriteTime, basic.ChangeTime);
+}
+
+/// What GetFileAttributesEx tells, and the time of the last change, which it keeps to itself.
+std::optional<FILE_NETWORK_OPEN_INFORMATION> InformationOn(const fs::path& zFile) {
+  UNICODE_STRING path;
+  if (!NT_SUCCESS(
+          RtlDosPathNameToNtPathName_U_WithStatus(zFile.c_str(), &path, nullptr, nullptr))) {
+    return std::nullopt;
+  }
+  OBJECT_ATTRIBUTES object;
+  InitializeObjectAttributes(&object, &path, OBJ_CASE_INSENSITIVE, nullptr, nullptr);
+  FILE_NETWORK_OPEN_INFORMATION information{};
+  const NTSTATUS status = NtQueryFullAttributesFile(&object, &information);
+  RtlFreeUnicodeString(&path);
+  return NT_SUCCESS(status) ? std::make_optional(information) : std::nullopt;
 }
 
 bool WriteAll(const Handle& zFile, std::string_view zBytes) {
@@ -126,18 +153,64 @@ bool IsWritable(const fs::path& zFile) {
 }
 
 /// Keeps attributes and access lists when there is an old file to take them from.
-bool Swap(const fs::path& zNew, const fs::path& zFile) {
+bool TryToSwap(const fs::path& zNew, const fs::path& zFile) {
   return ReplaceFileW(zFile.c_str(), zNew.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
                       nullptr, nullptr) != 0 ||
          MoveFileExW(zNew.c_str(), zFile.c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
+/// Tries again for a moment: a virus scanner or an indexer may just have the old file open.
+bool Swap(const fs::path& zNew, const fs::path& zFile) {
+  constexpr int tries = 20;
+  constexpr DWORD pauseMilliseconds = 10;
+  for (int i = 0; i < tries; ++i) {
+    if (TryToSwap(zNew, zFile)) {
+      return true;
+    }
+    const DWORD error = GetLastError();
+    if (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED) {
+      return false;
+    }
+    Sleep(pauseMilliseconds);
+  }
+  return false;
+}
+
+/// The name of the lock of a folder, the same for every user and for every way to write its path.
+/// Empty when there is no such folder.
+std::wstring LockName(const fs::path& zFolder) {
+  const Handle folder(zFolder, FILE_READ_ATTRIBUTES, ShareAll, OPEN_EXISTING,
+                      FILE_FLAG_BACKUP_SEMANTICS);
+  BY_HANDLE_FILE_INFORMATION file{};
+  if (!folder.IsOpen() || !GetFileInformationByHandle(folder.Get(), &file)) {
+    return {};
+  }
+  return L"Global\\Loquitor-" + std::to_wstring(file.dwVolumeSerialNumber) + L"-" +
+         std::to_wstring(Joined(file.nFileIndexHigh, file.nFileIndexLow));
+}
+
+/// A mutex that every user may take, since they may share the folder.
+HANDLE CreateLock(const std::wstring& zName) {
+  SECURITY_DESCRIPTOR everyone;
+  InitializeSecurityDescriptor(&everyone, SECURITY_DESCRIPTOR_REVISION);
+  SetSecurityDescriptorDacl(&everyone, TRUE, nullptr, FALSE);
+  SECURITY_ATTRIBUTES attributes{sizeof attributes, &everyone, FALSE};
+  return CreateMutexW(&attributes, FALSE, zName.c_str());
+}
+
 }  // namespace
 
 std::optional<FileStamp> StampOf(const fs::path& zFile) {
-  const Handle file(zFile, FILE_READ_ATTRIBUTES, ShareAll, OPEN_EXISTING);
-  return file.IsOpen() ? StampOf(file) : std::nullopt;
+  const auto file = InformationOn(zFile);  // the cheap way: opening a file costs ten times as much
+  if (!file || (file->FileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    return std::nullopt;
+  }
+  if ((file->FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
+    return StampFrom(file->EndOfFile, file->LastWriteTime, file->ChangeTime);
+  }
+  const Handle target(zFile, FILE_READ_ATTRIBUTES, ShareAll, OPEN_EXISTING);
+  return target.IsOpen() ? StampOf(target) : std::nullopt;
 }
 
 std::optional<LoadedFile> LoadFile(const fs::path& zFile) {
@@ -172,20 +245,16 @@ std::optional<fs::path> FollowLinks(const fs::path& zFile) {
 bool IsWritableFolder(const fs::path& zFolder) {
   // Only the system can say what the access list of a folder grants to this user. So ask for the
   // right to add a file.
-  const HANDLE folder = CreateFileW(zFolder.c_str(), FILE_ADD_FILE, ShareAll, nullptr,
-                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-  if (folder == INVALID_HANDLE_VALUE) {
-    return false;
-  }
-  const DWORD attributes = GetFileAttributesW(zFolder.c_str());
-  CloseHandle(folder);
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  const Handle folder(zFolder, FILE_ADD_FILE, ShareAll, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+  FILE_STANDARD_INFO file{};
+  return folder.IsOpen() &&
+         GetFileInformationByHandleEx(folder.Get(), FileStandardInfo, &file, sizeof file) &&
+         file.Directory;
 }
 
 FolderLock::FolderLock(const fs::path& zFolder) {
-  const std::size_t folder = std::hash<std::wstring>()(zFolder.lexically_normal().wstring());
-  const std::wstring name = L"Loquitor-" + std::to_wstring(folder);
-  const HANDLE mutex = CreateMutexW(nullptr, FALSE, name.c_str());
+  const std::wstring name = LockName(zFolder);
+  const HANDLE mutex = name.empty() ? nullptr : CreateLock(name);
   if (mutex == nullptr) {
     return;
   }
@@ -207,16 +276,21 @@ FolderLock::~FolderLock() {
 }
 
 bool SwapFile(const fs::path& zFile, std::string_view zBytes, FolderLock::State zLock) {
+  const bool wasThere = GetFileAttributesW(zFile.c_str()) != INVALID_FILE_ATTRIBUTES;
   const auto made =
       IsWritable(zFile) ? MakeFileIn(zFile.parent_path(), zBytes, zLock) : std::nullopt;
   if (!made) {
     return false;
   }
-  if (!Swap(*made, zFile)) {
-    DeleteFileW(made->c_str());
-    return false;
+  if (Swap(*made, zFile)) {
+    return true;
   }
-  return true;
+  // Windows may fail between the two steps of a swap; then the new file is all that is left.
+  const bool isOldLost = wasThere && GetFileAttributesW(zFile.c_str()) == INVALID_FILE_ATTRIBUTES;
+  if (!isOldLost) {
+    DeleteFileW(made->c_str());
+  }
+  return false;
 }
 
 }  // namespace loquitor

@@ -56,12 +56,21 @@ TEST_F(DataFolderTest, TheDictionaryIsCopiedOnceAndTheProgramsOwnComesFirst) {
   WriteBytes(user / "Loquitor.Dic", "mine");
   EXPECT_EQ(Choose(program, user), user);
   EXPECT_EQ(ReadBytes(user / "Loquitor.Dic"), "mine");
-  fs::remove(user / "Loquitor.Dic");
+}
+
+#ifndef _WIN32  // where links need rights that users do not have
+
+TEST_F(DataFolderTest, ALinkToADictionaryThatIsAwayStays) {
+  WriteBytes(program / "Loquitor.Dic", "of the program");
+  WriteBytes(share / "Loquitor.Dic", "of the package");
+  fs::create_directories(user);
   fs::create_symlink(folder / "unplugged disk", user / "Loquitor.Dic");
   EXPECT_EQ(Choose(program, user), user);
   EXPECT_TRUE(fs::is_symlink(user / "Loquitor.Dic"));
   EXPECT_FALSE(fs::exists(folder / "unplugged disk"));
 }
+
+#endif
 
 TEST_F(DataFolderTest, WithoutAUsersFolderTheDictionaryIsReadWhereItIs) {
   EXPECT_EQ(Choose(closed, std::nullopt), closed);
@@ -69,6 +78,22 @@ TEST_F(DataFolderTest, WithoutAUsersFolderTheDictionaryIsReadWhereItIs) {
   EXPECT_EQ(Choose(closed, std::nullopt), share);
   EXPECT_EQ(Choose(closed, folder / "file/Loquitor"), share);
 }
+
+#ifdef _WIN32
+
+TEST(DataPlacesTest, TheEnvironmentNamesTheUsersFolder) {
+  const std::wstring before = _wgetenv(L"LOCALAPPDATA");
+  for (const auto& [data, expected] :
+       Rows<const wchar_t*, const wchar_t*>{{L"C:\\\u0416 \u03A9", L"C:\\\u0416 \u03A9\\Loquitor"},
+                                            {L"", L""},
+                                            {L"relative", L""}}) {
+    _wputenv_s(L"LOCALAPPDATA", data);
+    EXPECT_EQ(FindDataPlaces().user.value_or("").wstring(), expected);
+  }
+  _wputenv_s(L"LOCALAPPDATA", before.c_str());
+}
+
+#else
 
 TEST(DataPlacesTest, TheEnvironmentNamesTheUsersFolder) {
   for (const auto& [data, home, expected] :
@@ -81,6 +106,8 @@ TEST(DataPlacesTest, TheEnvironmentNamesTheUsersFolder) {
     EXPECT_EQ(FindDataPlaces().user.value_or("").string(), expected) << data << " " << home;
   }
 }
+
+#endif
 
 }  // namespace
 }  // namespace loquitor::testing
