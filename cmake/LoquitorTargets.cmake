@@ -38,6 +38,10 @@ function(loquitor_program target)
   set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${LOQUITOR_BIN}")
   target_compile_definitions(${target} PRIVATE
     LOQUITOR_VERSION="${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
+  if(WIN32)  # its icon and version, as the Explorer shows them
+    configure_file("${PROJECT_SOURCE_DIR}/dist/program.rc.in" ${target}.rc @ONLY)
+    target_sources(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")
+  endif()
   loquitor_configure(${target})
 endfunction()
 

@@ -129,5 +129,23 @@ TEST_F(ProgramsTest, CodesArePrintedALineForALine) {
   }
 }
 
+TEST_F(ProgramsTest, TheExplorerShowsTheirVersionAndIcon) {
+  for (const char* program : {LOQUITOR_SAY, VIRTUAL_ORVATONE}) {
+    const HMODULE file = LoadLibraryExA(program, nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    ASSERT_NE(file, nullptr) << program;
+    EXPECT_NE(FindResourceA(file, MAKEINTRESOURCEA(1), RT_GROUP_ICON), nullptr);
+    FreeLibrary(file);
+    DWORD ignored = 0;
+    std::string information(GetFileVersionInfoSizeA(program, &ignored), '\0');
+    void* version = nullptr;
+    UINT length = 0;
+    ASSERT_TRUE(GetFileVersionInfoA(program, 0, static_cast<DWORD>(information.size()),
+                                    information.data()));
+    ASSERT_TRUE(VerQueryValueA(information.data(), "\\StringFileInfo\\040904B0\\FileVersion",
+                               &version, &length));
+    EXPECT_STREQ(static_cast<const char*>(version), "1.4.0");
+  }
+}
+
 }  // namespace
 }  // namespace loquitor::testing
