@@ -5,6 +5,7 @@
 #include "tests/support/rows.h"
 #include "tests/support/started_program.h"
 #include "tests/support/temp_folder.h"
+#include "tests/support/wine.h"
 
 namespace loquitor::testing {
 namespace {
@@ -91,7 +92,7 @@ TEST_F(ProgramsTest, TheLineIsOneProgramsAndThePipeOneChips) {
 
 TEST_F(ProgramsTest, CtrlCEndsTheChipWhichHasRecordedWhatWasSaid) {
   const fs::path wav = place / L"\u0416.wav";
-  StartedProgram chip(VIRTUAL_ORVATONE, link + L" --speak --wav \"" + wav.wstring() + L"\"",
+  StartedProgram chip(VIRTUAL_ORVATONE, link + L" --wav \"" + wav.wstring() + L"\"",
                       "3h\r\nnonsense\n");
   ExpectPrinted(chip,
                 "input 3 goes high: does nothing\r\n"
@@ -101,6 +102,18 @@ TEST_F(ProgramsTest, CtrlCEndsTheChipWhichHasRecordedWhatWasSaid) {
   chip.Interrupt();
   EXPECT_EQ(chip.WaitForEnd(), 0U);
   EXPECT_NEAR(static_cast<double>(fs::file_size(wav) - 44) / 32, 650, 60);
+}
+
+TEST_F(ProgramsTest, TheChipSaysThatNothingCanBeHeardAndGoesOn) {
+  if (!IsOnWine()) {
+    GTEST_SKIP() << "this machine may have a sound output";
+  }
+  StartedProgram chip(VIRTUAL_ORVATONE, link + L" --speak");
+  ASSERT_TRUE(Await([&] { return chip.Errors().find("listening") != std::string::npos; }));
+  EXPECT_EQ(chip.Errors().find("virtual-orvatone: nothing can be heard: no sound output was found"),
+            0U);
+  EXPECT_EQ(Run(L"\\IY", 0), "");
+  ExpectPrinted(chip, "code 128 \\IY\r\n");
 }
 
 TEST_F(ProgramsTest, TextsAreUtf8WhereverTheyAre) {
