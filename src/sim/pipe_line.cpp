@@ -16,8 +16,8 @@
 namespace loquitor {
 
 const std::string_view LinkHelp =
-    "  --link NAME  the port is the pipe \\\\.\\pipe\\NAME, instead of "
-    "\\\\.\\pipe\\virtual-orvatone\n";
+    "  --link PATH  the pipe to offer, for example \\\\.\\pipe\\chip or just chip; without it\n"
+    "               \\\\.\\pipe\\virtual-orvatone\n";
 
 namespace {
 
