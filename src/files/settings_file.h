@@ -39,6 +39,9 @@ class SettingsFile {
     static_cast<void>(file_.Write(zSection, zValues));
   }
 
+  /// The path of the file.
+  const std::filesystem::path& File() const { return file_.Path(); }
+
   /// The folder given to the constructor.
   std::filesystem::path Folder() const { return file_.Path().parent_path(); }
 

@@ -20,6 +20,7 @@ namespace loquitor {
 namespace {
 
 constexpr int HighestListed = 255;
+constexpr int HighestAdded = 99;  // the port box has room for two digits
 
 #ifdef _WIN32
 bool IsDeviceName(std::string_view zText) {
@@ -138,6 +139,30 @@ std::string DeviceForPort(int zNumber, const SettingsFile& zSettings,
   }
   return entry.empty() ? DeviceWithoutEntry(zNumber, zPresent())
                        : DeviceOfEntry(entry, zSettings, zPresent());
+}
+
+int NumberForDevice(const std::string& zDevice, const SettingsFile& zSettings,
+                    const std::vector<SerialDevice>& zPresent) {
+  const std::string device = DeviceOfEntry(zDevice, zSettings, zPresent);
+  for (int number = 1; number <= HighestAdded; ++number) {
+    const std::string entry = EntryOf(number, zSettings);
+    if (!entry.empty() && DeviceOfEntry(entry, zSettings, zPresent) == device) {
+      return number;
+    }
+  }
+  std::error_code error;
+  if (!std::filesystem::exists(zSettings.File(), error)) {
+    return 1;
+  }
+  const auto isFree = [&](int zNumber) {
+    return EntryOf(zNumber, zSettings).empty() &&
+           Find(DeviceWithoutEntry(zNumber, zPresent), zPresent) == nullptr;
+  };
+  int number = HighestAdded;
+  while (number > 0 && !isFree(number)) {
+    --number;
+  }
+  return number;
 }
 
 std::string DescribePorts(const SettingsFile& zSettings,

@@ -32,6 +32,12 @@ using DeviceSearch = std::function<std::vector<SerialDevice>()>;
 /// The device need not exist or be a serial port; opening it finds that out.
 std::string DeviceForPort(int zNumber, const SettingsFile& zSettings, const DeviceSearch& zPresent);
 
+/// The number under which `zDevice`, written as an entry of [Ports], is or can be entered: the
+/// first from 1 to 99 that has such an entry; else 1 while there is no settings file; else the
+/// highest below 100 that has no entry and no device. 0 when there is none.
+int NumberForDevice(const std::string& zDevice, const SettingsFile& zSettings,
+                    const std::vector<SerialDevice>& zPresent);
+
 /// A text for the user that lists the port numbers. After a heading it has a line for each number
 /// from 1 to 255 whose device exists or that has an entry in [Ports], then a line for each device
 /// of `zPresent` that no number reaches. If there is nothing to list, it has advice instead. The

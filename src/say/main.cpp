@@ -127,19 +127,35 @@ int Print(std::string_view zText) {
   return FinishOutput();
 }
 
+/// Enters a device in [Ports].
+int StorePort(const std::string& zNumber, const std::string& zDevice,
+              const SettingsFile& zSettings) {
+  zSettings.SaveIniValue("Ports", zNumber, zDevice);
+  if (zSettings.GetIniValue("Ports", zNumber, "") == zDevice) {
+    return Done;
+  }
+  return Complain("cannot store the device in Loquitor.ini, in " + TextOf(zSettings.Folder()),
+                  Failed);
+}
+
 /// Maps a port number to a device. `zMapping`: NUMBER=DEVICE, or DEVICE alone for port 1.
 int SetPort(const std::string& zMapping, const SettingsFile& zSettings) {
   const std::size_t digits = zMapping.find_first_not_of("0123456789");
   const bool hasNumber =
       digits != 0 && zMapping.substr(std::min(digits, zMapping.size()), 1) == "=";
-  const std::string number = hasNumber ? zMapping.substr(0, digits) : "1";
-  const std::string device = hasNumber ? zMapping.substr(digits + 1) : zMapping;
-  zSettings.SaveIniValue("Ports", number, device);
-  if (zSettings.GetIniValue("Ports", number, "") == device) {
-    return Done;
+  return hasNumber ? StorePort(zMapping.substr(0, digits), zMapping.substr(digits + 1), zSettings)
+                   : StorePort("1", zMapping, zSettings);
+}
+
+int AddPort(const std::string& zDevice, const SettingsFile& zSettings) {
+  const int number = NumberForDevice(zDevice, zSettings, DevicesPresent());
+  if (number == 0) {
+    return Complain("every port number up to 99 is taken", Failed);
   }
-  return Complain("cannot store the device in Loquitor.ini, in " + TextOf(zSettings.Folder()),
-                  Failed);
+  const std::string text = std::to_string(number);
+  const bool isEntered = !zSettings.GetIniValue("Ports", text, "").empty();
+  const int status = isEntered ? Done : StorePort(text, zDevice, zSettings);
+  return status == Done ? Print(text + "\n") : status;
 }
 
 int AddWords(const std::string& zFile, EnglishInput& zEnglish) {
@@ -212,6 +228,9 @@ int main(int zCount, char** zArguments) {
   const SettingsFile settings(ChooseDataFolder(FindDataPlaces()));
   if (options.device) {
     return SetPort(*options.device, settings);
+  }
+  if (options.addedDevice) {
+    return AddPort(*options.addedDevice, settings);
   }
   if (options.wantsPorts) {
     return Print(DescribePorts(settings, DevicesPresent()) + "\n");

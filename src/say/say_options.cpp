@@ -6,7 +6,8 @@ const std::string_view SayHelpText =
     "Usage: loquitor-say [--codes | --check | --wav FILE] [--force] [--] [TEXT...]\n"
     "       loquitor-say --english [--say-data | --codes | --wav FILE] [--force] [--] [TEXT...]\n"
     "       loquitor-say --add-words FILE\n"
-    "       loquitor-say --ports | --set-port DEVICE | --version | --help\n"
+    "       loquitor-say --ports | --set-port DEVICE | --add-port DEVICE\n"
+    "       loquitor-say --version | --help\n"
     "Sends Say Data to the Orvatone: the TEXTs joined by blanks, or without any each line of\n"
     "standard input. The port, its speed and its flow control are those of Loquitor.ini, the\n"
     "words those of Loquitor.Dic. --ports names the folder of both.\n"
@@ -26,6 +27,9 @@ const std::string_view SayHelpText =
     "  --ports            list the port numbers and their devices\n"
     "  --set-port DEVICE  make DEVICE port 1 from now on, in section [Ports] of Loquitor.ini;\n"
     "                     NUMBER=DEVICE makes it another port\n"
+    "  --add-port DEVICE  make DEVICE a port with a free number, unless it is one already; print "
+    "the\n"
+    "                     number\n"
     "  --version          the version of this program\n"
     "  --help             this text\n"
     "  --                 what follows is text, even if it begins with a hyphen\n"
@@ -109,6 +113,8 @@ SayOptions ParseSayOptions(const std::vector<std::string_view>& zArguments) {
       areOptionsOver = true;
     } else if (TakeValue("--set-port", zArguments, i, options.device)) {
       options.complaint = options.device->empty() ? "--set-port needs a device" : "";
+    } else if (TakeValue("--add-port", zArguments, i, options.addedDevice)) {
+      options.complaint = options.addedDevice->empty() ? "--add-port needs a device" : "";
     } else if (TakeValue("--wav", zArguments, i, options.wavFile)) {
       options.complaint = options.wavFile->empty() ? "--wav needs a file" : "";
     } else if (TakeValue("--add-words", zArguments, i, options.wordList)) {

@@ -11,14 +11,15 @@ namespace loquitor {
 struct SayOptions {
   bool wantsHelp = false;
   bool wantsVersion = false;
-  bool wantsPorts = false;             ///< list the port numbers, send nothing
-  bool wantsCodes = false;             ///< print the codes, send nothing
-  bool wantsCheck = false;             ///< print what would be silent, send nothing
-  bool wantsSayData = false;           ///< print the Say Data of English, send nothing
-  bool isEnglish = false;              ///< the text is English
-  bool isForced = false;               ///< send long phrases even without flow control
-  std::optional<std::string> device;   ///< DEVICE or NUMBER=DEVICE for a port, send nothing
-  std::optional<std::string> wavFile;  ///< record the sound in this file, send nothing
+  bool wantsPorts = false;                 ///< list the port numbers, send nothing
+  bool wantsCodes = false;                 ///< print the codes, send nothing
+  bool wantsCheck = false;                 ///< print what would be silent, send nothing
+  bool wantsSayData = false;               ///< print the Say Data of English, send nothing
+  bool isEnglish = false;                  ///< the text is English
+  bool isForced = false;                   ///< send long phrases even without flow control
+  std::optional<std::string> device;       ///< DEVICE or NUMBER=DEVICE for a port, send nothing
+  std::optional<std::string> addedDevice;  ///< DEVICE to give a port number, send nothing
+  std::optional<std::string> wavFile;      ///< record the sound in this file, send nothing
   /// Add the words of this file to the dictionary, send nothing.
   std::optional<std::string> wordList;
   std::optional<std::string>

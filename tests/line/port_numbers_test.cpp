@@ -51,6 +51,24 @@ TEST_F(PortNumbersTest, AnEntryDecides) {
   }
 }
 
+TEST_F(PortNumbersTest, ADeviceGetsANumberOfItsOwnOnce) {
+  const auto number = [this](const std::string& zDevice) {
+    return NumberForDevice(zDevice, settings, present);
+  };
+  EXPECT_EQ(number("virtual.port"), 1) << "there are no settings yet";
+  GivenPorts("99=a\r\n98=b\r\n5=virtual.port\r\n4=ttyUSB2\r\n");
+  EXPECT_EQ(number("virtual.port"), 5);
+  EXPECT_EQ(number((folder / "virtual.port").string()), 5);
+  EXPECT_EQ(number("/dev/ttyUSB2"), 4);
+  EXPECT_EQ(number("c"), 97);
+  std::string all;
+  for (int taken = 4; taken <= 99; ++taken) {
+    all += std::to_string(taken) + "=x\r\n";
+  }
+  GivenPorts(all);
+  EXPECT_EQ(number("c"), 0) << "1 to 3 are devices that are present";
+}
+
 TEST_F(PortNumbersTest, EachNumberAndEachDeviceIsDescribed) {
   const std::string title = "Port numbers and their devices:";
   const std::string virtualPort = (folder / "virtual.port").string();

@@ -150,6 +150,11 @@ TEST_F(LoquitorSayTest, SetsAndListsThePorts) {
             "; mine\r\n[ports]\r\n1=" + stored + "\r\n2=keep\r\n");
   EXPECT_EQ(Run("--set-port 99=virtual.port"), 0);
   EXPECT_TRUE(ReadBytes(folder / "Loquitor.ini").ends_with("2=keep\r\n99=virtual.port\r\n"));
+  EXPECT_EQ(Run("--add-port virtual.port"), 0);
+  EXPECT_EQ(Output(), "99\n");
+  EXPECT_EQ(Run("--add-port other.port"), 0);
+  EXPECT_EQ(Output(), "98\n");
+  EXPECT_TRUE(ReadBytes(folder / "Loquitor.ini").ends_with("\r\n98=other.port\r\n"));
   EXPECT_EQ(Run("--ports"), 0);
   EXPECT_NE(Output().find("\n1:  " + stored + "  (missing)\n"), std::string::npos) << Output();
 
@@ -241,6 +246,7 @@ TEST_F(LoquitorSayTest, ExplainsItself) {
       {"-h hello", 0, "Usage: loquitor-say ", ""},
       {"--version", 0, "loquitor-say 1.4\n", ""},
       {"--set-port", 2, "", "loquitor-say: --set-port needs a device"},
+      {"--add-port=", 2, "", "loquitor-say: --add-port needs a device"},
       {"--set-port=", 2, "", "loquitor-say: --set-port needs a device"},
       {"--add-words", 2, "", "loquitor-say: --add-words needs a file"},
       {"--say-data x", 2, "", "loquitor-say: --say-data needs --english"},
