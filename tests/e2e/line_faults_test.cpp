@@ -96,8 +96,7 @@ TEST_F(LineFaults, ALineThatIsPulledAwayInMidSendShowsRedAndLeavesEverythingUsab
   BreakOffEndlessPhrase();
   chip->HangUp();
   EXPECT_TRUE(AwaitPortColour("FF0000"));
-  chip = std::make_unique<PtyChip>();
-  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Path() + "\r\n");
+  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + ConnectChip() + "\r\n");
   Click("Shut Up of the phrase");
   ExpectBytes(StopBytes);
   EXPECT_TRUE(AwaitPortColour("00FF00"));

@@ -17,6 +17,7 @@ const std::map<std::string, Spot> Spots = {
     {"Dictionary Editor", {MainTitle, 212, 62}},
     {"Baud Rate and Detune", {MainTitle, 350, 62}},
     {"Serial Port", {MainTitle, 102, 118}},
+    {"Use Flow Control", {MainTitle, 267, 122}},
     {"Test Serial Connection", {MainTitle, 190, 116}},
     {"Done of the program", {MainTitle, 380, 130}},
     {"Say It", {PhraseTitle, 644, 420}},
@@ -28,6 +29,7 @@ const std::map<std::string, Spot> Spots = {
     {"Copy to Clipboard", {CodesTitle, 311, 332}},
     {"Done of the codes", {CodesTitle, 446, 332}},
     {"Save Changes", {DictionaryTitle, 645, 414}},
+    {"Phrase 3", {EepromTitle, 224, 99}},
     {"Write the phrases", {EepromTitle, 552, 238}},
     {"Shut Up of the phrases", {EepromTitle, 680, 238}},
     {"Done of the phrases", {EepromTitle, 770, 238}},
@@ -56,10 +58,9 @@ std::string Repeated(const std::string& zText, std::size_t zCount) {
 }
 
 void LoquitorSession::SetUp() {
-  chip = std::make_unique<PtyChip>();
-  std::filesystem::copy_file(LOQUITOR_PROGRAM, folder / "Loquitor");
+  program.CopyTo(folder.Path());
   WriteBytes(folder / "Loquitor.Dic", Dictionary);
-  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + chip->Path() + "\r\n");
+  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n1=" + ConnectChip() + "\r\n");
 }
 
 void LoquitorSession::TearDown() {
@@ -68,12 +69,17 @@ void LoquitorSession::TearDown() {
   }
 }
 
+std::string LoquitorSession::ConnectChip() {
+  chip = std::make_unique<PtyChip>();
+  return program.DeviceOf(chip->Path());
+}
+
 void LoquitorSession::GivenSettings(const std::string& zSettings) {
   std::ofstream(folder / "Loquitor.ini", std::ios::app | std::ios::binary) << zSettings;
 }
 
 void LoquitorSession::Start() {
-  loquitor = std::make_unique<ChildProcess>(std::vector<std::string>{folder / "Loquitor"});
+  loquitor = std::make_unique<ChildProcess>(program.Command(folder.Path()));
   windows[MainTitle] = desktop.AwaitWindow(MainTitle);
   desktop.MoveTo(windows[MainTitle], 10, 30);
 }
@@ -83,7 +89,8 @@ Spot LoquitorSession::At(const std::string& zName) {
 }
 
 void LoquitorSession::Click(const Spot& zSpot, int zTimes) {
-  desktop.Click(windows.at(zSpot.title), zSpot.x, zSpot.y, zTimes);
+  const auto [left, top] = program.FrameOf(zSpot.title == MainTitle);
+  desktop.Click(windows.at(zSpot.title), zSpot.x + left, zSpot.y + top, zTimes);
 }
 
 void LoquitorSession::Open(const Spot& zOpener, const std::string& zTitle) {

@@ -9,6 +9,7 @@
 
 #include "tests/e2e/desktop.h"
 #include "tests/e2e/pty_chip.h"
+#include "tests/e2e/tested_program.h"
 
 namespace loquitor::testing {
 
@@ -40,12 +41,15 @@ std::string AsNumbers(const std::string& zCodes);
 /// `zCount` copies of a text in a row.
 std::string Repeated(const std::string& zText, std::size_t zCount);
 
-/// The built program in a real X server, in a folder of its own, with a pseudo-terminal as the chip
-/// on port 1.
+/// The tested program in a real X server, in a folder of its own, with a pseudo-terminal as the
+/// chip on port 1.
 class LoquitorSession : public ::testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;
+
+  /// A new chip in place of the one so far. Returns the device that the settings name for it.
+  std::string ConnectChip();
 
   /// Adds to the end of the settings file, where the section of the ports is.
   void GivenSettings(const std::string& zSettings);
@@ -88,6 +92,7 @@ class LoquitorSession : public ::testing::Test {
 
   Desktop desktop;
   TempFolder folder;
+  TestedProgram program;
   std::unique_ptr<PtyChip> chip;
   std::unique_ptr<ChildProcess> loquitor;
   std::map<std::string, std::string> windows;  ///< the numbers of the opened windows, by title

@@ -25,8 +25,34 @@ TEST_F(LoquitorSession, SaysAPhraseShowsItsCodesAndClosesThePort) {
   EXPECT_TRUE(AwaitPortColour("FFFFFF")) << "the port closes a second after the last byte";
   CloseByDone("Done of the phrase");
   Finish();
-  EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"),
-            "[Ports]\r\n1=" + chip->Path() + "\r\n[Serial]\r\nPort=1\r\nFlowControl=1\r\n");
+  EXPECT_EQ(ReadBytes(folder / "Loquitor.ini"), "[Ports]\r\n1=" + program.DeviceOf(chip->Path()) +
+                                                    "\r\n[Serial]\r\nPort=1\r\nFlowControl=1\r\n");
+}
+
+TEST_F(LoquitorSession, StoresAPhraseInTheChipAndFindsTheSettingsAgain) {
+  const std::string image =
+      R"(\00J32HFFN\01J32HFFN\02J32HFFN\03J32H10N\04J32HFFN\05J32HFFN\06J32HFFN\07J32HFFN)"
+      R"(\08J32HFFN\09J32HFFN\010J32HFFN\011J32HFFN\012J32HFFN\013J32HFFN\014J32HFFN)"
+      R"(\015J32HFFN\016J32H80N\017J32H83N\018J32HFFN\0VX)";
+  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n2=" + program.DeviceOf(chip->Path()) + "\r\n");
+  Start();
+  FillIn("Serial Port", "2");
+  Click("Use Flow Control");
+  Open(At("EEPROM Editor"), EepromTitle);
+  Open(At("Phrase 3"), PhraseTitle);
+  desktop.Type("\\IY \\EH");
+  CloseByDone("Done of the phrase");
+  Click("Write the phrases");
+  ExpectBytes(image);
+  CloseByDone("Done of the phrases");
+  Finish();
+  EXPECT_THAT(ReadBytes(folder / "Loquitor.ini"),
+              HasSubstr("\r\n[Serial]\r\nPort=2\r\nFlowControl=0\r\n"));
+  chip->Forget();
+  Start();
+  Open(At("EEPROM Editor"), EepromTitle);
+  Click("Write the phrases");
+  ExpectBytes(image);
 }
 
 TEST_F(LoquitorSession, ARealDoubleClickPlaysOnceAndInsertsOnce) {
