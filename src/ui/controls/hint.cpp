@@ -11,17 +11,18 @@ namespace {
 
 constexpr int ShownMilliseconds = 8000;  // long enough to read it twice
 constexpr char OwnDescription[] = "descriptionBeforeTheHint";
+constexpr char LastHint[] = "lastHint";
 
 /// Makes the hint the accessible description of `zControl` while it is shown.
 void Describe(QWidget* zControl, const QString& zText) {
-  if (!zControl->property(OwnDescription).isValid()) {
+  if (zControl->accessibleDescription() != zControl->property(LastHint).toString()) {
     zControl->setProperty(OwnDescription, zControl->accessibleDescription());
   }
+  zControl->setProperty(LastHint, zText);
   zControl->setAccessibleDescription(zText);
   QTimer::singleShot(ShownMilliseconds, zControl, [zControl, zText] {
     if (zControl->accessibleDescription() == zText) {
       zControl->setAccessibleDescription(zControl->property(OwnDescription).toString());
-      zControl->setProperty(OwnDescription, {});
     }
   });
 }
