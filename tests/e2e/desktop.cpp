@@ -65,6 +65,11 @@ std::string Desktop::AwaitWindow(const std::string& zTitle) {
   std::string window;
   Require(Await([&] { return !(window = FindWindow(zTitle)).empty(); }), "no window " + zTitle);
   RunCommand({"xdotool", "windowactivate", "--sync", window});
+  // A program of Wine takes the keyboard some time after the window manager has offered it.
+  Require(Await([&] {
+            return RunCommand({"xdotool", "getwindowfocus"}) == window;
+          }),
+          zTitle + " does not get the keyboard");
   return window;
 }
 

@@ -8,6 +8,18 @@ namespace {
 using ::testing::AllOf;
 using ::testing::HasSubstr;
 
+/// Waits until a program has printed this after its first `zFrom` bytes, and expects nothing else.
+/// The lines of Windows end in CR LF.
+void ExpectPrinted(ChildProcess& zProgram, std::size_t zFrom, const std::string& zText) {
+  std::string printed;
+  Await([&] {
+    printed = zProgram.Output().substr(zFrom);
+    std::erase(printed, '\r');
+    return printed.size() >= zText.size();
+  });
+  EXPECT_TRUE(printed == zText) << printed;
+}
+
 TEST_F(LoquitorSession, SaysAPhraseShowsItsCodesAndClosesThePort) {
   const std::string codes = Prefix +
                             "\xb7\x83\x92\xa4"
@@ -34,7 +46,8 @@ TEST_F(LoquitorSession, StoresAPhraseInTheChipAndFindsTheSettingsAgain) {
       R"(\00J32HFFN\01J32HFFN\02J32HFFN\03J32H10N\04J32HFFN\05J32HFFN\06J32HFFN\07J32HFFN)"
       R"(\08J32HFFN\09J32HFFN\010J32HFFN\011J32HFFN\012J32HFFN\013J32HFFN\014J32HFFN)"
       R"(\015J32HFFN\016J32H80N\017J32H83N\018J32HFFN\0VX)";
-  WriteBytes(folder / "Loquitor.ini", "[Ports]\r\n2=" + program.DeviceOf(chip->Path()) + "\r\n");
+  WriteBytes(folder / "Loquitor.ini",
+             "[Ports]\r\n1=none\r\n2=" + program.DeviceOf(chip->Path()) + "\r\n");
   Start();
   FillIn("Serial Port", "2");
   Click("Use Flow Control");
@@ -53,6 +66,27 @@ TEST_F(LoquitorSession, StoresAPhraseInTheChipAndFindsTheSettingsAgain) {
   Open(At("EEPROM Editor"), EepromTitle);
   Click("Write the phrases");
   ExpectBytes(image);
+}
+
+TEST_F(LoquitorSession, IsHeardByTheVirtualOrvatone) {
+  ChildProcess virtualChip(program.VirtualOrvatone(folder.Path()));
+  ASSERT_TRUE(Await([&] { return virtualChip.Output().ends_with('\n'); }));
+  ASSERT_THAT(virtualChip.Output(), HasSubstr("listening"));
+  const std::size_t greeting = virtualChip.Output().size();
+  WriteBytes(folder / "Loquitor.ini",
+             "[Ports]\r\n1=" + program.DeviceOfVirtualOrvatone(folder.Path()) + "\r\n");
+  WriteBytes(folder / "Loquitor.Dic", "[words]\r\nlong=" + Repeated("\\IY", 500) + "\r\n");
+  Start();
+  OpenPhraseEditor();
+  Say("long");
+  std::string heard =
+      "control 20 \\VOLUME 96\ncontrol 21 \\SPEED 114\ncontrol 22 \\PITCH 88\n"
+      "control 23 \\BEND 5\n" +
+      Repeated("code 128 \\IY\n", 500);
+  ExpectPrinted(virtualChip, greeting, heard);
+  Click("Shut Up of the phrase");
+  heard += "SCP reset\ncode 31 \\RESET\ncode 0 \\P0\n";
+  ExpectPrinted(virtualChip, greeting, heard);
 }
 
 TEST_F(LoquitorSession, ARealDoubleClickPlaysOnceAndInsertsOnce) {

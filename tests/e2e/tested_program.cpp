@@ -25,12 +25,26 @@ void TestedProgram::CopyTo(const fs::path& zFolder) const {
   fs::copy_file(file_, zFolder / file_.filename());
 }
 
+std::vector<std::string> TestedProgram::CommandOf(const fs::path& zProgram) const {
+  return isForWindows_ ? std::vector<std::string>{"/usr/lib/wine/wine64", zProgram}
+                       : std::vector<std::string>{zProgram};
+}
+
 std::vector<std::string> TestedProgram::Command(const fs::path& zFolder) const {
-  std::vector<std::string> command = {zFolder / file_.filename()};
-  if (isForWindows_) {
-    command.insert(command.begin(), "/usr/lib/wine/wine64");
-  }
+  return CommandOf(zFolder / file_.filename());
+}
+
+std::vector<std::string> TestedProgram::VirtualOrvatone(const fs::path& zFolder) const {
+  std::vector<std::string> command = {"sh", "-c", "exec \"$0\" \"$@\" 2>&1"};
+  const std::vector<std::string> chip = CommandOf(
+      isForWindows_ ? file_.parent_path() / "virtual-orvatone.exe" : fs::path(VIRTUAL_ORVATONE));
+  command.insert(command.end(), chip.begin(), chip.end());
+  command.insert(command.end(), {"--link", DeviceOfVirtualOrvatone(zFolder)});
   return command;
+}
+
+std::string TestedProgram::DeviceOfVirtualOrvatone(const fs::path& zFolder) const {
+  return isForWindows_ ? R"(\\.\pipe\)" + zFolder.filename().string() : (zFolder / "chip").string();
 }
 
 std::string TestedProgram::DeviceOf(const std::string& zTerminal) const {
