@@ -256,22 +256,6 @@ TEST_F(TextBoxes, TheLettersOfAnAreaGrowAndShrinkByKeysAndWheel) {
   EXPECT_EQ(area.Text(), "");
 }
 
-TEST_F(TextBoxes, TheContextMenuOfAnAreaShowsAddedActionsWithTheirKeys) {
-  auto* find = new QAction("Find", &area);
-  find->setShortcut(QKeySequence::Find);
-  area.addAction(find);
-  QContextMenuEvent wanted(QContextMenuEvent::Mouse, {5, 5}, area.mapToGlobal(QPoint(5, 5)));
-  QCoreApplication::sendEvent(area.viewport(), &wanted);
-  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  ASSERT_NE(menu, nullptr);
-  QStringList keys;
-  for (const QAction* action : menu->actions().last(4)) {
-    keys += action->shortcut().toString();
-  }
-  EXPECT_EQ(keys.join(' '), "Ctrl++ Ctrl+- Ctrl+0 Ctrl+F");
-  menu->close();
-}
-
 TEST_F(TextBoxes, TheMenuOfABoxOutlivesThePasteThatLetsEventsRun) {
   QGuiApplication::clipboard()->setText("pasted");
   QContextMenuEvent wanted(QContextMenuEvent::Mouse, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
