@@ -1,6 +1,8 @@
 #include "ui/dictedit/frm_dict_edit.h"
 
+#ifndef _WIN32
 #include <sys/stat.h>
+#endif
 
 #include <QClipboard>
 #include <QMenu>
@@ -187,18 +189,24 @@ TEST_F(DictionaryEditor, ImportAddsTheWordsThatTheFileLacksAfterTheText) {
   EXPECT_EQ(Told(), QStringList({"4 Words added", "4 Words added", "0 Words added"}));
 }
 
-TEST_F(DictionaryEditor, AMissingWordListIsCreatedEmptyAndAPipeIsNotWaitedFor) {
+TEST_F(DictionaryEditor, AMissingWordListIsCreatedEmpty) {
   OpenOn(Unsorted);
   Click("btnReadTerms");
   EXPECT_TRUE(std::filesystem::is_empty(WordList()));
   EXPECT_EQ(Told(), QStringList("0 Words added"));
-  std::filesystem::remove(WordList());
+  EXPECT_EQ(Box().Text(), BoxTextFromFile(Unsorted));
+}
+
+#ifndef _WIN32
+TEST_F(DictionaryEditor, APipeInPlaceOfTheWordListIsNotWaitedFor) {
+  OpenOn(Unsorted);
   ASSERT_EQ(mkfifo(WordList().c_str(), 0600), 0);
   Click("btnReadTerms");
   EXPECT_TRUE(HasTold("ImportWords.txt"));
-  EXPECT_EQ(Told().size(), 3);
+  EXPECT_EQ(Told().size(), 2);
   EXPECT_EQ(Box().Text(), BoxTextFromFile(Unsorted));
 }
+#endif
 
 TEST_F(DictionaryEditor, ClosingTheWindowEndsAnImport) {
   OpenOn(Unsorted);

@@ -122,7 +122,7 @@ TEST_F(Manual, IsFoundBesideTheProgramAndInTheShareFolder) {
     std::filesystem::create_directories(docs);
     WriteBytes(docs / "manual.md", "# Manual");
     EXPECT_EQ(FindManual(QString::fromStdString((folder / "bin").string())).toStdString(),
-              docs.string());
+              docs.generic_string());
     std::filesystem::remove(docs / "manual.md");
   }
 }

@@ -24,6 +24,11 @@ class MainWindow : public ToolWindowTest {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&*main));
   }
   QWidget* Front() override { return &*main; }
+
+  /// The whole name of a device that the settings file holds. On Windows it begins with the drive.
+  std::string Scripted(const std::string& zName) const {
+    return (folder.Path() / ("/scripted/" + zName)).generic_string();
+  }
   QColor BoxColour() { return ColourOf(Box("txtComPort")); }
   void LeavePortBox() {
     Box("txtComPort")->setFocus();
@@ -88,7 +93,7 @@ TEST_F(MainWindow, TheTestTurnsTheBoxGreenAndTheTimerWhiteAgain) {
   EXPECT_FALSE(timer->isActive());
   Click("cmdTestSerialPort");
   EXPECT_EQ(port.TakeWritten(), TestBytes);
-  EXPECT_EQ(port.opened.back().device, "/scripted/one");
+  EXPECT_EQ(port.opened.back().device, Scripted("one"));
   EXPECT_FALSE(port.opened.back().hardwareHandshaking);
   EXPECT_EQ(BoxColour(), Green);
   EXPECT_EQ(timer->interval(), 1000);
@@ -101,7 +106,11 @@ TEST_F(MainWindow, TheTestTurnsTheBoxGreenAndTheTimerWhiteAgain) {
 }
 
 TEST_F(MainWindow, APortThatCannotBeOpenedTurnsRedUntilTheBoxIsLeft) {
-  for (const char* number : {"0", "-1", "abc", "", "200", "99999999999", "1e300"}) {
+  std::vector<const char*> numbers = {"0", "-1", "abc", "", "99999999999", "1e300"};
+#ifndef _WIN32  // where this is COM200
+  numbers.push_back("200");
+#endif
+  for (const char* number : numbers) {
     Start();
     Type("txtComPort", number);
     Click("cmdTestSerialPort");
@@ -126,7 +135,7 @@ TEST_F(MainWindow, LeavingThePortBoxClosesThePortAndTheNextSendOpensTheNewOne) {
   EXPECT_FALSE(port.IsOpen());
   EXPECT_EQ(BoxColour(), White);
   Click("cmdTestSerialPort");
-  EXPECT_EQ(port.opened.back().device, "/scripted/seven");
+  EXPECT_EQ(port.opened.back().device, Scripted("seven"));
 }
 
 TEST_F(MainWindow, TheTooltipOfThePortBoxListsThePresentPorts) {
@@ -155,7 +164,8 @@ class PortFailures : public MainWindow {
 };
 
 TEST_F(PortFailures, AreToldAtTheLastUsedControlAndInTheTooltipOfTheBoxWhileItIsRed) {
-  const QString inUse = "Port 1: /scripted/one is in use by another program.";
+  const QString inUse =
+      QString::fromStdString("Port 1: " + Scripted("one") + " is in use by another program.");
   Start();
   port.refusesToOpen = true;
   Click("cmdTestSerialPort");
@@ -183,10 +193,11 @@ TEST_F(PortFailures, OfALostPortAreToldOnlyDuringASend) {
   Click("cmdTestSerialPort");
   port.Vanish();
   EXPECT_EQ(AwaitHint(), "");
-  EXPECT_TRUE(Tooltip().startsWith("Port 1: /scripted/one failed."));
+  const QString failed = QString::fromStdString("Port 1: " + Scripted("one") + " failed.");
+  EXPECT_TRUE(Tooltip().startsWith(failed));
   port.bytesUntilFailure = 2;
   Click("cmdTestSerialPort");
-  EXPECT_TRUE(AwaitHint().startsWith("Port 1: /scripted/one failed."));
+  EXPECT_TRUE(AwaitHint().startsWith(failed));
 }
 
 TEST_F(MainWindow, AsksBeforeALongPhraseWithoutFlowControl) {

@@ -22,12 +22,18 @@ class EnglishSteps : public PhraseWindowTest {
 
   /// The underlined parts, each in brackets.
   std::string Underlined() {
-    QTest::qWait(1);  // until the window is idle
+    AwaitIdleTurn();
+    AwaitIdleTurn();  // the first one may show more of the text
     std::string parts;
     for (const QTextEdit::ExtraSelection& mark : SayDataBox()->extraSelections()) {
       parts += '[' + mark.cursor.selectedText().toStdString() + ']';
     }
     return parts;
+  }
+  static void AwaitIdleTurn() {
+    bool hasCome = false;
+    QTimer::singleShot(0, [&] { hasCome = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return hasCome; }));
   }
   static bool IsHinted(const QString& zWords) {
     return QTest::qWaitFor([&] { return QToolTip::text().contains(zWords); }, 1000);
