@@ -38,6 +38,9 @@ void DrawOutline(QPainter& zPainter, QStyle::PrimitiveElement zMark, const QStyl
 /// Without a caption the mark is in the middle.
 void PaintWrapped(QAbstractButton* zButton, QStyleOptionButton zOption,
                   QStyle::PrimitiveElement zMark, QSize zMarkSize) {
+  // In the dark mode of Windows, Qt fills the mark with the accent colour, ticked or not.
+  const QBrush ground = zButton->window()->palette().brush(QPalette::Base);
+  zOption.palette.setBrush(QPalette::Base, ground);
   QStylePainter painter(zButton);
   painter.setLayoutDirection(zButton->layoutDirection());
   const QRect all = VisiblePart(zButton);
