@@ -15,8 +15,11 @@ constexpr std::array<Pole, 5> UpperFormants{
     {{3400, 250}, {4400, 300}, {5400, 450}, {6400, 600}, {7400, 700}}};
 
 constexpr double OpenQuotient = 0.6;  // of the glottal cycle
-constexpr double Jitter = 0.006;      // largest random change of a cycle's pitch
-constexpr double TiltCutoff = 2600;   // hertz; the folds do not close abruptly
+/// The amplitude to which everything fades. Some processors need a hundred times as long for a
+/// multiplication of numbers that have faded to less than 1e-307.
+constexpr double Inaudible = 1e-20;
+constexpr double Jitter = 0.006;     // largest random change of a cycle's pitch
+constexpr double TiltCutoff = 2600;  // hertz; the folds do not close abruptly
 constexpr double MouthGain = 1.5;
 constexpr double NasalPole = 270;      // hertz
 constexpr double NasalZeroRise = 190;  // hertz, for a full murmur
@@ -155,13 +158,14 @@ VocalTract::Samples VocalTract::Speak(const TractFrame& zFrame, double zPitch) {
   constexpr double breathGlide = 1.0 / 48;
   constexpr double mouthGlide = 1.0 / 24;
   const bool isWhispered = zPitch <= 0;
-  const double voiceTarget = isWhispered ? 0 : zFrame.voice;
-  const double breathTarget = zFrame.breath + (isWhispered ? 0.15 * zFrame.voice : 0);
+  const double voiceTarget = Inaudible + (isWhispered ? 0 : zFrame.voice);
+  const double breathTarget = Inaudible + zFrame.breath + (isWhispered ? 0.15 * zFrame.voice : 0);
+  const double mouthTarget = Inaudible + zFrame.noise;
   Samples samples;
   for (double& sample : samples) {
     voice_ += (voiceTarget - voice_) * voiceGlide;
     breath_ += (breathTarget - breath_) * breathGlide;
-    mouth_ += (zFrame.noise - mouth_) * mouthGlide;
+    mouth_ += (mouthTarget - mouth_) * mouthGlide;
     const double noise = noise_.Next();
     const double pulse = NextPulse(zPitch);
     const bool isOpen = phase_ < OpenQuotient;
