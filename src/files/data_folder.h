@@ -20,8 +20,7 @@ DataPlaces FindDataPlaces();
 /// The folder of Loquitor.ini, Loquitor.Dic and OTSounds.txt:
 ///
 /// - the program's folder when the user may write there and `share` has no dictionary,
-/// - otherwise the user's own folder, which is created if it is missing. If it has no dictionary,
-/// it
+/// - otherwise the user's own folder, which is created if it is missing. Without a dictionary it
 ///   gets a copy of the one in the program's folder, or else of the one in `share`,
 /// - when there is no such folder or it cannot be written, the program's folder, or `share` if only
 ///   `share` has a dictionary. Words are found there. Saving may fail.

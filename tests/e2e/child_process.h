@@ -2,11 +2,11 @@
 
 #include <sys/types.h>
 
-#include <chrono>
 #include <map>
 #include <string>
-#include <thread>
 #include <vector>
+
+#include "tests/support/await.h"
 
 namespace loquitor::testing {
 
@@ -43,19 +43,5 @@ class ChildProcess {
 
 /// Runs a command to its end and returns what it printed, without line ends at the end.
 std::string RunCommand(const std::vector<std::string>& zCommand);
-
-/// Waits until `zCondition` holds, and tries it every few milliseconds. False when it does not hold
-/// within `zSeconds`.
-template <class Condition>
-bool Await(Condition zCondition, int zSeconds = 30) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(zSeconds);
-  while (!zCondition()) {
-    if (std::chrono::steady_clock::now() > end) {
-      return false;
-    }
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  }
-  return true;
-}
 
 }  // namespace loquitor::testing

@@ -1,30 +1,17 @@
 #pragma once
 
 #include <array>
-#include <chrono>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
-#include <thread>
 #include <vector>
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
-namespace loquitor::testing {
+#include "tests/support/await.h"
 
-/// Asks `zCondition` every few milliseconds until it holds; false after `zSeconds`.
-template <class Condition>
-bool Await(Condition zCondition, int zSeconds = 30) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(zSeconds);
-  while (!zCondition()) {
-    if (std::chrono::steady_clock::now() > end) {
-      return false;
-    }
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  }
-  return true;
-}
+namespace loquitor::testing {
 
 /// A program of Windows that a test has started; ended with it. Its standard streams are pipes of
 /// the test's.
