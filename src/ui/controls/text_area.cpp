@@ -22,13 +22,24 @@ namespace {
 
 constexpr int SmallestLetters = 8;  // pixels
 constexpr int LargestLetters = 48;
-constexpr qsizetype LongestWrappedByWords = 65'536;  // one word of this length takes 0.3 s
+constexpr qsizetype LongestWholeWord = 10'000;  // a key in a word of this length takes 4 ms
 
 /// The bytes of a text of Qt's, with '\n' for each of its kinds of line break.
 std::string StoredForm(QString zText) {
   zText.replace(QChar::ParagraphSeparator, u'\n');
   zText.replace(QChar::LineSeparator, u'\n');
   return ToBytes(zText);
+}
+
+/// The length of the longest part of `zText` without blanks and line breaks.
+qsizetype LongestWord(const QString& zText) {
+  qsizetype longest = 0;
+  qsizetype length = 0;
+  for (const QChar character : zText) {
+    length = character.isSpace() ? 0 : length + 1;
+    longest = std::max(longest, length);
+  }
+  return longest;
 }
 
 }  // namespace
@@ -89,7 +100,9 @@ std::string TextArea::Text() const {
 }
 
 void TextArea::SetText(std::string_view zBytes) {
-  setPlainText(ToQString(zBytes));
+  const QString text = ToQString(zBytes);
+  ChooseWrapping(LongestWord(text));
+  setPlainText(text);
 }
 
 void TextArea::ReplaceText(std::string_view zBytes) {
@@ -219,15 +232,17 @@ bool TextArea::Takes(const QString& zText) {
     ShowHint(this, QStringLiteral("Nothing was inserted: the text would become too long."));
     return false;
   }
-  ChooseWrapping(document()->characterCount() + zText.size());
+  if (lineWrapMode() != NoWrap) {
+    ChooseWrapping(LongestWord(document()->toRawText()) + LongestWord(zText));
+  }
   return true;
 }
 
-/// Long texts are not broken between words. The time that Qt needs to find the end of a word grows
-/// with the square of its length.
-void TextArea::ChooseWrapping(qsizetype zCharacters) {
-  setWordWrapMode(zCharacters > LongestWrappedByWords ? QTextOption::WrapAnywhere
-                                                      : QTextOption::WrapAtWordBoundaryOrAnywhere);
+/// Texts with a very long word are not broken between words. The time that Qt needs to find the end
+/// of a word grows with the square of its length.
+void TextArea::ChooseWrapping(qsizetype zLongestWord) {
+  setWordWrapMode(zLongestWord > LongestWholeWord ? QTextOption::WrapAnywhere
+                                                  : QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 bool TextArea::FitsLineLimit(const QString& zText) const {

@@ -12,8 +12,8 @@ namespace loquitor {
 
 /// How large a text may become by typing and pasting.
 struct TextLimits {
-  /// In characters. Longer lines take longer to draw than the caret takes to blink.
-  std::size_t longestLine = 1'000'000;
+  /// In characters. A key in a longer line could take longer than a frame of the screen.
+  std::size_t longestLine = 50'000;
   std::size_t characters = std::numeric_limits<std::size_t>::max();  ///< with the line breaks
   std::size_t lines = std::numeric_limits<std::size_t>::max();
 };
@@ -90,7 +90,7 @@ class TextArea : public QPlainTextEdit {
   bool Takes(const QString& zText);
   bool FitsLineLimit(const QString& zText) const;
   bool FitsTextLimits(const QString& zText) const;
-  void ChooseWrapping(qsizetype zCharacters);
+  void ChooseWrapping(qsizetype zLongestWord);
 
   TextLimits limits_;
 };
