@@ -97,12 +97,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* zData, std::size_t zSi
   LetterPhones letters;
   const EnglishReader reader(letters, table);
   const std::string sayData = reader.ReadText(text, words).sayData;
-  Require(sayData.find_first_of("\r\n\t") == std::string::npos, "one line");
-  Require(translator.FindSilentParts(sayData).size() ==
-              static_cast<std::size_t>(
-                  std::count_if(spoken.pieces.begin(), spoken.pieces.end(),
-                                [](const SpokenPiece& p) { return p.kind == Kind::Entry; })),
-          "a code for every mnemonic");
+  Require(sayData.find_first_of("\r\t") == std::string::npos, "spaces and line breaks alone");
+  Require(sayData.find("\n\n\n") == std::string::npos, "one empty line between paragraphs");
+  const SpokenText again = NormalizeEnglish(sayData, words);
+  Require(
+      again.unread.empty() && translator.FindSilentParts(sayData).size() ==
+                                  static_cast<std::size_t>(std::count_if(
+                                      again.pieces.begin(), again.pieces.end(),
+                                      [](const SpokenPiece& p) { return p.kind == Kind::Entry; })),
+      "a code for every mnemonic");
   Require(reader.ReadText(sayData, words).sayData == sayData, "read again as it is");
   static_cast<void>(reader.ReadWord(text));
   constexpr std::size_t MaxRealText = 60;  // a real source is slow

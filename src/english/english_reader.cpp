@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <span>
 #include <utility>
 
@@ -61,6 +62,36 @@ PieceIterator EndOfSentence(PieceIterator zFrom, PieceIterator zEnd) {
   return found == limit ? limit : found + 1;
 }
 
+/// The end of the first paragraph of `zText`, after the line breaks of the empty line.
+std::size_t EndOfParagraph(std::string_view zText) {
+  bool isEmptyLine = false;
+  for (std::size_t at = 0; at < zText.size(); ++at) {
+    if (zText[at] == '\n' && isEmptyLine) {
+      return at + 1;
+    }
+    const bool isBlank = zText[at] == ' ' || zText[at] == '\t' || zText[at] == '\r';
+    isEmptyLine = zText[at] == '\n' || (isEmptyLine && isBlank);
+  }
+  return zText.size();
+}
+
+/// Appends a paragraph to what is before it.
+void Append(EnglishReading& zReading, EnglishReading zParagraph) {
+  std::string& sayData = zReading.sayData;
+  if (!sayData.empty() && !zParagraph.sayData.empty()) {
+    if (sayData.ends_with(',')) {
+      sayData.pop_back();
+    }
+    if (!sayData.ends_with(SentencePause)) {
+      sayData.append(" ").append(SentencePause);
+    }
+    sayData += " \n\n";  // a line break alone separates no words in Say Data
+  }
+  sayData += zParagraph.sayData;
+  std::move(zParagraph.unread.begin(), zParagraph.unread.end(),
+            std::back_inserter(zReading.unread));
+}
+
 /// The letters of the word. Their vowels are paired with its phones.
 std::string SpellingOf(const SpokenPiece& zPiece) {
   std::string spelling = zPiece.text;
@@ -99,6 +130,17 @@ std::vector<std::string> EnglishReader::PieceSounds(const std::vector<SpokenPiec
 }
 
 EnglishReading EnglishReader::ReadText(std::string_view zText, const SayDataWords& zWords) const {
+  EnglishReading reading;
+  for (std::string_view rest = zText; !rest.empty();) {
+    const std::string_view paragraph = rest.substr(0, EndOfParagraph(rest));
+    Append(reading, ReadParagraph(paragraph, zWords));
+    rest.remove_prefix(paragraph.size());
+  }
+  return reading;
+}
+
+EnglishReading EnglishReader::ReadParagraph(std::string_view zText,
+                                            const SayDataWords& zWords) const {
   SpokenText spoken = NormalizeEnglish(zText, zWords);
   const std::vector<std::string> sounds = PieceSounds(spoken.pieces, "");
   EnglishReading reading{"", std::move(spoken.unread)};

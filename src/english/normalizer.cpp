@@ -200,8 +200,7 @@ class Normalizer {
 
   /// Whether the period of an abbreviation, which has been read, also ends the sentence.
   bool EndsSentenceHere() const {
-    return at_ >= text_.size() || At() == '\n' ||
-           (At() == ' ' && (At(1) == '\0' || IsCapital(At(1))));
+    return at_ >= text_.size() || (At() == ' ' && (At(1) == '\0' || IsCapital(At(1))));
   }
 
   bool ReadAbbreviation(std::string_view zWord) {
@@ -304,7 +303,7 @@ class Normalizer {
       ReadPeriods(count, before);
     } else if (symbol == '-') {
       ReadHyphens(count, before);
-    } else if (isOneOf("!?\n")) {
+    } else if (isOneOf("!?")) {
       AddPause(Kind::Sentence);
     } else if (isOneOf(",;:()[]{}")) {
       AddPause(Kind::Clause);
@@ -320,7 +319,7 @@ class Normalizer {
 
   /// A hyphen is "minus" before a number, a pause as a dash, and silent within a word.
   void ReadHyphens(std::size_t zCount, char zBefore) {
-    const bool isOpen = zBefore == ' ' || zBefore == '\n' || zBefore == '(';
+    const bool isOpen = zBefore == ' ' || zBefore == '(';
     if (zCount == 1 && isOpen && StartsWithNumber(Rest())) {
       AddWord("minus");
     } else if (zCount > 1 || isOpen) {

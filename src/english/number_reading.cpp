@@ -192,8 +192,7 @@ Reading ReadMoney(Cursor zCursor) {
 
 /// Whether a sentence may end before `zRest`.
 bool EndsSentence(std::string_view zRest) {
-  return zRest.empty() || zRest[0] == '\n' || zRest == " " ||
-         (zRest[0] == ' ' && IsCapital(zRest[1]));
+  return zRest.empty() || zRest == " " || (zRest[0] == ' ' && IsCapital(zRest[1]));
 }
 
 /// Takes am, p.m. and similar forms, with or without a space before them. Returns " A M" or " P M",

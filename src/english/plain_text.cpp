@@ -209,13 +209,13 @@ class PlainTextMaker {
     }
     const bool isBlank = zCharacter == ' ' || IsBetween(zCharacter, '\t', '\r');
     if (isBlank) {
-      TakeBlank(zCharacter == '\n');
+      TakeBlank();
     } else if (IsBetween(zCharacter, '!', '~')) {
       Append(static_cast<char>(zCharacter));
     } else if (const std::string_view* text =
                    zCharacter < 0x80 ? nullptr : ReplacementOf(zCharacter)) {
       for (const char character : *text) {
-        character == ' ' ? TakeBlank(false) : Append(character);
+        character == ' ' ? TakeBlank() : Append(character);
       }
     } else {
       Miss(zCharacter);
@@ -224,23 +224,16 @@ class PlainTextMaker {
     isMissing_ = false;
   }
 
-  void TakeBlank(bool zIsLineBreak) {
-    if (zIsLineBreak && isLineEmpty_ && !plain_.text.empty() && plain_.text.back() == ' ') {
-      plain_.text.back() = '\n';
-    }
-    isLineEmpty_ = isLineEmpty_ || zIsLineBreak;
-    if (!plain_.text.empty() && plain_.text.back() != ' ' && plain_.text.back() != '\n') {
+  void TakeBlank() {
+    if (!plain_.text.empty() && plain_.text.back() != ' ') {
       plain_.text += ' ';
     }
   }
 
-  void Append(char zCharacter) {
-    plain_.text += zCharacter;
-    isLineEmpty_ = false;
-  }
+  void Append(char zCharacter) { plain_.text += zCharacter; }
 
   void Miss(char32_t zCharacter) {
-    TakeBlank(false);
+    TakeBlank();
     if (!isMissing_) {
       plain_.unread.emplace_back();
     }
@@ -255,8 +248,7 @@ class PlainTextMaker {
   }
 
   PlainText plain_;
-  bool isLineEmpty_ = false;  ///< whether only blanks follow the last line break
-  bool isMissing_ = false;    ///< whether the character before had no reading
+  bool isMissing_ = false;  ///< whether the character before had no reading
 };
 
 }  // namespace

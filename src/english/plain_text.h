@@ -8,8 +8,7 @@ namespace loquitor {
 
 /// A text in the few characters that reading English needs.
 struct PlainText {
-  /// Printable ASCII, the signs below, and LF between paragraphs: for line breaks with an empty
-  /// line between them. Never two spaces or LFs in a row.
+  /// Printable ASCII and the signs below. Line breaks are spaces. Never two spaces in a row.
   std::string text;
   /// The characters without a reading, in UTF-8. A run of them is one text. Control characters are
   /// written like U+0007.

@@ -37,6 +37,17 @@ TEST_F(EnglishReading, ReadsWhatItWroteAsItIs) {
   EXPECT_EQ(Read(once), once);
 }
 
+TEST_F(EnglishReading, KeepsParagraphs) {
+  const std::string two = "\\SE\\IY \\P3 \n\nrobot";
+  for (const char* text : {"see\n\nrobot", "see.\n\nrobot", "see,\r\n \t\r\nrobot",
+                           "\n\nsee\n\n\n\nrobot\n\n", "see\n\n-\n\nrobot", "see \\P3 \n\nrobot"}) {
+    EXPECT_EQ(Read(text), two) << text;
+  }
+  EXPECT_EQ(Read("see\nrobot\n"), "\\SE\\IY robot");
+  EXPECT_THAT(reader_.ReadText("xyzzy €\n\n😀 see", words_).unread,
+              ElementsAre("xyzzy", "euro", "😀"));
+}
+
 TEST_F(EnglishReading, ShowsTheSourceASentenceAtATime) {
   Read("See the robot, me. See R2D2 me");
   EXPECT_THAT(source_.asked,

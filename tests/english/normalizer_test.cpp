@@ -137,7 +137,7 @@ constexpr SpokenCase Pauses[] = {
     {"one, two; three: four (five) six", "one , two , three , four , <five> , six"},
     {"One. Two! Three? Four...", "one . two . three . four ."},
     {"one — two – three -- four", "one , two , three , four"},
-    {"one,\ntwo\nthree\n\nfour", "one , two three . four"},
+    {"one,\ntwo\nthree\r\nfour", "one , two three four"},
     {"?!... one ...!?", "one ."},
     {"one,.two", "one . two"},
     {"===== one #####", "one ."},

@@ -149,7 +149,8 @@ TEST_F(EnglishSteps, AddToDictionaryWritesTheEntryAndLeavesTheWord) {
 TEST_F(EnglishSteps, EnglishToSoundsReadsTheSelectionOrTheWholeTextInOneStep) {
   const Rows<const char*, const char*> rows = {
       {"see the dog| see me", "\\SE\\IY \\DH\\AX dog \\SE\\IY \\MM\\IY|"},
-      {"see [see dog] see", "see \\SE\\IY dog| see"}};
+      {"see [see dog] see", "see \\SE\\IY dog| see"},
+      {"see\nme\n\ndog|", "\\SE\\IY \\MM\\IY \\P3 \n\ndog|"}};
   for (const auto& [before, after] : rows) {
     GivenSayData(before);
     const std::string old = SayDataBox()->Text();
@@ -162,6 +163,20 @@ TEST_F(EnglishSteps, EnglishToSoundsReadsTheSelectionOrTheWholeTextInOneStep) {
   Key(Qt::Key_F9);
   EXPECT_EQ(SayData(), "\\SE\\IY|");
   EXPECT_TRUE(IsHinted("\"mumble\"")) << QToolTip::text().toStdString();
+}
+
+TEST_F(EnglishSteps, EnglishToSoundsMakesNoLineThatTheBoxWouldNotTake) {
+  std::string paragraph;
+  for (int i = 0; i < 5000; ++i) {
+    paragraph += "see ";  // \SE\IY, 35,000 characters in all
+  }
+  GivenSayData((paragraph + paragraph + "|").c_str());
+  Key(Qt::Key_F9);
+  EXPECT_EQ(SayData(), paragraph + paragraph + "|");
+  EXPECT_TRUE(IsHinted("too long for one line")) << QToolTip::text().toStdString();
+  GivenSayData((paragraph + "\n\n" + paragraph + "|").c_str());
+  Key(Qt::Key_F9);
+  EXPECT_TRUE(SayData().ends_with("\\SE\\IY|"));
 }
 
 TEST_F(EnglishSteps, LoadingAWordWithoutDataOffersItsSounds) {

@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QStringList>
 #include <QTimer>
+#include <sstream>
 
 #include "english/unread_text.h"
 #include "text/words.h"
@@ -15,8 +16,6 @@
 namespace loquitor {
 namespace {
 
-constexpr std::size_t LongestResult = 1'000'000;  // the box takes no longer line
-
 /// English is read in UTF-8.
 std::string ToUtf8(std::string_view zBytes) {
   return ToQString(zBytes).toStdString();
@@ -26,6 +25,16 @@ QString Quoted(std::string_view zWord) {
   constexpr int shown = 40;
   const QString word = ToQString(zWord);
   return u'“' + (word.size() > shown ? word.left(shown) + u'…' : word) + u'”';
+}
+
+bool HasTooLongLine(const std::string& zText) {
+  std::istringstream lines(zText);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.size() > TextLimits().longestLine) {
+      return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace
@@ -147,7 +156,7 @@ void EnglishSteps::ReadAsEnglish() {
   const std::string text = isWhole ? area_->Text() : area_->SelectedText();
   const EnglishReading reading =
       context_.english->ReadText(ToUtf8(text), WordsOf(context_.dictionary, context_.translator));
-  if (reading.sayData.size() > LongestResult) {
+  if (HasTooLongLine(reading.sayData)) {
     Tell("Nothing was changed: the sounds would be too long for one line. Select less.");
     return;
   }
