@@ -157,11 +157,6 @@ TEST_F(TextBoxes, EveryLineBreakOfAnAreaIsOneCharacter) {
   EXPECT_EQ(area.SelectionLength(), 4);
   area.ReplaceSelection("x\r\ny");
   EXPECT_EQ(area.Text(), "a\nx\nyd\n");
-  for (const auto& [caret, next] : Rows<int, char>{{5, 'd'}, {6, '\n'}, {7, 0}, {7, 0}}) {
-    EXPECT_EQ(area.SelectionStart(), caret);
-    EXPECT_EQ(area.CharacterAfterCaret(), next);
-    area.MoveCaretRight();
-  }
   area.Select(100, 7);
   EXPECT_EQ(area.SelectionStart(), 7);
   QTest::keyClick(&area, Qt::Key_Return, Qt::ShiftModifier);

@@ -125,6 +125,14 @@ TEST_F(FrmPhraseTest, InsertsAtTheCaretOrOverTheSelectionAndTakesItBack) {
   }
 }
 
+TEST_F(FrmPhraseTest, MovesTheCaretPastManyBlanksAtOnce) {
+  GivenSayData("|" + std::string(1000, ' ') + "x");
+  const QSignalSpy moves(SayDataBox(), &TextArea::cursorPositionChanged);
+  Editor().InsertIntoSayData("\\IY");
+  EXPECT_EQ(SayData(), std::string(1000, ' ') + "\\IY |x");
+  EXPECT_LT(moves.size(), 4) << "each move lays the line out";
+}
+
 TEST_F(FrmPhraseTest, DisablesTheButtonThatIsAtWorkAndTakesKeysForTheSayData) {
   port.isHeldBack = true;
   WhileSending([this] {

@@ -183,17 +183,12 @@ void TextArea::Underline(const std::vector<Range>& zParts) {
   setExtraSelections(selections);
 }
 
-char TextArea::CharacterAfterCaret() const {
-  const int position = textCursor().position();
-  if (position >= document()->characterCount() - 1) {
-    return 0;
+void TextArea::SkipBlanks() {
+  int position = textCursor().position();
+  while (document()->characterAt(position) == u' ') {
+    ++position;
   }
-  const std::string character = StoredForm(document()->characterAt(position));
-  return character.empty() ? '\0' : character.front();
-}
-
-void TextArea::MoveCaretRight() {
-  Select(textCursor().position() + 1, 0);
+  Select(position, 0);  // once, because each move of the caret lays the line out
 }
 
 void TextArea::keyPressEvent(QKeyEvent* zEvent) {

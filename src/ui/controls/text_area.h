@@ -69,11 +69,8 @@ class TextArea : public QPlainTextEdit {
   /// nor its undo history changes.
   void Underline(const std::vector<Range>& zParts);
 
-  /// The byte of the character after the caret, or 0 at the end of the text.
-  char CharacterAfterCaret() const;
-
-  /// Does nothing at the end of the text, except that it drops the selection.
-  void MoveCaretRight();
+  /// Moves the caret past the blanks after it and drops the selection.
+  void SkipBlanks();
 
  protected:
   void contextMenuEvent(QContextMenuEvent* zEvent) override;

@@ -162,9 +162,7 @@ void frmPhrase::ShowThisCodeList(std::string_view zOrvatoneCodes) {
 
 void frmPhrase::InsertIntoSayData(std::string_view zText) {
   if (txtSayData_->SelectionLength() == 0) {
-    while (txtSayData_->CharacterAfterCaret() == ' ') {
-      txtSayData_->MoveCaretRight();
-    }
+    txtSayData_->SkipBlanks();
   }
   txtSayData_->ReplaceSelection(std::string(zText) + " ");
 }
