@@ -176,6 +176,10 @@ TEST_F(PortFailures, AreToldAtTheLastUsedControlAndInTheTooltipOfTheBoxWhileItIs
   Type("txtComPort", " x");
   Click("cmdTestSerialPort");
   EXPECT_TRUE(AwaitHint().startsWith("Port x: no device has this number.\n"));
+  Type("txtComPort", "<b>" + QString(30, 'x'));
+  Click("cmdTestSerialPort");
+  EXPECT_TRUE(AwaitHint().startsWith("Port <b>xxxxxxxxxxxxxxxxx: no device"));
+  EXPECT_TRUE(Tooltip().contains("Port &lt;b&gt;xxxxxxxxxxxxxxxxx: no device"));
 }
 
 TEST_F(PortFailures, WaitForTheReleaseOfTheMouseWhichWouldHideTheHint) {

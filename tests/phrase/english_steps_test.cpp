@@ -195,6 +195,17 @@ TEST_F(EnglishSteps, LoadingAWordWithoutDataOffersItsSounds) {
   }
 }
 
+TEST_F(EnglishSteps, AHintIsShortAndShowsWordsAsTheyAreTyped) {
+  for (const auto& [words, hint] : Rows<const char*, const char*>{
+           {"<b>robot", "“&lt;b&gt;robot”"},
+           {"robot a b c d e f g h i", "“f”, “g” and 2 more.\n"},
+           {"robot robot robot robot robot robot robot", "\\OH \\TT …"}}) {
+    Box("txtDict")->SetText(words);
+    Press("cmdLoadOver");
+    EXPECT_TRUE(IsHinted(hint)) << QToolTip::text().toStdString();
+  }
+}
+
 TEST_F(EnglishSteps, TheMenuShowsTheKeysAndSaysWhenItCannotReadEnglish) {
   const auto keys = [&] {
     QMenu* menu = MenuAt(0);

@@ -1,6 +1,7 @@
 #include "ui/controls/hint.h"
 
 #include <QAccessible>
+#include <QTextDocument>
 #include <QTimer>
 #include <QToolTip>
 #include <QVariant>
@@ -29,12 +30,17 @@ void Describe(QWidget* zControl, const QString& zText) {
 
 }  // namespace
 
+QString PlainTooltip(const QString& zText) {
+  return Qt::mightBeRichText(zText) ? Qt::convertFromPlainText(zText, Qt::WhiteSpaceNormal) : zText;
+}
+
 void ShowHint(QWidget* zControl, const QString& zText) {
-  if (QToolTip::isVisible() && QToolTip::text() == zText) {
+  const QString shown = PlainTooltip(zText);
+  if (QToolTip::isVisible() && QToolTip::text() == shown) {
     return;
   }
   const QRect caret = zControl->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-  QToolTip::showText(zControl->mapToGlobal(caret.bottomLeft()), zText, zControl, {},
+  QToolTip::showText(zControl->mapToGlobal(caret.bottomLeft()), shown, zControl, {},
                      ShownMilliseconds);
   Describe(zControl, zText);
   QAccessibleEvent announcement(zControl, QAccessible::Alert);

@@ -60,7 +60,8 @@ void DesktopSender::ShowPortState(PortState zState) {
 }
 
 QString DesktopSender::FailureText() const {
-  const std::string number = controls_.txtComPort->text().trimmed().toStdString();
+  constexpr int shown = 20;  // characters; the box takes thousands
+  const std::string number = controls_.txtComPort->text().trimmed().left(shown).toStdString();
   const QString text = QString::fromStdString(DescribeFailure(sender_.Failure(), number));
   return QString(text).replace(QLatin1String(". "), QLatin1String(".\n"));  // hints do not wrap
 }

@@ -12,6 +12,7 @@
 #include "ui/chip/frm_buttons.h"
 #include "ui/chip/frm_eeprom.h"
 #include "ui/controls/check_box.h"
+#include "ui/controls/hint.h"
 #include "ui/controls/text_box.h"
 #include "ui/dictedit/frm_dict_edit.h"
 #include "ui/phrase/frm_phrase.h"
@@ -140,7 +141,7 @@ void frmUtility::keyPressEvent(QKeyEvent* zEvent) {
 
 bool frmUtility::eventFilter(QObject* zWatched, QEvent* zEvent) {
   if (zWatched == txtComPort_ && zEvent->type() == QEvent::ToolTip) {
-    txtComPort_->setToolTip(serial_.PortText());
+    txtComPort_->setToolTip(PlainTooltip(serial_.PortText()));
   }
   return QWidget::eventFilter(zWatched, zEvent);
 }

@@ -21,10 +21,27 @@ std::string ToUtf8(std::string_view zBytes) {
   return ToQString(zBytes).toStdString();
 }
 
+/// The first `zLength` characters of `zBytes`.
+QString Beginning(std::string_view zBytes, std::size_t zLength) {
+  const QString beginning = ToQString(zBytes.substr(0, zLength));
+  return zBytes.size() > zLength ? beginning + u'…' : beginning;
+}
+
 QString Quoted(std::string_view zWord) {
-  constexpr int shown = 40;
-  const QString word = ToQString(zWord);
-  return u'“' + (word.size() > shown ? word.left(shown) + u'…' : word) + u'”';
+  constexpr std::size_t shown = 40;
+  return u'“' + Beginning(zWord, shown) + u'”';
+}
+
+QString Listed(std::string_view zSounds) {
+  constexpr std::size_t shown = 120;
+  return Beginning(zSounds, shown);
+}
+
+/// The first eight of `zParts`, and the number of the others.
+QString Listed(const QStringList& zParts) {
+  constexpr qsizetype shown = 8;
+  const QString list = zParts.mid(0, shown).join(", ");
+  return zParts.size() > shown ? list + QString(" and %L1 more").arg(zParts.size() - shown) : list;
 }
 
 bool HasTooLongLine(const std::string& zText) {
@@ -139,7 +156,7 @@ void EnglishSteps::AddToDictionary() {
     Tell("The dictionary could not be saved. Check the disk and whether you may write there.");
     return;
   }
-  Tell(Quoted(place->word) + " is now in the dictionary: " + ToQString(sounds));
+  Tell(Quoted(place->word) + " is now in the dictionary: " + Listed(sounds));
   emit EntryAdded();
 }
 
@@ -193,8 +210,8 @@ void EnglishSteps::OfferSounds(QWidget* zBox, std::string_view zWords) {
   });
   if (!missing.isEmpty()) {
     ShowHint(zBox,
-             "No data in the dictionary: " + missing.join(", ") +
-                 (offered_.empty() ? "." : ".\nF6 inserts these sounds: " + ToQString(offered_)));
+             "No data in the dictionary: " + Listed(missing) +
+                 (offered_.empty() ? "." : ".\nF6 inserts these sounds: " + Listed(offered_)));
   }
 }
 
