@@ -26,7 +26,8 @@ EntryLookUp PresentEntries(const DictionaryStore& zDictionary) {
 }  // namespace
 
 std::string SayDataTranslator::ExpandSayData(std::string_view zSayData) const {
-  return ExpandWords(zSayData, PresentEntries(dictionary_), MaxExpansion);
+  return ExpandWords(zSayData, PresentEntries(dictionary_),
+                     MaxExpansion + MaxGrowth * zSayData.size());
 }
 
 std::vector<SilentPart> SayDataTranslator::FindSilentParts(std::string_view zSayData) const {

@@ -17,7 +17,8 @@ class SayDataTranslator {
   SayDataTranslator(const CodeTable& zCodeTable, const DictionaryStore& zDictionary);
 
   /// The mnemonic text of `zSayData`: ExpandWords with the entries of the dictionary at the time of
-  /// the call, and MaxExpansion as the limit. Never fails.
+  /// the call, and a limit of MaxExpansion plus MaxGrowth times the length of `zSayData`. Never
+  /// fails.
   std::string ExpandSayData(std::string_view zSayData) const;
 
   /// The code string, one byte for each code, of mnemonic text that ExpandSayData has made. Tokens
@@ -28,8 +29,10 @@ class SayDataTranslator {
   /// the time of the call. Fast enough to call after every key.
   std::vector<SilentPart> FindSilentParts(std::string_view zSayData) const;
 
-  /// The most mnemonic text that one expansion makes, in bytes.
-  static constexpr std::size_t MaxExpansion = std::size_t{1} << 20;
+  /// What ends the expansion of a dictionary whose entries multiply each other. Pauses and names in
+  /// the Say Data grow four times at most, so a text without words is never cut.
+  static constexpr std::size_t MaxExpansion = std::size_t{1} << 20;  ///< in bytes
+  static constexpr std::size_t MaxGrowth = 16;
 
  private:
   const CodeTable& codeTable_;
