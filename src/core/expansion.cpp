@@ -19,7 +19,8 @@ namespace {
 
 /// The work of looking up a word inside an entry, as a number of characters read.
 constexpr std::size_t LookUpWork = 32;
-/// The most work in entries, for each byte of the Say Data and each byte that the result may have.
+/// The most work in entries: for every Say Data, and for each of its bytes.
+constexpr std::size_t EntryWork = std::size_t{8} << 20;
 constexpr std::size_t EntryWorkPerByte = 8;
 
 /// The entry of a word under expansion, or the Say Data itself.
@@ -41,7 +42,7 @@ class Expansion {
       : entryOf_(zEntryOf), maxLength_(zMaxLength) {}
 
   std::string Run(std::string_view zSayData) {
-    maxEntryWork_ = EntryWorkPerByte * (maxLength_ + zSayData.size());
+    maxEntryWork_ = EntryWork + EntryWorkPerByte * zSayData.size();
     walks_.emplace_back(std::string(zSayData), std::string());
     for (SayDataRun run; !walks_.empty() && !isFull_;) {
       if (walks_.back().runs.Next(run)) {
