@@ -1,0 +1,19 @@
+#pragma once
+
+#include "english/number_cursor.h"
+
+namespace loquitor {
+
+/// 3:30, 15:30:20, 9:00 am
+Reading ReadTime(Cursor zCursor);
+
+/// 5 pm
+Reading ReadHour(Cursor zCursor);
+
+/// 2024-12-31
+Reading ReadIsoDate(Cursor zCursor);
+
+/// 12/31/2024: the numbers in their order, because either of the first two may be the month.
+Reading ReadSlashDate(Cursor zCursor);
+
+}  // namespace loquitor
