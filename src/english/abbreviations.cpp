@@ -31,6 +31,7 @@ constexpr Abbreviation Abbreviations[] = {
     {"etc", Nothing, "et cetera", true},
     {"eg", Period, "for example"},
     {"ie", Period, "that is"},
+    {"eur", Nothing, "euro"},
     {"approx", Period, "approximately"},
     {"dept", Period, "department", true},
     {"no", PeriodAndNumber, "number"},
@@ -170,6 +171,9 @@ constexpr Unit Units[] = {
     {"K", "thousand", "thousand", true},
     {"M", "million", "million", true},
     {"x", "times", "times", true},
+    {"USD", "dollar", "dollars"},
+    {"EUR", "euro", "euros"},
+    {"GBP", "pound", "pounds"},
 };
 
 /// Words in capitals that are spelled although they have a vowel letter.

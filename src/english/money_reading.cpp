@@ -28,24 +28,27 @@ const Currency* CurrencyOf(char zSign) {
   return found == std::end(Currencies) ? nullptr : found;
 }
 
-/// Takes a word such as "million" after a space, or k, K or M right after the number. Returns the
-/// word with a space before it, or the empty text.
+struct Scale {
+  std::string_view symbol;  ///< right after the number
+  std::string_view word;    ///< after a space
+};
+constexpr Scale Scales[] = {{"k", "thousand"}, {"K", "thousand"}, {"m", "million"},
+                            {"M", "million"},  {"bn", "billion"}, {"B", "billion"},
+                            {"tn", "trillion"}};
+
+/// Takes the scale that follows, as in "5 million" or "5M". Returns its word with a space before
+/// it, or the empty text.
 std::string TakeScale(Cursor& zCursor) {
   Cursor after = zCursor;
   const bool hasBlank = after.Take(' ');
-  std::string word(after.TakeLetters().substr(0, 9));
-  const bool isWord =
-      word == "thousand" || word == "million" || word == "billion" || word == "trillion";
-  if (!hasBlank) {
-    word = word == "k" || word == "K" ? "thousand" : word == "M" ? "million" : "";
-  } else if (!isWord) {
-    word.clear();
+  const std::string_view letters = after.TakeLetters();
+  for (const Scale& scale : Scales) {
+    if (letters == (hasBlank ? scale.word : scale.symbol)) {
+      zCursor = after;
+      return " " + std::string(scale.word);
+    }
   }
-  if (word.empty()) {
-    return word;
-  }
-  zCursor = after;
-  return " " + word;
+  return "";
 }
 
 std::string PartWords(const Currency& zCurrency, const std::string& zParts) {
@@ -82,19 +85,21 @@ Reading ReadMoney(Cursor zCursor) {
     return std::nullopt;
   }
   zCursor.Skip(1);
-  const Amount amount = TakeAmount(zCursor);
-  const std::string scale = TakeScale(zCursor);
-  return NumberReading{MoneyWords(amount, scale, *currency), zCursor.At()};
+  zCursor.Take(' ');
+  const Amount amount = TakeMeasuredAmount(zCursor);
+  const std::string words = MoneyWords(amount, TakeScale(zCursor), *currency);
+  return NumberReading{words + TakeTo(zCursor), zCursor.At()};
 }
 
 Reading ReadMoneyBeforeSign(Cursor zCursor) {
-  const Amount amount = TakeAmount(zCursor);
+  const Amount amount = TakeMeasuredAmount(zCursor);
   zCursor.Take(' ');
   const Currency* const currency = CurrencyOf(zCursor.Next());
   if (currency == nullptr || IsDigit(zCursor.Next(1))) {
     return std::nullopt;
   }
-  return NumberReading{MoneyWords(amount, "", *currency), zCursor.At() + 1};
+  zCursor.Skip(1);
+  return NumberReading{MoneyWords(amount, "", *currency) + TakeTo(zCursor), zCursor.At()};
 }
 
 }  // namespace loquitor

@@ -72,6 +72,13 @@ struct Amount {
 /// Takes 1,234.56 and the like. Takes nothing when no digit is there.
 Amount TakeAmount(Cursor& zCursor);
 
+/// TakeAmount for a number with a unit or a currency, which may also have the European form: 5,99
+/// or 1.299,00, with one or two decimals.
+Amount TakeMeasuredAmount(Cursor& zCursor);
+
+/// Takes the hyphen of a range if another number follows it. Returns " to", or the empty text.
+std::string TakeTo(Cursor& zCursor);
+
 std::string AmountWords(const Amount& zAmount);
 
 /// CardinalWords without the leading zeros.

@@ -136,14 +136,13 @@ const Unit* TakeUnit(Cursor& zCursor) {
 
 /// 5 km, 10%, 20 °C
 Reading ReadMeasure(Cursor zCursor) {
-  const Amount amount = TakeAmount(zCursor);
+  const Amount amount = TakeMeasuredAmount(zCursor);
   const Unit* const unit = TakeUnit(zCursor);
   if (unit == nullptr) {
     return std::nullopt;
   }
-  return NumberReading{
-      AmountWords(amount) + " " + std::string(amount.IsOne() ? unit->one : unit->many),
-      zCursor.At()};
+  const std::string name(amount.IsOne() ? unit->one : unit->many);
+  return NumberReading{AmountWords(amount) + " " + name + TakeTo(zCursor), zCursor.At()};
 }
 
 /// The 1 of 1 1/2, with an "and". The fraction is read as the next number.
@@ -161,12 +160,15 @@ Reading ReadPlain(Cursor zCursor) {
                        zCursor.At()};
 }
 
-constexpr Reading (*Readers[])(Cursor) = {
-    ReadMoney,   ReadDotted,          ReadTime,        ReadRatio,
-    ReadIsoDate, ReadSlashDate,       ReadFraction,    ReadDecade,
-    ReadOrdinal, ReadYearRange,       ReadDigitGroups, ReadRange,
-    ReadHour,    ReadMoneyBeforeSign, ReadMeasure,     ReadWholeBeforeFraction,
-    ReadPlain};
+constexpr Reading (*Readers[])(Cursor) = {ReadMoney,     ReadMoneyBeforeSign,
+                                          ReadDotted,    ReadTime,
+                                          ReadRatio,     ReadIsoDate,
+                                          ReadSlashDate, ReadFraction,
+                                          ReadDecade,    ReadOrdinal,
+                                          ReadYearRange, ReadDigitGroups,
+                                          ReadRange,     ReadHour,
+                                          ReadMeasure,   ReadWholeBeforeFraction,
+                                          ReadPlain};
 
 }  // namespace
 
@@ -174,6 +176,7 @@ bool StartsWithNumber(std::string_view zText) {
   Cursor cursor(zText);
   if (IsCurrencySign(cursor.Next())) {
     cursor.Skip(1);
+    cursor.Take(' ');
   }
   cursor.Take('.');
   return IsDigit(cursor.Next());

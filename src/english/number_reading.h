@@ -14,8 +14,8 @@ struct NumberReading {
   std::size_t size;  ///< how many characters of the text were read, more than 0
 };
 
-/// Whether `zText` begins with a number: an optional currency sign, an optional decimal point, a
-/// digit.
+/// Whether `zText` begins with a number: an optional currency sign and a space after it, an
+/// optional decimal point, a digit.
 bool StartsWithNumber(std::string_view zText);
 
 /// Reads the number at the start of `zText` and what belongs to it: a currency sign, a unit, the

@@ -63,14 +63,16 @@ Reading ReadTime(Cursor zCursor) {
   }
   const std::string half = TakeHalfOfDay(zCursor);
   const std::string minuteWords = MinuteWords(minutes, !half.empty());
-  return NumberReading{ValueWords(hour) + minuteWords + seconds + half, zCursor.At()};
+  const std::string words = ValueWords(hour) + minuteWords + seconds + half;
+  return NumberReading{words + TakeTo(zCursor), zCursor.At()};
 }
 
 Reading ReadHour(Cursor zCursor) {
   const std::string_view hour = zCursor.TakeDigits();
   const std::string half = TakeHalfOfDay(zCursor);
   const bool isHour = !half.empty() && hour.size() <= 2;
-  return isHour ? Reading({ValueWords(hour) + half, zCursor.At()}) : std::nullopt;
+  const std::string words = ValueWords(hour) + half + TakeTo(zCursor);
+  return isHour ? Reading({words, zCursor.At()}) : std::nullopt;
 }
 
 Reading ReadIsoDate(Cursor zCursor) {

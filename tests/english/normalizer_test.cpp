@@ -96,6 +96,14 @@ constexpr SpokenCase Measures[] = {
     {"£1.5 million, €3k, 5 € 2.50€ ¥100 50¢",
      "one point <five> million pounds , three thousand euros , <five> euros two euros and fifty "
      "cents one hundred yen fifty cents"},
+    {"5,99 € €1.299,00 € 5",
+     "<five> euros and ninety nine cents one thousand two hundred ninety nine euros <five> euros"},
+    {"1,5 kg, 1,5", "one point <five> kilograms , one , <five>"},
+    {"1 000 000 1'000 12 345", "one million one thousand twelve three hundred forty <five>"},
+    {"$2bn $3m 5 EUR", "two billion dollars three million dollars <five> euros"},
+    {"$5-$10 3V-5V 9:00-17:00 9am-5pm",
+     "<five> dollars to ten dollars three volts to <five> volts nine o'clock to seventeen o'clock "
+     "nine A M to <five> P M"},
     {"10% 7.5 %", "ten percent seven point <five> percent"},
     {"20°C 1 °F 90°", "twenty degrees celsius one degree fahrenheit ninety degrees"},
     {"5V, 20 mA, 10kΩ, 1 km, 100 µs",
