@@ -1,6 +1,7 @@
 #include "english/normalizer.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "core/say_data_runs.h"
@@ -45,14 +46,19 @@ class Normalizer {
       ReadMnemonic();
     } else if (IsNameCharacter(At()) && !IsNameCharacter(Before()) && ReadEntryWithDigits()) {
     } else if (StartsWithNumber(Rest())) {
-      const NumberReading reading = ReadNumber(Rest());
-      AddWords(reading.words);
-      at_ += reading.size;
+      Read(ReadNumber(Rest()));
+    } else if (const std::optional<NumberReading> phone = ReadPhoneNumber(Rest())) {
+      Read(*phone);
     } else if (IsLetter(At())) {
       ReadLetters();
     } else {
       ReadSymbol();
     }
+  }
+
+  void Read(const NumberReading& zReading) {
+    AddWords(zReading.words);
+    at_ += zReading.size;
   }
 
   // Pieces

@@ -10,6 +10,7 @@
 #include "english/money_reading.h"
 #include "english/number_cursor.h"
 #include "english/number_words.h"
+#include "english/phone_number_reading.h"
 #include "english/time_reading.h"
 
 namespace loquitor {
@@ -25,18 +26,22 @@ Reading ReadRatio(Cursor zCursor) {
   return NumberReading{CardinalWords(first) + " to", zCursor.At()};
 }
 
-/// 3/4
+/// 3/4. Not 24/7, because a fraction of more than nine parts is less than one.
 Reading ReadFraction(Cursor zCursor) {
-  constexpr std::size_t LongestPart = 2;
+  constexpr std::size_t LongestCount = 2;
+  constexpr std::size_t LongestPart = 4;
   const std::string_view count = zCursor.TakeDigits();
   const bool hasSlash = zCursor.Take('/');
   const std::string_view part = zCursor.TakeDigits();
-  if (!hasSlash || part.empty() || part.size() > LongestPart || zCursor.Next() == '/') {
+  const bool hasForm = hasSlash && count.size() <= LongestCount && count[0] != '0' &&
+                       !part.empty() && part.size() <= LongestPart && zCursor.Next() != '/';
+  if (!hasForm) {
     return std::nullopt;
   }
-  const unsigned number = static_cast<unsigned>(std::stoul(std::string(part)));
+  const unsigned long number = std::stoul(std::string(part));
   const std::string name(PartName(number));
-  if (name.empty() || count.size() > LongestPart || count[0] == '0') {
+  const bool isTooMuch = count.size() > 1 && std::stoul(std::string(count)) > number;
+  if (name.empty() || isTooMuch) {
     return std::nullopt;
   }
   const std::string many = number == 2 ? "halves" : name + "s";
@@ -63,24 +68,6 @@ Reading ReadOrdinal(Cursor zCursor) {
     return std::nullopt;
   }
   return NumberReading{OrdinalWords(amount.whole), zCursor.At()};
-}
-
-/// 555-1234: digits in groups.
-Reading ReadDigitGroups(Cursor zCursor) {
-  constexpr std::size_t MostGroups = 8;
-  constexpr std::size_t ShortestGroup = 3;
-  std::string words;
-  std::size_t groups = 0;
-  std::size_t shortest = ShortestGroup;
-  do {
-    const std::string_view digits = zCursor.TakeDigits();
-    words += (words.empty() ? "" : " , ") + DigitWords(digits);
-    shortest = std::min(shortest, digits.size());
-    ++groups;
-  } while (groups < MostGroups && zCursor.Next() == '-' && IsDigit(zCursor.Next(1)) &&
-           zCursor.Take('-'));
-  const bool isPhoneNumber = (groups == 2 && shortest >= ShortestGroup) || groups > 2;
-  return isPhoneNumber ? Reading({words, zCursor.At()}) : std::nullopt;
 }
 
 /// The first number of 10-20, with a "to". The second one is read as the next number.
@@ -160,15 +147,14 @@ Reading ReadPlain(Cursor zCursor) {
                        zCursor.At()};
 }
 
-constexpr Reading (*Readers[])(Cursor) = {ReadMoney,     ReadMoneyBeforeSign,
-                                          ReadDotted,    ReadTime,
-                                          ReadRatio,     ReadIsoDate,
-                                          ReadSlashDate, ReadFraction,
-                                          ReadDecade,    ReadOrdinal,
-                                          ReadYearRange, ReadDigitGroups,
-                                          ReadRange,     ReadHour,
-                                          ReadMeasure,   ReadWholeBeforeFraction,
-                                          ReadPlain};
+constexpr Reading (*Readers[])(Cursor) = {
+    ReadMoney,     ReadMoneyBeforeSign, ReadAmericanNumber,
+    ReadPointDate, ReadDotted,          ReadTime,
+    ReadRatio,     ReadIsoDate,         ReadSlashDate,
+    ReadFraction,  ReadDecade,          ReadOrdinal,
+    ReadYearRange, ReadDigitGroups,     ReadRange,
+    ReadHour,      ReadMeasure,         ReadWholeBeforeFraction,
+    ReadPlain};
 
 }  // namespace
 
@@ -180,6 +166,10 @@ bool StartsWithNumber(std::string_view zText) {
   }
   cursor.Take('.');
   return IsDigit(cursor.Next());
+}
+
+std::optional<NumberReading> ReadPhoneNumber(std::string_view zText) {
+  return ReadInternationalNumber(Cursor(zText));
 }
 
 NumberReading ReadNumber(std::string_view zText) {

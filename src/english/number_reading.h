@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,10 @@ struct NumberReading {
 /// Whether `zText` begins with a number: an optional currency sign and a space after it, an
 /// optional decimal point, a digit.
 bool StartsWithNumber(std::string_view zText);
+
+/// Reads the phone number at the start of `zText`, which begins with a plus sign. Nothing when no
+/// phone number is there.
+std::optional<NumberReading> ReadPhoneNumber(std::string_view zText);
 
 /// Reads the number at the start of `zText` and what belongs to it: a currency sign, a unit, the
 /// rest of a time or a date, a fraction, the ending of an ordinal. `zText` must be plain text (see

@@ -1,5 +1,6 @@
 #include "english/number_words.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <iterator>
 
@@ -25,8 +26,15 @@ constexpr IrregularOrdinal IrregularOrdinals[] = {
     {"one", "first"},    {"two", "second"}, {"three", "third"},   {"five", "fifth"},
     {"eight", "eighth"}, {"nine", "ninth"}, {"twelve", "twelfth"}};
 
-constexpr std::string_view Parts[] = {"half",    "third",  "quarter", "fifth", "sixth",
-                                      "seventh", "eighth", "ninth",   "tenth"};
+struct Part {
+  unsigned long number;
+  std::string_view name;
+};
+constexpr Part Parts[] = {{2, "half"},        {3, "third"},          {4, "quarter"},
+                          {5, "fifth"},       {6, "sixth"},          {7, "seventh"},
+                          {8, "eighth"},      {9, "ninth"},          {10, "tenth"},
+                          {16, "sixteenth"},  {32, "thirty second"}, {64, "sixty fourth"},
+                          {100, "hundredth"}, {1000, "thousandth"}};
 
 void AddWord(std::string& zWords, std::string_view zWord) {
   if (!zWords.empty() && !zWord.empty()) {
@@ -133,10 +141,10 @@ std::string PluralOf(std::string zWords) {
   return zWords + (zWords.back() == 'x' ? "es" : "s");
 }
 
-std::string_view PartName(unsigned zPart) {
-  constexpr unsigned First = 2;
-  const bool isKnown = zPart >= First && zPart - First < std::size(Parts);
-  return isKnown ? Parts[zPart - First] : std::string_view();
+std::string_view PartName(unsigned long zPart) {
+  const auto* const found = std::find_if(std::begin(Parts), std::end(Parts),
+                                         [zPart](const Part& p) { return p.number == zPart; });
+  return found == std::end(Parts) ? std::string_view() : found->name;
 }
 
 }  // namespace loquitor

@@ -25,7 +25,8 @@ std::string YearWords(std::string_view zDigits);
 /// The plural of a number's words: "nineties", "fives".
 std::string PluralOf(std::string zWords);
 
-/// The name of a fraction's denominator from 2 to 10 ("half", "third"). Empty for other numbers.
-std::string_view PartName(unsigned zPart);
+/// The name of a fraction's denominator ("half", "third"): 2 to 10, 16, 32, 64, 100 and 1000. Empty
+/// for other numbers.
+std::string_view PartName(unsigned long zPart);
 
 }  // namespace loquitor

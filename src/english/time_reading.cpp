@@ -41,6 +41,26 @@ constexpr std::string_view Months[] = {"january",   "february", "march",    "apr
                                        "may",       "june",     "july",     "august",
                                        "september", "october",  "november", "december"};
 
+/// Takes two numbers of a date and the separator after each. Returns their words with a space after
+/// them, or the empty text.
+std::string TakeDayAndMonth(Cursor& zCursor, char zSeparator) {
+  constexpr std::size_t LongestDay = 2;
+  std::string words;
+  for (int i = 0; i < 2; ++i) {
+    const std::string_view digits = zCursor.TakeDigits();
+    if (digits.empty() || digits.size() > LongestDay || !zCursor.Take(zSeparator)) {
+      return "";
+    }
+    words += ValueWords(digits) + " ";
+  }
+  return words;
+}
+
+/// 1100 to 2099
+bool IsYearOfDate(std::string_view zDigits) {
+  return zDigits.size() == 4 && zDigits >= "1100" && zDigits <= "2099";
+}
+
 }  // namespace
 
 Reading ReadTime(Cursor zCursor) {
@@ -69,17 +89,22 @@ Reading ReadTime(Cursor zCursor) {
 
 Reading ReadHour(Cursor zCursor) {
   const std::string_view hour = zCursor.TakeDigits();
-  const std::string half = TakeHalfOfDay(zCursor);
+  Cursor after = zCursor;
+  const std::string_view minutes = after.Take('.') ? after.TakeDigits(2) : std::string_view();
+  std::string half = TakeHalfOfDay(minutes.empty() ? zCursor : after);
   const bool isHour = !half.empty() && hour.size() <= 2;
+  half = (minutes.empty() ? "" : MinuteWords(minutes, true)) + half;
+  zCursor = minutes.empty() ? zCursor : after;
   const std::string words = ValueWords(hour) + half + TakeTo(zCursor);
   return isHour ? Reading({words, zCursor.At()}) : std::nullopt;
 }
 
 Reading ReadIsoDate(Cursor zCursor) {
   const std::string_view year = zCursor.TakeDigits(4);
-  const bool hasYear = !year.empty() && zCursor.Take('-');
+  const char separator = zCursor.Next() == '/' ? '/' : '-';
+  const bool hasYear = !year.empty() && zCursor.Take(separator);
   const std::string_view month = hasYear ? zCursor.TakeDigits(2) : std::string_view();
-  const bool hasMonth = month >= "01" && month <= "12" && zCursor.Take('-');
+  const bool hasMonth = month >= "01" && month <= "12" && zCursor.Take(separator);
   const std::string_view day = hasMonth ? zCursor.TakeDigits(2) : std::string_view();
   if (day < "01" || day > "31") {
     return std::nullopt;
@@ -91,18 +116,20 @@ Reading ReadIsoDate(Cursor zCursor) {
 }
 
 Reading ReadSlashDate(Cursor zCursor) {
-  constexpr std::size_t LongestDay = 2;
-  std::string words;
-  for (int i = 0; i < 2; ++i) {
-    const std::string_view digits = zCursor.TakeDigits();
-    if (digits.empty() || digits.size() > LongestDay || !zCursor.Take('/')) {
-      return std::nullopt;
-    }
-    words += ValueWords(digits) + " ";
-  }
+  const std::string words = TakeDayAndMonth(zCursor, '/');
   const std::string_view year = zCursor.TakeDigits();
   const bool isYear = year.size() == 2 || year.size() == 4;
-  return isYear ? Reading({words + PlainWords(year), zCursor.At()}) : std::nullopt;
+  return !words.empty() && isYear ? Reading({words + PlainWords(year), zCursor.At()})
+                                  : std::nullopt;
+}
+
+Reading ReadPointDate(Cursor zCursor) {
+  const std::string words = TakeDayAndMonth(zCursor, '.');
+  const std::string_view year = zCursor.TakeDigits();
+  const bool goesOn = zCursor.Next() == '.' && IsDigit(zCursor.Next(1));
+  return !words.empty() && IsYearOfDate(year) && !goesOn
+             ? Reading({words + PlainWords(year), zCursor.At()})
+             : std::nullopt;
 }
 
 }  // namespace loquitor

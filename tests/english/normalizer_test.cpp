@@ -85,6 +85,20 @@ constexpr SpokenCase Numbers[] = {
     {"192.168.0.1", "one hundred ninety two point one hundred sixty eight point zero point one"},
     {"12/31/2024", "twelve thirty one twenty twenty four"},
     {"2024-01-05", "january fifth twenty twenty four"},
+    {"31.12.2024 2024/01/05 1.2.3",
+     "thirty one twelve twenty twenty four january fifth twenty twenty four one point two point "
+     "three"},
+    {"3/16 1/1000 5/4 24/7",
+     "three sixteenths one thousandth <five> quarters twenty four slash seven"},
+    {"+49 30 123456 +1 (555) 123-4567 +5 +10 20",
+     "plus four nine , three zero , one two three four <five> six plus one , <five> <five> <five> "
+     ", one two three , four <five> six seven plus <five> plus ten twenty"},
+    {"(555) 123-4567 or 555.123.4567",
+     "<five> <five> <five> , one two three , four <five> six seven or <five> <five> <five> , one "
+     "two three , four <five> six seven"},
+    {"0171 2345, 030/123 or 007 1",
+     "zero one seven one , two three four <five> , zero three zero , one two three or zero zero "
+     "seven one"},
     {"2024-13-05", "two zero two four , one three , zero <five>"},
 };
 INSTANTIATE_TEST_SUITE_P(Numbers, Normalizing, ::testing::ValuesIn(Numbers));
@@ -115,6 +129,7 @@ constexpr SpokenCase Measures[] = {
      "twenty seconds"},
     {"3:30 pm, 9 a.m. today", "three thirty P M , nine A M today"},
     {"At 9 a.m. He left at 10:00 PM.", "at nine A M . he left at ten P M ."},
+    {"8.30 pm 8.30", "eight thirty P M eight point three zero"},
     {"16:9", "sixteen to nine"},
 };
 INSTANTIATE_TEST_SUITE_P(Measures, Normalizing, ::testing::ValuesIn(Measures));
