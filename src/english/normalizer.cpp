@@ -47,6 +47,7 @@ class Normalizer {
     } else if (IsNameCharacter(At()) && !IsNameCharacter(Before()) && ReadEntryWithDigits()) {
     } else if (StartsWithNumber(Rest())) {
       Read(ReadNumber(Rest()));
+      ReadInchSign();
     } else if (const std::optional<NumberReading> phone = ReadPhoneNumber(Rest())) {
       Read(*phone);
     } else if (IsLetter(At())) {
@@ -59,6 +60,14 @@ class Normalizer {
   void Read(const NumberReading& zReading) {
     AddWords(zReading.words);
     at_ += zReading.size;
+  }
+
+  /// 3.5": a quotation mark after a number stands for inches, unless it closes a quotation.
+  void ReadInchSign() {
+    if (At() == '"' && IsDigit(Before()) && !isInQuotation_) {
+      AddWord("inches");
+      ++at_;
+    }
   }
 
   // Pieces
@@ -305,6 +314,7 @@ class Normalizer {
     const auto isOneOf = [symbol](std::string_view zSymbols) {
       return zSymbols.find(symbol) != std::string_view::npos;
     };
+    isInQuotation_ = isInQuotation_ != (symbol == '"' && count % 2 == 1);
     if (symbol == '.') {
       ReadPeriods(count, before);
     } else if (symbol == '-') {
@@ -350,6 +360,7 @@ class Normalizer {
   std::string text_;
   const SayDataWords& words_;
   std::size_t at_ = 0;
+  bool isInQuotation_ = false;  ///< whether a quotation mark has opened and none has closed
   SpokenText spoken_;
 };
 

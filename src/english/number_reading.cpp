@@ -102,23 +102,45 @@ Reading ReadDotted(Cursor zCursor) {
   return points > 1 ? Reading({words, zCursor.At()}) : std::nullopt;
 }
 
+/// Whether `zRest`, which follows a unit, begins with a period that ends a short form, not a
+/// sentence: "3 in. wide".
+bool HasPeriodOfShortForm(std::string_view zRest) {
+  return zRest.starts_with(". ") && zRest.size() > 2 && !IsCapital(zRest[2]);
+}
+
 /// Takes the unit that follows, with or without a space before it. Null when there is none.
 const Unit* TakeUnit(Cursor& zCursor) {
-  constexpr std::size_t LongestUnit = 5;
+  constexpr std::size_t LongestUnit = 6;
   Cursor after = zCursor;
   const bool hasBlank = after.Take(' ');
   const std::string_view rest = after.Rest();
   for (std::size_t size = std::min(LongestUnit, rest.size()); size > 0; --size) {
-    const bool isCut =
-        size < rest.size() && IsLetter(rest[size - 1]) && IsNameCharacter(rest[size]);
+    const bool endsWithLetter = IsLetter(rest[size - 1]);
+    const bool isCut = size < rest.size() && endsWithLetter && IsNameCharacter(rest[size]);
+    const bool hasPeriod = endsWithLetter && HasPeriodOfShortForm(rest.substr(size));
     const Unit* const unit = isCut ? nullptr : FindUnit(rest.substr(0, size));
-    if (unit != nullptr && !(hasBlank && unit->isWordToo)) {
-      after.Skip(size);
+    if (unit != nullptr && (!hasBlank || !unit->isWordToo || hasPeriod)) {
+      after.Skip(size + (hasPeriod ? 1 : 0));
       zCursor = after;
       return unit;
     }
   }
   return nullptr;
+}
+
+/// 5'10"
+Reading ReadFeetAndInches(Cursor zCursor) {
+  constexpr std::size_t LongestPart = 2;
+  const std::string_view feet = zCursor.TakeDigits();
+  const bool hasFeet = zCursor.Take('\'');
+  zCursor.Take(' ');
+  const std::string_view inches = zCursor.TakeDigits();
+  if (!hasFeet || inches.empty() || inches.size() > LongestPart || !zCursor.Take('"')) {
+    return std::nullopt;
+  }
+  return NumberReading{CardinalWords(feet) + (feet == "1" ? " foot " : " feet ") +
+                           CardinalWords(inches) + (inches == "1" ? " inch" : " inches"),
+                       zCursor.At()};
 }
 
 /// 5 km, 10%, 20 °C
@@ -148,13 +170,10 @@ Reading ReadPlain(Cursor zCursor) {
 }
 
 constexpr Reading (*Readers[])(Cursor) = {
-    ReadMoney,     ReadMoneyBeforeSign, ReadAmericanNumber,
-    ReadPointDate, ReadDotted,          ReadTime,
-    ReadRatio,     ReadIsoDate,         ReadSlashDate,
-    ReadFraction,  ReadDecade,          ReadOrdinal,
-    ReadYearRange, ReadDigitGroups,     ReadRange,
-    ReadHour,      ReadMeasure,         ReadWholeBeforeFraction,
-    ReadPlain};
+    ReadMoney,  ReadMoneyBeforeSign, ReadAmericanNumber, ReadPointDate,           ReadDotted,
+    ReadTime,   ReadRatio,           ReadIsoDate,        ReadSlashDate,           ReadFraction,
+    ReadDecade, ReadOrdinal,         ReadYearRange,      ReadDigitGroups,         ReadRange,
+    ReadHour,   ReadMeasure,         ReadFeetAndInches,  ReadWholeBeforeFraction, ReadPlain};
 
 }  // namespace
 

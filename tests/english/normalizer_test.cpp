@@ -130,6 +130,9 @@ constexpr SpokenCase Measures[] = {
     {"3:30 pm, 9 a.m. today", "three thirty P M , nine A M today"},
     {"At 9 a.m. He left at 10:00 PM.", "at nine A M . he left at ten P M ."},
     {"8.30 pm 8.30", "eight thirty P M eight point three zero"},
+    {"2 A 30 s 2 Mbit/s 12VDC", "two amps thirty seconds two megabits per second twelve volts D C"},
+    {"3 in. wide, in 3 in. It", "three inches wide , in three in . it"},
+    {"5'10\" 3.5\" \"I am 5\"", "<five> feet ten inches three point <five> inches i am <five>"},
     {"16:9", "sixteen to nine"},
 };
 INSTANTIATE_TEST_SUITE_P(Measures, Normalizing, ::testing::ValuesIn(Measures));
