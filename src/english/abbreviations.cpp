@@ -258,6 +258,21 @@ constexpr std::string_view RomanNumerals[][2] = {
 constexpr std::string_view VowellessWords[] = {"brr",  "grr", "hm", "hmm", "mm",  "nth",
                                                "psst", "pst", "sh", "shh", "tsk", "zzz"};
 
+/// Words that begin sentences more often than names, in lower case.
+constexpr std::string_view SentenceOpeners[] = {
+    "a",     "after",   "all",    "also",    "an",      "and",    "another", "any",    "are",
+    "as",    "at",      "be",     "because", "before",  "both",   "but",     "by",     "can",
+    "did",   "do",      "does",   "don",     "each",    "either", "even",    "every",  "for",
+    "from",  "go",      "had",    "has",     "have",    "he",     "her",     "here",   "his",
+    "how",   "however", "i",      "if",      "in",      "is",     "isn",     "it",     "its",
+    "just",  "last",    "let",    "many",    "maybe",   "more",   "most",    "my",     "never",
+    "next",  "no",      "nobody", "not",     "nothing", "now",    "of",      "on",     "once",
+    "one",   "only",    "or",     "our",     "perhaps", "please", "she",     "should", "since",
+    "so",    "some",    "soon",   "still",   "that",    "the",    "their",   "then",   "there",
+    "these", "they",    "this",   "those",   "to",      "today",  "too",     "turn",   "two",
+    "use",   "was",     "we",     "were",    "what",    "when",   "where",   "which",  "while",
+    "who",   "why",     "will",   "with",    "would",   "yes",    "yet",     "you",    "your"};
+
 struct NamedSymbol {
   char symbol;
   std::string_view name;
@@ -304,6 +319,10 @@ bool IsSpelledOut(std::string_view zWord) {
   }
   const bool hasVowel = zWord.find_first_of("aeiouyAEIOUY") != std::string_view::npos;
   return !hasVowel && !Holds(VowellessWords, ToLower(zWord));
+}
+
+bool OftenBeginsSentence(std::string_view zWord) {
+  return Holds(SentenceOpeners, ToLower(zWord));
 }
 
 std::string_view RomanNumeralWords(std::string_view zWord) {

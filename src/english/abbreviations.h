@@ -40,6 +40,9 @@ const Unit* FindUnit(std::string_view zSymbol);
 /// words that are spoken (hmm), or it is in capitals and on a list (USB).
 bool IsSpelledOut(std::string_view zWord);
 
+/// Whether `zWord` is one of the words that begin many sentences and few names (any letter case).
+bool OftenBeginsSentence(std::string_view zWord);
+
 /// The words of a Roman numeral in capitals with the value 2 to 20, except the single letters V and
 /// X. Empty for any other word.
 std::string_view RomanNumeralWords(std::string_view zWord);

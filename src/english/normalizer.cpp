@@ -191,23 +191,36 @@ class Normalizer {
     return Since(start);
   }
 
-  /// Whether a letter with a period is `zSteps` from here.
-  bool IsDottedLetter(std::size_t zSteps) const {
-    return IsLetter(At(zSteps)) && At(zSteps + 1) == '.';
+  /// The letters at the start of `zText`, at most three, if a period follows. One of several begins
+  /// with a capital. Empty when they are not there.
+  static std::string_view DottedLetters(std::string_view zText) {
+    constexpr std::size_t Longest = 3;
+    std::size_t size = 0;
+    while (size < zText.size() && size <= Longest && IsLetter(zText[size])) {
+      ++size;
+    }
+    const bool hasForm = size == 1 || (size > 1 && size <= Longest && IsCapital(zText[0]));
+    return hasForm && zText.substr(size).starts_with('.') ? zText.substr(0, size) : "";
   }
 
-  /// U.S.A., e.g.: single letters, each with its period.
+  /// U.S.A., e.g., Ph.D.: letters with periods, one of them alone.
   bool ReadDottedLetters() {
-    if (IsNameCharacter(Before()) || !IsDottedLetter(0) || !IsDottedLetter(2)) {
+    const std::string_view first = DottedLetters(Rest());
+    if (IsNameCharacter(Before()) || first.empty()) {
+      return false;
+    }
+    const std::string_view second = DottedLetters(Rest().substr(first.size() + 1));
+    if (second.empty() || (first.size() > 1 && second.size() > 1)) {
       return false;
     }
     std::string letters;
-    for (; IsDottedLetter(0); at_ += 2) {
-      letters += At();
+    for (std::string_view next = first; !next.empty(); next = DottedLetters(Rest())) {
+      letters += next;
+      at_ += next.size() + 1;
     }
     const Abbreviation* const known = FindAbbreviation(letters, {true, false, false});
     known != nullptr ? AddWords(known->words) : AddLetters(letters);
-    if (EndsSentenceHere()) {
+    if (EndsSentenceHere() && !IsBeforeName()) {
       AddPause(Kind::Sentence);
     }
     return true;
@@ -218,14 +231,33 @@ class Normalizer {
     return at_ >= text_.size() || (At() == ' ' && (At(1) == '\0' || IsCapital(At(1))));
   }
 
+  /// Whether a space and a capital follow that most likely begin a name, not a sentence.
+  bool IsBeforeName() const {
+    constexpr std::size_t LongestOpener = 8;
+    if (At() != ' ' || !IsCapital(At(1))) {
+      return false;
+    }
+    std::size_t size = 1;
+    while (size <= LongestOpener && IsLetter(At(1 + size))) {
+      ++size;
+    }
+    return size > LongestOpener || !OftenBeginsSentence(Rest().substr(1, size));
+  }
+
+  /// Whether the period here belongs to a name of the net or of a file: robots.co.uk.
+  bool IsPeriodInName() const { return At() == '.' && IsLetter(At(1)) && !IsCapital(At(1)); }
+
   bool ReadAbbreviation(std::string_view zWord) {
-    const bool hasPeriod = At() == '.';
+    const bool isFolder = zWord.size() < at_ && text_[at_ - zWord.size() - 1] == '/';
+    const bool hasPeriod = At() == '.' && !IsPeriodInName();
     const std::size_t next = hasPeriod ? 1 : 0;
     const bool hasBlank = At(next) == ' ';
     const char first = At(next + (hasBlank ? 1 : 0));
     const Abbreviation* const found =
         FindAbbreviation(zWord, {hasPeriod, IsDigit(first), hasBlank && IsCapital(first)});
-    if (found == nullptr || words_.hasEntry(zWord)) {
+    const bool isNumbered =
+        found != nullptr && found->needs == Abbreviation::Needs::PeriodAndNumber;
+    if (found == nullptr || isFolder || (words_.hasEntry(zWord) && !isNumbered)) {
       return false;
     }
     at_ += next;
@@ -279,7 +311,8 @@ class Normalizer {
   /// A and I are words, except for the A in "vitamin A".
   void ReadSingleLetter(std::string_view zLetter) {
     const char letter = LowerCase(zLetter[0]);
-    const bool isBeforeWord = At() == ' ' && (IsLetter(At(1)) || IsDigit(At(1)) || At(1) == '"');
+    const bool isBeforeWord = At() == ' ' && (IsLetter(At(1)) || At(1) == '"' || At(1) == '\'' ||
+                                              StartsWithNumber(Rest().substr(1)));
     const bool isWord = letter == 'i' || (letter == 'a' && (zLetter[0] == 'a' || isBeforeWord));
     isWord ? AddWord(zLetter) : AddLetters(zLetter);
   }
@@ -330,7 +363,19 @@ class Normalizer {
 
   void ReadPeriods(std::size_t zCount, char zBefore) {
     const bool isInName = zCount == 1 && IsNameCharacter(zBefore) && IsNameCharacter(At());
-    isInName ? AddWord("dot") : AddPause(Kind::Sentence);
+    if (isInName) {
+      AddWord("dot");
+    } else if (zCount > 1 || !IsInitial()) {
+      AddPause(Kind::Sentence);
+    }
+  }
+
+  /// Whether the period that has been read belongs to the initial of a name: J. Smith.
+  bool IsInitial() const {
+    constexpr std::size_t Size = 2;
+    const char letter = at_ >= Size ? text_[at_ - Size] : ' ';
+    const char before = at_ > Size ? text_[at_ - Size - 1] : ' ';
+    return IsCapital(letter) && letter != 'I' && (before == ' ' || before == '(') && IsBeforeName();
   }
 
   /// A hyphen is "minus" before a number, a pause as a dash, and silent within a word.

@@ -142,6 +142,12 @@ constexpr SpokenCase Words[] = {
      "doctor smith , mister lee and saint peter in "
      "main street now"},
     {"No. 5 No. Etc. Then", "number <five> no . et cetera . then"},
+    {"J. Smith, J. R. R. Smith, (J.K. Lee), Mr. X. U.S. Army",
+     "J smith , J R R smith , J K lee , mister X U S army"},
+    {"Plan B. Then A. It", "plan B . then A . it"},
+    {"A Ph.D. in M.Sc. Now a.b.", "a P H D in M S C . now A B ."},
+    {"robots.co.uk /etc/x etc.", "robots dot co dot uk slash etc slash X et cetera ."},
+    {"A $5 kit", "a <five> dollars kit"},
     {"e.g. this, i.e. that", "for example this , that is that"},
     {"U.S.A. is. U.S. Then", "U S A is . U S . then"},
     {"USB TV LEDs PC's NASA pwm", "U S B T V L E Ds P Cs nasa P W M"},
@@ -169,6 +175,11 @@ constexpr SpokenCase Pauses[] = {
     {"===== one #####", "one ."},
 };
 INSTANTIATE_TEST_SUITE_P(Pauses, Normalizing, ::testing::ValuesIn(Pauses));
+
+TEST(Normalizing, TellsANumberedShortFormFromTheWord) {
+  EXPECT_EQ(Spoken("No. 5 no. Five. Sat. 5", WordsWithEntries({"no", "sat"})),
+            "number five <no> . five . <Sat> . five");
+}
 
 TEST(Normalizing, TellsWhatItCannotRead) {
   const SpokenText spoken =
