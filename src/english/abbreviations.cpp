@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "english/plain_text.h"
 #include "text/letters.h"
 
 namespace loquitor {
@@ -273,19 +272,6 @@ constexpr std::string_view SentenceOpeners[] = {
     "use",   "was",     "we",     "were",    "what",    "when",   "where",   "which",  "while",
     "who",   "why",     "will",   "with",    "would",   "yes",    "yet",     "you",    "your"};
 
-struct NamedSymbol {
-  char symbol;
-  std::string_view name;
-};
-constexpr NamedSymbol NamedSymbols[] = {
-    {'#', "number"},        {'$', "dollar"},      {'%', "percent"},
-    {'&', "and"},           {'*', "star"},        {'+', "plus"},
-    {'/', "slash"},         {'<', "less than"},   {'=', "equals"},
-    {'>', "greater than"},  {'@', "at"},          {'^', "caret"},
-    {'|', "bar"},           {'~', "tilde"},       {EuroSign, "euro"},
-    {CentSign, "cent"},     {PoundSign, "pound"}, {YenSign, "yen"},
-    {DegreeSign, "degree"}, {MicroSign, "micro"}};
-
 template <typename Table>
 bool Holds(const Table& zTable, std::string_view zWord) {
   return std::find(std::begin(zTable), std::end(zTable), zWord) != std::end(zTable);
@@ -329,13 +315,6 @@ std::string_view RomanNumeralWords(std::string_view zWord) {
   const auto* const found = std::find_if(std::begin(RomanNumerals), std::end(RomanNumerals),
                                          [zWord](const auto& zRow) { return zRow[0] == zWord; });
   return found == std::end(RomanNumerals) ? std::string_view() : (*found)[1];
-}
-
-std::string_view SymbolName(char zSymbol) {
-  const auto* const found =
-      std::find_if(std::begin(NamedSymbols), std::end(NamedSymbols),
-                   [zSymbol](const NamedSymbol& zNamed) { return zNamed.symbol == zSymbol; });
-  return found == std::end(NamedSymbols) ? std::string_view() : found->name;
 }
 
 }  // namespace loquitor

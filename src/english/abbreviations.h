@@ -47,7 +47,4 @@ bool OftenBeginsSentence(std::string_view zWord);
 /// X. Empty for any other word.
 std::string_view RomanNumeralWords(std::string_view zWord);
 
-/// The name of a symbol, such as "percent" for %. Empty when it has none.
-std::string_view SymbolName(char zSymbol);
-
 }  // namespace loquitor

@@ -9,6 +9,7 @@
 #include "english/number_reading.h"
 #include "english/phone_source.h"
 #include "english/plain_text.h"
+#include "english/symbols.h"
 #include "text/letters.h"
 #include "text/words.h"
 
@@ -45,11 +46,14 @@ class Normalizer {
     if (At() == '\\') {
       ReadMnemonic();
     } else if (IsNameCharacter(At()) && !IsNameCharacter(Before()) && ReadEntryWithDigits()) {
-    } else if (StartsWithNumber(Rest())) {
+    } else if (StartsWithNumber(Rest()) && (At() != '.' || !IsNameCharacter(Before()))) {
       Read(ReadNumber(Rest()));
       ReadInchSign();
     } else if (const std::optional<NumberReading> phone = ReadPhoneNumber(Rest())) {
       Read(*phone);
+    } else if (IsLetter(At()) && IsBy(text_, at_)) {
+      AddWord("by");
+      ++at_;
     } else if (IsLetter(At())) {
       ReadLetters();
     } else {
@@ -339,33 +343,37 @@ class Normalizer {
   // Symbols
 
   void ReadSymbol() {
+    if (const SymbolPair* const pair = FindSymbolPair(Rest())) {
+      AddWords(pair->words);
+      at_ += pair->symbols.size();
+      return;
+    }
     const char symbol = At();
     const std::size_t start = at_;
     SkipWhile([symbol](char zCharacter) { return zCharacter == symbol; });
-    const std::size_t count = at_ - start;
-    const char before = start > 0 ? text_[start - 1] : ' ';
     const auto isOneOf = [symbol](std::string_view zSymbols) {
       return zSymbols.find(symbol) != std::string_view::npos;
     };
-    isInQuotation_ = isInQuotation_ != (symbol == '"' && count % 2 == 1);
+    isInQuotation_ = isInQuotation_ != (symbol == '"' && (at_ - start) % 2 == 1);
     if (symbol == '.') {
-      ReadPeriods(count, before);
+      ReadPeriods(start);
     } else if (symbol == '-') {
-      ReadHyphens(count, before);
+      ReadHyphens(start);
     } else if (isOneOf("!?")) {
       AddPause(Kind::Sentence);
     } else if (isOneOf(",;:()[]{}")) {
       AddPause(Kind::Clause);
     } else if (!isOneOf(" \"'`_")) {
-      ReadNamedSymbol(symbol, count, before);
+      ReadNamedSymbol(start);
     }
   }
 
-  void ReadPeriods(std::size_t zCount, char zBefore) {
-    const bool isInName = zCount == 1 && IsNameCharacter(zBefore) && IsNameCharacter(At());
-    if (isInName) {
-      AddWord("dot");
-    } else if (zCount > 1 || !IsInitial()) {
+  void ReadPeriods(std::size_t zStart) {
+    const bool isOne = at_ - zStart == 1;
+    const std::string_view name = isOne ? PeriodName(text_, zStart) : "";
+    if (!name.empty()) {
+      AddWord(name);
+    } else if (!isOne || !IsInitial()) {
       AddPause(Kind::Sentence);
     }
   }
@@ -379,26 +387,27 @@ class Normalizer {
   }
 
   /// A hyphen is "minus" before a number, a pause as a dash, and silent within a word.
-  void ReadHyphens(std::size_t zCount, char zBefore) {
-    const bool isOpen = zBefore == ' ' || zBefore == '(';
-    if (zCount == 1 && isOpen && StartsWithNumber(Rest())) {
+  void ReadHyphens(std::size_t zStart) {
+    const bool isOne = at_ - zStart == 1;
+    const char before = zStart > 0 ? text_[zStart - 1] : ' ';
+    if (isOne && IsMinus(text_, zStart)) {
       AddWord("minus");
-    } else if (zCount > 1 || isOpen) {
+    } else if (!isOne || before == ' ' || before == '(') {
       AddPause(Kind::Clause);
     }
   }
 
   /// A row of the same symbol is a ruled line and gives a pause.
-  void ReadNamedSymbol(char zSymbol, std::size_t zCount, char zBefore) {
+  void ReadNamedSymbol(std::size_t zStart) {
     constexpr std::size_t ShortestRule = 3;
-    if (zCount >= ShortestRule) {
+    const std::size_t count = at_ - zStart;
+    if (count >= ShortestRule) {
       AddPause(Kind::Sentence);
       return;
     }
-    const bool isBetweenNumbers = IsDigit(At(At() == ' ' ? 1 : 0));
-    const bool isTimes = zSymbol == '*' && isBetweenNumbers && (IsDigit(zBefore) || zBefore == ' ');
-    for (std::size_t i = 0; i < zCount; ++i) {
-      AddWords(isTimes ? "times" : SymbolName(zSymbol));
+    const std::string_view name = SymbolName(text_, zStart, at_);
+    for (std::size_t i = 0; i < count; ++i) {
+      AddWords(name);
     }
   }
 

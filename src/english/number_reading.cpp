@@ -70,14 +70,19 @@ Reading ReadOrdinal(Cursor zCursor) {
   return NumberReading{OrdinalWords(amount.whole), zCursor.At()};
 }
 
-/// The first number of 10-20, with a "to". The second one is read as the next number.
+/// The first number of 10-20, with a "to", or of 5-3=2, with a "minus". The second one is read as
+/// the next number.
 Reading ReadRange(Cursor zCursor) {
   const Amount first = TakeAmount(zCursor);
   if (!zCursor.Take('-') || !IsDigit(zCursor.Next())) {
     return std::nullopt;
   }
+  Cursor after = zCursor;
+  TakeAmount(after);
+  after.Take(' ');
   const bool isYears = first.isPlain && IsYear(first.whole);
-  return NumberReading{(isYears ? YearWords(first.whole) : AmountWords(first)) + " to",
+  return NumberReading{(isYears ? YearWords(first.whole) : AmountWords(first)) +
+                           (after.Next() == '=' ? " minus" : " to"),
                        zCursor.At()};
 }
 

@@ -66,6 +66,16 @@ constexpr Replacement Replacements[] = {{0xA2, "\xA2"},
                                         {0x2039, "'"},
                                         {0x203A, "'"},
                                         {0x2044, "/"},
+                                        {0x2080, "0"},
+                                        {0x2081, "1"},
+                                        {0x2082, "2"},
+                                        {0x2083, "3"},
+                                        {0x2084, "4"},
+                                        {0x2085, "5"},
+                                        {0x2086, "6"},
+                                        {0x2087, "7"},
+                                        {0x2088, "8"},
+                                        {0x2089, "9"},
                                         {0x20AC, "\x80"},
                                         {0x2103,
                                          "\xB0"
@@ -73,9 +83,19 @@ constexpr Replacement Replacements[] = {{0xA2, "\xA2"},
                                         {0x2109,
                                          "\xB0"
                                          "F"},
+                                        {0x2116, " number "},
                                         {0x2122, " trademark "},
                                         {0x2126, "Ohm"},
+                                        {0x2153, " 1/3 "},
+                                        {0x2154, " 2/3 "},
+                                        {0x215B, " 1/8 "},
+                                        {0x215C, " 3/8 "},
+                                        {0x215D, " 5/8 "},
+                                        {0x215E, " 7/8 "},
+                                        {0x2192, " arrow "},
                                         {0x2212, "-"},
+                                        {0x221A, " square root of "},
+                                        {0x221E, " infinity "},
                                         {0x2248, " about "},
                                         {0x2260, " is not "},
                                         {0x2264, " at most "},
@@ -196,8 +216,10 @@ class PlainTextMaker {
   PlainText Make(std::string_view zText) {
     while (!zText.empty()) {
       const Decoded decoded = DecodeFirst(zText);
-      Take(decoded.character);
       zText.remove_prefix(decoded.size);
+      const bool isBullet = isLineStart_ && decoded.character == '*' && zText.starts_with(' ');
+      isLineStart_ = decoded.character == '\n' || (isLineStart_ && decoded.character == ' ');
+      Take(isBullet ? U'-' : decoded.character);
     }
     return std::move(plain_);
   }
@@ -248,7 +270,8 @@ class PlainTextMaker {
   }
 
   PlainText plain_;
-  bool isMissing_ = false;  ///< whether the character before had no reading
+  bool isLineStart_ = true;  ///< whether the line has had nothing but spaces
+  bool isMissing_ = false;   ///< whether the character before had no reading
 };
 
 }  // namespace

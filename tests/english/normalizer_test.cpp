@@ -160,6 +160,18 @@ constexpr SpokenCase Words[] = {
     {"café naïve Łódź straße e\xCC\x81t\xCC\x81 ﬁx", "cafe naive lodz strasse et fix"},
     {"caf\xE9 \x93quote\x94", "cafe quote"},
     {"WiFi YouTube McDonald iPhone", "wi fi you tube mcdonald I phone"},
+    {"a != b == c <= -5 -> x && y", "a is not B equals C at most minus <five> arrow X and Y"},
+    {"2 * 3, 6 / 2, 5 - 3 = 2, 5-3=2, 5 - 3 in",
+     "two times three , six divided by two , <five> minus three equals two , <five> minus three "
+     "equals two , <five> , three in"},
+    {"2^10 10^-6 1.5e-3 x=-1 ~5 ^",
+     "two to the power of ten ten to the power of minus six one point <five> E minus three X "
+     "equals minus one about <five> caret"},
+    {"10x15 M3x10 0x1F 4x4 x2", "ten by fifteen M three by ten zero X one F four by four X two"},
+    {"**bold** *it.* a * b 5* p*q", "bold it . a star B <five> star P star Q"},
+    {"C# G# H# # ", "C sharp G sharp H number number"},
+    {".bashrc ../x beta.2 1:23.4", "dot bashrc . slash X beta dot two one twenty three point four"},
+    {"H₂O ⅔ √2 →", "H two O two thirds square root of two arrow"},
     {"me@x.org a & b + c", "me at X dot org a and B plus C"},
     {"\\PITCH \\100 robot \\iy\\eh", "\\PITCH \\100 <robot> \\iy\\eh"},
 };
@@ -173,6 +185,8 @@ constexpr SpokenCase Pauses[] = {
     {"?!... one ...!?", "one ."},
     {"one,.two", "one . two"},
     {"===== one #####", "one ."},
+    {"# One", "one"},
+    {"* one\n * two\n- three *", "one , two , three star"},
 };
 INSTANTIATE_TEST_SUITE_P(Pauses, Normalizing, ::testing::ValuesIn(Pauses));
 

@@ -1,0 +1,159 @@
+#include "english/symbols.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "core/say_data_runs.h"
+#include "english/number_reading.h"
+#include "english/plain_text.h"
+#include "text/letters.h"
+
+namespace loquitor {
+
+namespace {
+
+struct NamedSymbol {
+  char symbol;
+  std::string_view name;
+};
+constexpr NamedSymbol NamedSymbols[] = {
+    {'#', "number"},        {'$', "dollar"},      {'%', "percent"},
+    {'&', "and"},           {'*', "star"},        {'+', "plus"},
+    {'/', "slash"},         {'<', "less than"},   {'=', "equals"},
+    {'>', "greater than"},  {'@', "at"},          {'^', "caret"},
+    {'|', "bar"},           {'~', "tilde"},       {EuroSign, "euro"},
+    {CentSign, "cent"},     {PoundSign, "pound"}, {YenSign, "yen"},
+    {DegreeSign, "degree"}, {MicroSign, "micro"}};
+
+constexpr SymbolPair SymbolPairs[] = {{"==", "equals"},    {"!=", "is not"}, {"<=", "at most"},
+                                      {">=", "at least"},  {"->", "arrow"},  {"=>", "arrow"},
+                                      {"&&", "and"},       {"||", "or"}};
+
+bool IsOneOf(char zCharacter, std::string_view zCharacters) {
+  return zCharacters.find(zCharacter) != std::string_view::npos;
+}
+
+/// The characters around a symbol. Spaces stand for what is beyond the ends of the text.
+class Neighbours {
+ public:
+  Neighbours(std::string_view zText, std::size_t zStart, std::size_t zEnd)
+      : text_(zText), start_(zStart), end_(zEnd) {}
+
+  char Before(std::size_t zSteps = 1) const {
+    return zSteps <= start_ ? text_[start_ - zSteps] : ' ';
+  }
+  char After(std::size_t zSteps = 0) const {
+    return end_ + zSteps < text_.size() ? text_[end_ + zSteps] : ' ';
+  }
+  char BeforeBlank() const { return Before(Before() == ' ' ? 2 : 1); }
+  char AfterBlank() const { return After(After() == ' ' ? 1 : 0); }
+  std::string_view Rest() const { return text_.substr(end_); }
+  bool IsAtStart() const { return start_ == 0; }
+
+ private:
+  std::string_view text_;
+  std::size_t start_;
+  std::size_t end_;
+};
+
+/// *word*, **word**: the stars are at one side of a word.
+bool IsEmphasis(const Neighbours& zAround) {
+  const bool opens = IsOneOf(zAround.Before(), " (\"'") && IsLetter(zAround.After());
+  const bool isAfterWord = IsLetter(zAround.Before()) || IsOneOf(zAround.Before(), ".!?");
+  return opens || (isAfterWord && !IsNameCharacter(zAround.After()));
+}
+
+std::string_view StarName(const Neighbours& zAround) {
+  if (IsDigit(zAround.AfterBlank()) && (IsDigit(zAround.Before()) || zAround.Before() == ' ')) {
+    return "times";
+  }
+  return IsEmphasis(zAround) ? "" : "star";
+}
+
+/// The # of a heading is silent, that of F# is "sharp".
+std::string_view NumberSignName(const Neighbours& zAround) {
+  const bool isNote = zAround.Before() >= 'A' && zAround.Before() <= 'G' &&
+                      !IsNameCharacter(zAround.Before(2)) && !IsNameCharacter(zAround.After());
+  const bool isHeading = zAround.IsAtStart() && zAround.After() == ' ' && IsLetter(zAround.After(1));
+  return isNote ? "sharp" : isHeading ? "" : "number";
+}
+
+/// Whether an equals sign ends the sum that `zRest` begins with.
+bool IsSum(std::string_view zRest) {
+  constexpr std::size_t Longest = 40;
+  const std::size_t end = zRest.substr(0, Longest).find_first_not_of("0123456789 .+-*/");
+  return end != std::string_view::npos && zRest[end] == '=';
+}
+
+}  // namespace
+
+const SymbolPair* FindSymbolPair(std::string_view zText) {
+  const auto* const found =
+      std::find_if(std::begin(SymbolPairs), std::end(SymbolPairs),
+                   [zText](const SymbolPair& p) { return zText.starts_with(p.symbols); });
+  const bool isLonger = found != std::end(SymbolPairs) && zText.size() > 2 && zText[2] == zText[1];
+  return found == std::end(SymbolPairs) || isLonger ? nullptr : found;
+}
+
+std::string_view SymbolName(std::string_view zText, std::size_t zStart, std::size_t zEnd) {
+  const Neighbours around(zText, zStart, zEnd);
+  switch (zText[zStart]) {
+    case '*':
+      return StarName(around);
+    case '#':
+      return NumberSignName(around);
+    case '/':
+      if (around.Before() == ' ' && around.After() == ' ' && IsDigit(around.BeforeBlank()) &&
+          IsDigit(around.AfterBlank())) {
+        return "divided by";
+      }
+      break;
+    case '^':
+      if (IsNameCharacter(around.Before()) && (IsNameCharacter(around.After()) || around.After() == '-')) {
+        return "to the power of";
+      }
+      break;
+    case '~':
+      if (IsDigit(around.After())) {
+        return "about";
+      }
+      break;
+    default:
+      break;
+  }
+  const auto* const found =
+      std::find_if(std::begin(NamedSymbols), std::end(NamedSymbols),
+                   [&](const NamedSymbol& zNamed) { return zNamed.symbol == zText[zStart]; });
+  return found == std::end(NamedSymbols) ? std::string_view() : found->name;
+}
+
+bool IsMinus(std::string_view zText, std::size_t zAt) {
+  const Neighbours around(zText, zAt, zAt + 1);
+  const bool isExponent = (around.Before() == 'e' || around.Before() == 'E') && IsDigit(around.Before(2));
+  const bool isSign = IsOneOf(around.Before(), " ([{\"=<>^*/+~") || isExponent;
+  const bool isOperator = around.Before() == ' ' && IsNameCharacter(around.BeforeBlank()) &&
+                          around.After() == ' ' && IsDigit(around.AfterBlank()) &&
+                          IsSum(around.Rest());
+  return (isSign && StartsWithNumber(around.Rest())) || isOperator;
+}
+
+std::string_view PeriodName(std::string_view zText, std::size_t zAt) {
+  const Neighbours around(zText, zAt, zAt + 1);
+  const char before = around.Before();
+  const char after = around.After();
+  const bool isWithin = IsNameCharacter(before) && IsNameCharacter(after);
+  const bool isFirst = IsOneOf(before, " /(\"'") && (IsLetter(after) || after == '/');
+  if (!isWithin && !isFirst) {
+    return "";
+  }
+  return IsDigit(before) && IsDigit(after) ? "point" : "dot";
+}
+
+bool IsBy(std::string_view zText, std::size_t zAt) {
+  const Neighbours around(zText, zAt, zAt + 1);
+  const bool isHexadecimal = around.Before() == '0' && !IsDigit(around.Before(2));
+  return LowerCase(zText[zAt]) == 'x' && IsDigit(around.Before()) && IsDigit(around.After()) &&
+         !isHexadecimal;
+}
+
+}  // namespace loquitor
