@@ -12,23 +12,31 @@ struct KnownWord {
   std::string_view phones;
 };
 
-/// Words that a source takes for other words because it drops apostrophes, or spells.
+/// Words that a source takes for other words because it drops apostrophes, or spells, or guesses
+/// wrongly.
 constexpr KnownWord KnownWords[] = {
     {"a", "ax"},
     {"ain't", "ey1 n t"},
     {"brr", "b er1"},
     {"can't", "k ae1 n t"},
     {"don't", "d ow1 n t"},
+    {"eeprom", "iy1 p r aa m"},
+    {"emoji", "ih m ow1 jh iy"},
+    {"goin", "g ow1 ax n"},
     {"grr", "g er1"},
     {"he'll", "hh iy1 l"},
     {"hm", "hh ah1 m"},
     {"hmm", "hh ah1 m"},
     {"i'll", "ay1 l"},
+    {"jpeg", "jh ey1 p eh g"},
+    {"json", "jh ey1 s ax n"},
+    {"lidar", "l ay1 d aa r"},
     {"mm", "m"},
     {"mustn't", "m ah1 s ax n t"},
     {"nth", "eh1 n th"},
     {"psst", "p s t"},
     {"pst", "p s t"},
+    {"readme", "r iy1 d m iy"},
     {"sh", "sh"},
     {"shan't", "sh ae1 n t"},
     {"she'll", "sh iy1 l"},

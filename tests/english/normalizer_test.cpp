@@ -121,7 +121,7 @@ constexpr SpokenCase Measures[] = {
     {"10% 7.5 %", "ten percent seven point <five> percent"},
     {"20°C 1 °F 90°", "twenty degrees celsius one degree fahrenheit ninety degrees"},
     {"5V, 20 mA, 10kΩ, 1 km, 100 µs",
-     "<five> volts , twenty milliamps , ten kilohms , one kilometer "
+     "<five> volts , twenty milli amps , ten kilo ohms , one kilometer "
      ", one hundred microseconds"},
     {"3x 10k 5 in a row", "three times ten thousand <five> in a row"},
     {"3:30 3:05 3:00 15:30:20",
@@ -130,7 +130,8 @@ constexpr SpokenCase Measures[] = {
     {"3:30 pm, 9 a.m. today", "three thirty P M , nine A M today"},
     {"At 9 a.m. He left at 10:00 PM.", "at nine A M . he left at ten P M ."},
     {"8.30 pm 8.30", "eight thirty P M eight point three zero"},
-    {"2 A 30 s 2 Mbit/s 12VDC", "two amps thirty seconds two megabits per second twelve volts D C"},
+    {"2 A 30 s 2 Mbit/s 12VDC",
+     "two amps thirty seconds two mega bits per second twelve volts D C"},
     {"3 in. wide, in 3 in. It", "three inches wide , in three in . it"},
     {"5'10\" 3.5\" \"I am 5\"", "<five> feet ten inches three point <five> inches i am <five>"},
     {"16:9", "sixteen to nine"},
