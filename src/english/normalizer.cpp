@@ -6,7 +6,8 @@
 
 #include "core/say_data_runs.h"
 #include "english/abbreviations.h"
-#include "english/number_reading.h"
+#include "english/number_cursor.h"
+#include "english/number_words.h"
 #include "english/phone_source.h"
 #include "english/plain_text.h"
 #include "english/symbols.h"
@@ -47,7 +48,7 @@ class Normalizer {
       ReadMnemonic();
     } else if (IsNameCharacter(At()) && !IsNameCharacter(Before()) && ReadEntryWithDigits()) {
     } else if (StartsWithNumber(Rest()) && (At() != '.' || !IsNameCharacter(Before()))) {
-      Read(ReadNumber(Rest()));
+      Read(NumberHere());
       ReadInchSign();
     } else if (const std::optional<NumberReading> phone = ReadPhoneNumber(Rest())) {
       Read(*phone);
@@ -59,6 +60,19 @@ class Normalizer {
     } else {
       ReadSymbol();
     }
+  }
+
+  /// The number here. In the name of a part, such as RS232, it is read digit by digit.
+  NumberReading NumberHere() const {
+    constexpr std::size_t ShortestName = 3;
+    const std::string_view digits = DigitsAt(text_, at_);
+    const bool isHundreds = digits.ends_with("00");
+    NumberReading reading = ReadNumber(Rest());
+    const bool isAlone = reading.size == digits.size() && digits.size() >= ShortestName;
+    if (isAlone && !isHundreds && !IsYear(digits) && IsInPartName(text_, at_)) {
+      reading.words = DigitWords(digits);
+    }
+    return reading;
   }
 
   void Read(const NumberReading& zReading) {
@@ -175,7 +189,7 @@ class Normalizer {
   // Words
 
   void ReadLetters() {
-    if (ReadDottedLetters()) {
+    if (ReadDottedLetters() || ReadWith()) {
       return;
     }
     const std::string_view word = TakeLetters();
@@ -184,6 +198,20 @@ class Normalizer {
     } else if (!ReadAbbreviation(word)) {
       ReadPlainWord(word);
     }
+  }
+
+  /// w/o and w/
+  bool ReadWith() {
+    if (IsNameCharacter(Before()) || LowerCase(At()) != 'w' || At(1) != '/') {
+      return false;
+    }
+    const bool isWithout = LowerCase(At(2)) == 'o' && !IsNameCharacter(At(3));
+    if (!isWithout && At(2) != ' ') {
+      return false;
+    }
+    AddWord(isWithout ? "without" : "with");
+    at_ += isWithout ? 3 : 2;
+    return true;
   }
 
   /// Letters, and apostrophes between two of them.
@@ -275,7 +303,8 @@ class Normalizer {
   void ReadApostropheWord(std::string_view zWord) {
     const std::string_view stem = zWord.substr(0, zWord.find('\''));
     const bool isPlural = zWord.substr(stem.size()) == "'s" || zWord.substr(stem.size()) == "'S";
-    if (isPlural && IsSpelled(stem)) {
+    const bool isItIs = zWord == "IT'S";
+    if (isPlural && !isItIs && IsSpelled(stem)) {
       AddSpelledPlural(stem);
     } else {
       AddWord(zWord);
@@ -293,6 +322,16 @@ class Normalizer {
     spoken_.pieces.back().text += 's';
   }
 
+  /// NE555, CO2, AT&T: two capitals beside a digit or an ampersand are spelled.
+  bool IsPairInName(std::string_view zWord) const {
+    constexpr std::size_t Pair = 2;
+    const std::size_t start = at_ - zWord.size();
+    const char before = start > 0 ? text_[start - 1] : ' ';
+    const auto joins = [](char zCharacter) { return IsDigit(zCharacter) || zCharacter == '&'; };
+    return zWord.size() == Pair && IsCapital(zWord[0]) && IsCapital(zWord[1]) &&
+           (joins(At()) || joins(before));
+  }
+
   void ReadPlainWord(std::string_view zWord) {
     const std::string_view stem = zWord.substr(0, zWord.size() - 1);
     const bool isPlural =
@@ -305,7 +344,7 @@ class Normalizer {
       AddWords(number);
     } else if (isPlural && IsSpelledOut(stem)) {
       AddSpelledPlural(stem);
-    } else if (IsSpelledOut(zWord)) {
+    } else if (IsSpelledOut(zWord) || IsPairInName(zWord)) {
       AddLetters(zWord);
     } else {
       ReadHumps(zWord);

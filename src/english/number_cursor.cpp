@@ -38,6 +38,10 @@ std::string TakeWhole(Cursor& zCursor, bool (*zIsGroup)(const Cursor&)) {
 
 }  // namespace
 
+std::string_view DigitsAt(std::string_view zText, std::size_t zAt) {
+  return Cursor(zText.substr(zAt)).TakeDigits();
+}
+
 Amount TakeAmount(Cursor& zCursor) {
   const std::size_t start = zCursor.At();
   Amount amount;

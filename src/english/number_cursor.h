@@ -69,6 +69,9 @@ struct Amount {
   bool IsZero() const { return whole.find_first_not_of('0') == std::string::npos; }
 };
 
+/// The digits at `zAt` of `zText`. May be empty.
+std::string_view DigitsAt(std::string_view zText, std::size_t zAt);
+
 /// Takes 1,234.56 and the like. Takes nothing when no digit is there.
 Amount TakeAmount(Cursor& zCursor);
 

@@ -6,6 +6,8 @@
 #include <iterator>
 #include <utility>
 
+#include "text/letters.h"
+
 namespace loquitor {
 
 namespace {
@@ -211,6 +213,10 @@ const std::string_view* ReplacementOf(char32_t zCharacter) {
   return isBlank ? &Blank : nullptr;
 }
 
+bool IsSmall(char zCharacter) {
+  return IsLetter(zCharacter) && !IsCapital(zCharacter);
+}
+
 class PlainTextMaker {
  public:
   PlainText Make(std::string_view zText) {
@@ -218,6 +224,7 @@ class PlainTextMaker {
       const Decoded decoded = DecodeFirst(zText);
       zText.remove_prefix(decoded.size);
       const bool isBullet = isLineStart_ && decoded.character == '*' && zText.starts_with(' ');
+      isWordCut_ = isWordCut_ || (decoded.character == '\n' && EndsInHyphenatedWord());
       isLineStart_ = decoded.character == '\n' || (isLineStart_ && decoded.character == ' ');
       Take(isBullet ? U'-' : decoded.character);
     }
@@ -252,7 +259,20 @@ class PlainTextMaker {
     }
   }
 
-  void Append(char zCharacter) { plain_.text += zCharacter; }
+  /// Whether the text ends in a small letter, a hyphen and perhaps a space.
+  bool EndsInHyphenatedWord() const {
+    std::string_view text = plain_.text;
+    text.remove_suffix(text.ends_with(' ') ? 1 : 0);
+    return text.size() > 1 && text.ends_with('-') && IsSmall(text[text.size() - 2]);
+  }
+
+  void Append(char zCharacter) {
+    if (isWordCut_ && IsSmall(zCharacter)) {
+      plain_.text.resize(plain_.text.rfind('-'));
+    }
+    isWordCut_ = false;
+    plain_.text += zCharacter;
+  }
 
   void Miss(char32_t zCharacter) {
     TakeBlank();
@@ -270,6 +290,7 @@ class PlainTextMaker {
   }
 
   PlainText plain_;
+  bool isWordCut_ = false;   ///< whether a hyphen ended the line before
   bool isLineStart_ = true;  ///< whether the line has had nothing but spaces
   bool isMissing_ = false;   ///< whether the character before had no reading
 };

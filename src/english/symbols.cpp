@@ -25,9 +25,9 @@ constexpr NamedSymbol NamedSymbols[] = {
     {CentSign, "cent"},     {PoundSign, "pound"}, {YenSign, "yen"},
     {DegreeSign, "degree"}, {MicroSign, "micro"}};
 
-constexpr SymbolPair SymbolPairs[] = {{"==", "equals"},    {"!=", "is not"}, {"<=", "at most"},
-                                      {">=", "at least"},  {"->", "arrow"},  {"=>", "arrow"},
-                                      {"&&", "and"},       {"||", "or"}};
+constexpr SymbolPair SymbolPairs[] = {{"==", "equals"},   {"!=", "is not"}, {"<=", "at most"},
+                                      {">=", "at least"}, {"->", "arrow"},  {"=>", "arrow"},
+                                      {"&&", "and"},      {"||", "or"}};
 
 bool IsOneOf(char zCharacter, std::string_view zCharacters) {
   return zCharacters.find(zCharacter) != std::string_view::npos;
@@ -74,7 +74,8 @@ std::string_view StarName(const Neighbours& zAround) {
 std::string_view NumberSignName(const Neighbours& zAround) {
   const bool isNote = zAround.Before() >= 'A' && zAround.Before() <= 'G' &&
                       !IsNameCharacter(zAround.Before(2)) && !IsNameCharacter(zAround.After());
-  const bool isHeading = zAround.IsAtStart() && zAround.After() == ' ' && IsLetter(zAround.After(1));
+  const bool isHeading =
+      zAround.IsAtStart() && zAround.After() == ' ' && IsLetter(zAround.After(1));
   return isNote ? "sharp" : isHeading ? "" : "number";
 }
 
@@ -109,7 +110,8 @@ std::string_view SymbolName(std::string_view zText, std::size_t zStart, std::siz
       }
       break;
     case '^':
-      if (IsNameCharacter(around.Before()) && (IsNameCharacter(around.After()) || around.After() == '-')) {
+      if (IsNameCharacter(around.Before()) &&
+          (IsNameCharacter(around.After()) || around.After() == '-')) {
         return "to the power of";
       }
       break;
@@ -129,7 +131,8 @@ std::string_view SymbolName(std::string_view zText, std::size_t zStart, std::siz
 
 bool IsMinus(std::string_view zText, std::size_t zAt) {
   const Neighbours around(zText, zAt, zAt + 1);
-  const bool isExponent = (around.Before() == 'e' || around.Before() == 'E') && IsDigit(around.Before(2));
+  const bool isExponent =
+      (around.Before() == 'e' || around.Before() == 'E') && IsDigit(around.Before(2));
   const bool isSign = IsOneOf(around.Before(), " ([{\"=<>^*/+~") || isExponent;
   const bool isOperator = around.Before() == ' ' && IsNameCharacter(around.BeforeBlank()) &&
                           around.After() == ' ' && IsDigit(around.AfterBlank()) &&
@@ -147,6 +150,12 @@ std::string_view PeriodName(std::string_view zText, std::size_t zAt) {
     return "";
   }
   return IsDigit(before) && IsDigit(after) ? "point" : "dot";
+}
+
+bool IsInPartName(std::string_view zText, std::size_t zAt) {
+  const Neighbours around(zText, zAt, zAt);
+  const bool isAfterLetter = IsLetter(around.Before()) && !(zAt > 0 && IsBy(zText, zAt - 1));
+  return isAfterLetter || (around.Before() == '-' && IsCapital(around.Before(2)));
 }
 
 bool IsBy(std::string_view zText, std::size_t zAt) {

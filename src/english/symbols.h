@@ -33,4 +33,7 @@ std::string_view PeriodName(std::string_view zText, std::size_t zAt);
 /// Whether the letter x at `zAt` of `zText` is the "by" between two numbers: 10x15.
 bool IsBy(std::string_view zText, std::size_t zAt);
 
+/// Whether the digits at `zAt` of `zText` follow the letters of the name of a part: RS232, RS-232.
+bool IsInPartName(std::string_view zText, std::size_t zAt);
+
 }  // namespace loquitor

@@ -152,6 +152,13 @@ constexpr SpokenCase Words[] = {
     {"e.g. this, i.e. that", "for example this , that is that"},
     {"U.S.A. is. U.S. Then", "U S A is . U S . then"},
     {"USB TV LEDs PC's NASA pwm", "U S B T V L E Ds P Cs nasa P W M"},
+    {"NE555 RS-232 74HC595 ESP8266 CO2 AT&T T-800 640x480",
+     "N E <five> <five> <five> R S two three two seventy four H C <five> nine <five> E S P eight "
+     "two six six C O two A T and T T eight hundred six hundred forty by four hundred eighty"},
+    {"IT'S IT's HE'S", "it's I Ts he's"},
+    {"w/o a w/ b w/c", "without a with B W slash C"},
+    {"micro-\ncontroller hyphen- \r\nated A-\nb c -\nd e-\nF",
+     "microcontroller hyphenated A B C , D E F"},
     {"World War II", "world war two"},
     {"we'll isn't Jack's dogs' 'quoted' rock'n'roll", "we'll isn't jack's dogs quoted rock'n'roll"},
     {"robot Robot's ROBOT", "<robot> robot's <ROBOT>"},
