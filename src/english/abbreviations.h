@@ -18,7 +18,8 @@ struct Abbreviation {
 struct AfterShortForm {
   bool hasPeriod;
   bool isBeforeNumber;   ///< a digit follows, after the period and a space if there are any
-  bool isBeforeCapital;  ///< a space and a capital follow, after the period if there is one
+  bool isBeforeCapital;  ///< a space and a capital, or a comma, follow after the period if there is
+                         ///< one
 };
 
 /// The first abbreviation with this short form (any letter case) whose needs are met; null when

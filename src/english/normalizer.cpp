@@ -48,8 +48,9 @@ class Normalizer {
       ReadMnemonic();
     } else if (IsNameCharacter(At()) && !IsNameCharacter(Before()) && ReadEntryWithDigits()) {
     } else if (StartsWithNumber(Rest()) && (At() != '.' || !IsNameCharacter(Before()))) {
+      const std::size_t start = at_;
       Read(NumberHere());
-      ReadInchSign();
+      ReadInchSign(Since(start));
     } else if (const std::optional<NumberReading> phone = ReadPhoneNumber(Rest())) {
       Read(*phone);
     } else if (IsLetter(At()) && IsBy(text_, at_)) {
@@ -67,12 +68,13 @@ class Normalizer {
     constexpr std::size_t ShortestName = 3;
     const std::string_view digits = DigitsAt(text_, at_);
     const bool isHundreds = digits.ends_with("00");
-    NumberReading reading = ReadNumber(Rest());
-    const bool isAlone = reading.size == digits.size() && digits.size() >= ShortestName;
-    if (isAlone && !isHundreds && !IsYear(digits) && IsInPartName(text_, at_)) {
-      reading.words = DigitWords(digits);
+    const NumberReading reading = ReadNumber(Rest());
+    const bool isAlone = reading.size == digits.size() || At(digits.size()) == '-';
+    if (digits.empty() || !isAlone || !IsInPartName(text_, at_)) {
+      return reading;
     }
-    return reading;
+    const bool isShort = digits.size() < ShortestName || isHundreds || IsYear(digits);
+    return {isShort ? PlainWords(digits) : DigitWords(digits), digits.size()};
   }
 
   void Read(const NumberReading& zReading) {
@@ -81,9 +83,9 @@ class Normalizer {
   }
 
   /// 3.5": a quotation mark after a number stands for inches, unless it closes a quotation.
-  void ReadInchSign() {
+  void ReadInchSign(std::string_view zNumber) {
     if (At() == '"' && IsDigit(Before()) && !isInQuotation_) {
-      AddWord("inches");
+      AddWord(zNumber == "1" || zNumber.starts_with("1/") ? "inch" : "inches");
       ++at_;
     }
   }
@@ -269,12 +271,17 @@ class Normalizer {
     if (At() != ' ' || !IsCapital(At(1))) {
       return false;
     }
+    if (At(2) == '.') {
+      return true;
+    }
     std::size_t size = 1;
     while (size <= LongestOpener && IsLetter(At(1 + size))) {
       ++size;
     }
     return size > LongestOpener || !OftenBeginsSentence(Rest().substr(1, size));
   }
+
+  bool IsBeforeSmallLetter() const { return At() == ' ' && IsLetter(At(1)) && !IsCapital(At(1)); }
 
   /// Whether the period here belongs to a name of the net or of a file: robots.co.uk.
   bool IsPeriodInName() const { return At() == '.' && IsLetter(At(1)) && !IsCapital(At(1)); }
@@ -285,8 +292,9 @@ class Normalizer {
     const std::size_t next = hasPeriod ? 1 : 0;
     const bool hasBlank = At(next) == ' ';
     const char first = At(next + (hasBlank ? 1 : 0));
+    const bool isBeforeCapital = (hasBlank && IsCapital(first)) || At(next) == ',';
     const Abbreviation* const found =
-        FindAbbreviation(zWord, {hasPeriod, IsDigit(first), hasBlank && IsCapital(first)});
+        FindAbbreviation(zWord, {hasPeriod, IsDigit(first), isBeforeCapital});
     const bool isNumbered =
         found != nullptr && found->needs == Abbreviation::Needs::PeriodAndNumber;
     if (found == nullptr || isFolder || (words_.hasEntry(zWord) && !isNumbered)) {
@@ -422,7 +430,8 @@ class Normalizer {
     constexpr std::size_t Size = 2;
     const char letter = at_ >= Size ? text_[at_ - Size] : ' ';
     const char before = at_ > Size ? text_[at_ - Size - 1] : ' ';
-    return IsCapital(letter) && letter != 'I' && (before == ' ' || before == '(') && IsBeforeName();
+    return IsCapital(letter) && letter != 'I' && (before == ' ' || before == '(') &&
+           (IsBeforeName() || IsBeforeSmallLetter());
   }
 
   /// A hyphen is "minus" before a number, a pause as a dash, and silent within a word.

@@ -113,6 +113,14 @@ bool HasPeriodOfShortForm(std::string_view zRest) {
   return zRest.starts_with(". ") && zRest.size() > 2 && !IsCapital(zRest[2]);
 }
 
+/// Whether the x before `zRest` is a variable, not "times": 2x + 1.
+bool IsInFormula(std::string_view zRest) {
+  const std::size_t next = zRest.starts_with(' ') ? 1 : 0;
+  return zRest.starts_with(" squared") || zRest.starts_with(" cubed") ||
+         (next < zRest.size() &&
+          std::string_view("+-*/^=<>").find(zRest[next]) != std::string_view::npos);
+}
+
 /// Takes the unit that follows, with or without a space before it. Null when there is none.
 const Unit* TakeUnit(Cursor& zCursor) {
   constexpr std::size_t LongestUnit = 6;
@@ -123,7 +131,8 @@ const Unit* TakeUnit(Cursor& zCursor) {
     const bool endsWithLetter = IsLetter(rest[size - 1]);
     const bool isCut = size < rest.size() && endsWithLetter && IsNameCharacter(rest[size]);
     const bool hasPeriod = endsWithLetter && HasPeriodOfShortForm(rest.substr(size));
-    const Unit* const unit = isCut ? nullptr : FindUnit(rest.substr(0, size));
+    const bool isVariable = rest.starts_with('x') && IsInFormula(rest.substr(1));
+    const Unit* const unit = isCut || isVariable ? nullptr : FindUnit(rest.substr(0, size));
     if (unit != nullptr && (!hasBlank || !unit->isWordToo || hasPeriod)) {
       after.Skip(size + (hasPeriod ? 1 : 0));
       zCursor = after;
@@ -175,10 +184,12 @@ Reading ReadPlain(Cursor zCursor) {
 }
 
 constexpr Reading (*Readers[])(Cursor) = {
-    ReadMoney,  ReadMoneyBeforeSign, ReadAmericanNumber, ReadPointDate,           ReadDotted,
-    ReadTime,   ReadRatio,           ReadIsoDate,        ReadSlashDate,           ReadFraction,
-    ReadDecade, ReadOrdinal,         ReadYearRange,      ReadDigitGroups,         ReadRange,
-    ReadHour,   ReadMeasure,         ReadFeetAndInches,  ReadWholeBeforeFraction, ReadPlain};
+    ReadMoney,   ReadMoneyBeforeSign, ReadAmericanNumber, ReadPointDate,
+    ReadDotted,  ReadDuration,        ReadTime,           ReadRatio,
+    ReadIsoDate, ReadSlashDate,       ReadFraction,       ReadDecade,
+    ReadOrdinal, ReadYearRange,       ReadDigitGroups,    ReadRange,
+    ReadHour,    ReadMeasure,         ReadFeetAndInches,  ReadWholeBeforeFraction,
+    ReadPlain};
 
 }  // namespace
 

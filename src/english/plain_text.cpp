@@ -19,7 +19,8 @@ struct Replacement {
 
 /// In the order of the code points. The table below has the letters of Latin-1 and Latin
 /// Extended-A.
-constexpr Replacement Replacements[] = {{0xA2, "\xA2"},
+constexpr Replacement Replacements[] = {{0xA1, ""},
+                                        {0xA2, "\xA2"},
                                         {0xA3, "\xA3"},
                                         {0xA5, "\xA5"},
                                         {0xA7, " section "},
@@ -38,6 +39,7 @@ constexpr Replacement Replacements[] = {{0xA2, "\xA2"},
                                         {0xBC, " 1/4 "},
                                         {0xBD, " 1/2 "},
                                         {0xBE, " 3/4 "},
+                                        {0xBF, ""},
                                         {0xD7, " times "},
                                         {0xF7, " divided by "},
                                         {0x02BC, "'"},

@@ -28,6 +28,7 @@ constexpr KnownWord KnownWords[] = {
     {"hm", "hh ah1 m"},
     {"hmm", "hh ah1 m"},
     {"i'll", "ay1 l"},
+    {"ipv", "ay1 p iy1 v iy1"},
     {"jpeg", "jh ey1 p eh g"},
     {"json", "jh ey1 s ax n"},
     {"lidar", "l ay1 d aa r"},

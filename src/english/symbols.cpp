@@ -25,9 +25,9 @@ constexpr NamedSymbol NamedSymbols[] = {
     {CentSign, "cent"},     {PoundSign, "pound"}, {YenSign, "yen"},
     {DegreeSign, "degree"}, {MicroSign, "micro"}};
 
-constexpr SymbolPair SymbolPairs[] = {{"==", "equals"},   {"!=", "is not"}, {"<=", "at most"},
-                                      {">=", "at least"}, {"->", "arrow"},  {"=>", "arrow"},
-                                      {"&&", "and"},      {"||", "or"}};
+constexpr SymbolPair SymbolPairs[] = {
+    {"==", "equals"}, {"!=", "is not"}, {"<=", "at most"}, {">=", "at least"}, {"->", "arrow"},
+    {"=>", "arrow"},  {"&&", "and"},    {"||", "or"},      {"^2", "squared"},  {"^3", "cubed"}};
 
 bool IsOneOf(char zCharacter, std::string_view zCharacters) {
   return zCharacters.find(zCharacter) != std::string_view::npos;
@@ -55,6 +55,12 @@ class Neighbours {
   std::size_t start_;
   std::size_t end_;
 };
+
+/// Whether digits are at both sides, both after a space or both without one.
+bool IsBetweenDigits(const Neighbours& zAround) {
+  return (zAround.Before() == ' ') == (zAround.After() == ' ') && IsDigit(zAround.BeforeBlank()) &&
+         IsDigit(zAround.AfterBlank());
+}
 
 /// *word*, **word**: the stars are at one side of a word.
 bool IsEmphasis(const Neighbours& zAround) {
@@ -92,8 +98,13 @@ const SymbolPair* FindSymbolPair(std::string_view zText) {
   const auto* const found =
       std::find_if(std::begin(SymbolPairs), std::end(SymbolPairs),
                    [zText](const SymbolPair& p) { return zText.starts_with(p.symbols); });
-  const bool isLonger = found != std::end(SymbolPairs) && zText.size() > 2 && zText[2] == zText[1];
-  return found == std::end(SymbolPairs) || isLonger ? nullptr : found;
+  if (found == std::end(SymbolPairs)) {
+    return nullptr;
+  }
+  const char after = zText.size() > 2 ? zText[2] : ' ';
+  const bool isLonger =
+      IsDigit(zText[1]) ? IsNameCharacter(after) || after == '.' : after == zText[1];
+  return isLonger ? nullptr : found;
 }
 
 std::string_view SymbolName(std::string_view zText, std::size_t zStart, std::size_t zEnd) {
@@ -104,8 +115,7 @@ std::string_view SymbolName(std::string_view zText, std::size_t zStart, std::siz
     case '#':
       return NumberSignName(around);
     case '/':
-      if (around.Before() == ' ' && around.After() == ' ' && IsDigit(around.BeforeBlank()) &&
-          IsDigit(around.AfterBlank())) {
+      if (IsBetweenDigits(around) && (around.After() == ' ' || IsSum(around.Rest()))) {
         return "divided by";
       }
       break;
@@ -155,14 +165,17 @@ std::string_view PeriodName(std::string_view zText, std::size_t zAt) {
 bool IsInPartName(std::string_view zText, std::size_t zAt) {
   const Neighbours around(zText, zAt, zAt);
   const bool isAfterLetter = IsLetter(around.Before()) && !(zAt > 0 && IsBy(zText, zAt - 1));
-  return isAfterLetter || (around.Before() == '-' && IsCapital(around.Before(2)));
+  const bool isJoined = around.Before() == '-' || around.Before() == '.';
+  return isAfterLetter || (isJoined && IsCapital(around.Before(2)));
 }
 
 bool IsBy(std::string_view zText, std::size_t zAt) {
   const Neighbours around(zText, zAt, zAt + 1);
   const bool isHexadecimal = around.Before() == '0' && !IsDigit(around.Before(2));
-  return LowerCase(zText[zAt]) == 'x' && IsDigit(around.Before()) && IsDigit(around.After()) &&
-         !isHexadecimal;
+  const bool isAfterInches = around.Before() == ' ' && around.Before(2) == '"' &&
+                             around.After() == ' ' && IsDigit(around.After(1));
+  return LowerCase(zText[zAt]) == 'x' && !isHexadecimal &&
+         (IsBetweenDigits(around) || isAfterInches);
 }
 
 }  // namespace loquitor

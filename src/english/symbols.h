@@ -8,14 +8,13 @@ namespace loquitor {
 // Symbols in plain text (see ToPlainText). Each function looks at no more than a few characters
 // around the symbol.
 
-/// A sign of several symbols, such as !=, and its words.
+/// A sign of two characters, such as !=, and its words.
 struct SymbolPair {
   std::string_view symbols;
   std::string_view words;
 };
 
-/// The sign of several different symbols, or two equals signs, that `zText` begins with. Null when
-/// there is none.
+/// The sign of two characters that `zText` begins with. Null when there is none.
 const SymbolPair* FindSymbolPair(std::string_view zText);
 
 /// The name of the symbol that is in `zText` from `zStart` to `zEnd`, once or twice, such as
@@ -30,10 +29,11 @@ bool IsMinus(std::string_view zText, std::size_t zAt);
 /// "point". Empty for any other period.
 std::string_view PeriodName(std::string_view zText, std::size_t zAt);
 
-/// Whether the letter x at `zAt` of `zText` is the "by" between two numbers: 10x15.
+/// Whether the letter x at `zAt` of `zText` is the "by" between two numbers: 10x15, 10 x 15.
 bool IsBy(std::string_view zText, std::size_t zAt);
 
-/// Whether the digits at `zAt` of `zText` follow the letters of the name of a part: RS232, RS-232.
+/// Whether the digits at `zAt` of `zText` follow the letters of the name of a part: RS232, RS-232,
+/// H.264.
 bool IsInPartName(std::string_view zText, std::size_t zAt);
 
 }  // namespace loquitor

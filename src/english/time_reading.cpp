@@ -87,6 +87,22 @@ Reading ReadTime(Cursor zCursor) {
   return NumberReading{words + TakeTo(zCursor), zCursor.At()};
 }
 
+Reading ReadDuration(Cursor zCursor) {
+  constexpr std::size_t LongestPart = 2;
+  const std::string_view hours = zCursor.TakeDigits();
+  const bool hasHours = hours.size() <= LongestPart && zCursor.Take('h');
+  const bool hasBlank = zCursor.Take(' ');
+  const std::string_view minutes = zCursor.TakeDigits();
+  const std::string_view unit = zCursor.TakeLetters();
+  const bool isMinutes = unit == "m" || unit == "min" || (unit.empty() && !hasBlank);
+  if (!hasHours || minutes.empty() || minutes.size() > LongestPart || !isMinutes) {
+    return std::nullopt;
+  }
+  return NumberReading{ValueWords(hours) + (hours == "1" ? " hour " : " hours ") +
+                           ValueWords(minutes) + (minutes == "1" ? " minute" : " minutes"),
+                       zCursor.At()};
+}
+
 Reading ReadHour(Cursor zCursor) {
   const std::string_view hour = zCursor.TakeDigits();
   Cursor after = zCursor;

@@ -7,6 +7,9 @@ namespace loquitor {
 /// 3:30, 15:30:20, 9:00 am
 Reading ReadTime(Cursor zCursor);
 
+/// 3h 20m, 3h20
+Reading ReadDuration(Cursor zCursor);
+
 /// 5 pm, 5.30 pm
 Reading ReadHour(Cursor zCursor);
 

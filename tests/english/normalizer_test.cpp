@@ -134,6 +134,8 @@ constexpr SpokenCase Measures[] = {
      "two amps thirty seconds two mega bits per second twelve volts D C"},
     {"3 in. wide, in 3 in. It", "three inches wide , in three in . it"},
     {"5'10\" 3.5\" \"I am 5\"", "<five> feet ten inches three point <five> inches i am <five>"},
+    {"3h 20m 3h20 1h 5 m",
+     "three hours twenty minutes three hours twenty minutes one hour <five> meters"},
     {"16:9", "sixteen to nine"},
 };
 INSTANTIATE_TEST_SUITE_P(Measures, Normalizing, ::testing::ValuesIn(Measures));
@@ -145,13 +147,16 @@ constexpr SpokenCase Words[] = {
     {"No. 5 No. Etc. Then", "number <five> no . et cetera . then"},
     {"J. Smith, J. R. R. Smith, (J.K. Lee), Mr. X. U.S. Army",
      "J smith , J R R smith , J K lee , mister X U S army"},
-    {"Plan B. Then A. It", "plan B . then A . it"},
+    {"Plan B. Then A. It J. A. Smith E. coli", "plan B . then A . it J A smith E coli"},
     {"A Ph.D. in M.Sc. Now a.b.", "a P H D in M S C . now A B ."},
     {"robots.co.uk /etc/x etc.", "robots dot co dot uk slash etc slash X et cetera ."},
     {"A $5 kit", "a <five> dollars kit"},
+    {"Mon., Wed., 4 Jul WWII Dec. Then ¿Que?",
+     "monday , wednesday , four july world war two december . then que ."},
     {"e.g. this, i.e. that", "for example this , that is that"},
     {"U.S.A. is. U.S. Then", "U S A is . U S . then"},
     {"USB TV LEDs PC's NASA pwm", "U S B T V L E Ds P Cs nasa P W M"},
+    {"x86-64 H.264 IPv4", "X eighty six sixty four H dot two six four ipv four"},
     {"NE555 RS-232 74HC595 ESP8266 CO2 AT&T T-800 640x480",
      "N E <five> <five> <five> R S two three two seventy four H C <five> nine <five> E S P eight "
      "two six six C O two A T and T T eight hundred six hundred forty by four hundred eighty"},
@@ -175,6 +180,10 @@ constexpr SpokenCase Words[] = {
     {"2^10 10^-6 1.5e-3 x=-1 ~5 ^",
      "two to the power of ten ten to the power of minus six one point <five> E minus three X "
      "equals minus one about <five> caret"},
+    {"2x + 1, 2x² = x^2 + x^3 + x^23, 12/4=3",
+     "two X plus one , two X squared equals X squared plus X cubed plus X to the power of twenty "
+     "three , twelve divided by four equals three"},
+    {"3 x 4 12\" x 18\" 1/4\"", "three by four twelve inches by eighteen inches one quarter inch"},
     {"10x15 M3x10 0x1F 4x4 x2", "ten by fifteen M three by ten zero X one F four by four X two"},
     {"**bold** *it.* a * b 5* p*q", "bold it . a star B <five> star P star Q"},
     {"C# G# H# # ", "C sharp G sharp H number number"},
