@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/say_data_runs.h"
+#include "english/plain_text.h"
 #include "text/letters.h"
 
 namespace loquitor {
@@ -44,7 +45,7 @@ NewWords SoundOutNewWords(std::string_view zList, const EnglishReader& zReader,
                           const SayDataWords& zWords) {
   NewWords result;
   std::unordered_set<std::string> seen;
-  ForEachListedWord(zList, [&](std::string_view zWord) {
+  ForEachListedWord(WithPlainPunctuation(zList), [&](std::string_view zWord) {
     const std::string word = ToLower(zWord);
     if (zWords.hasEntry(word) || !seen.insert(word).second) {
       return;

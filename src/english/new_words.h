@@ -16,10 +16,12 @@ struct NewWords {
   std::vector<std::string> unread;  ///< words that Say Data cannot hold, or without a reading
 };
 
-/// Finds the words of `zList` (UTF-8) that `zWords` has no entry for, and their sounds. A word is a
-/// run of letters, digits, #, apostrophes and characters beyond ASCII, with at least one letter.
-/// Apostrophes at its ends are removed. Say Data cannot hold a word with an apostrophe or a
-/// character beyond ASCII, so such a word is in `unread`. Each word is listed once.
+/// Finds the words of `zList` (UTF-8; a byte that is not UTF-8 counts as Windows-1252) that
+/// `zWords` has no entry for, and their sounds. A word is a run of letters, digits, #, apostrophes
+/// and characters beyond ASCII, with at least one letter. Quotation marks, dashes and spaces beyond
+/// ASCII count as those of ASCII. Apostrophes at its ends are removed. Say Data cannot hold a word
+/// with an apostrophe or a character beyond ASCII, so such a word is in `unread`. Each word is
+/// listed once.
 NewWords SoundOutNewWords(std::string_view zList, const EnglishReader& zReader,
                           const SayDataWords& zWords);
 

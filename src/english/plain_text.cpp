@@ -191,6 +191,10 @@ std::vector<std::string_view> LatinLetterTable() {
   return table;
 }
 
+bool IsCombiningAccent(char32_t zCharacter) {
+  return IsBetween(zCharacter, 0x300, 0x36F);
+}
+
 /// The text to read for `zCharacter`, which is U+0080 or above. Null when it has no reading.
 const std::string_view* ReplacementOf(char32_t zCharacter) {
   static const std::vector<std::string_view> latin = LatinLetterTable();
@@ -206,7 +210,7 @@ const std::string_view* ReplacementOf(char32_t zCharacter) {
                 static_cast<char32_t>(FirstLatinLetter + latin.size() - 1))) {
     return &latin[zCharacter - FirstLatinLetter];
   }
-  if (IsBetween(zCharacter, 0x300, 0x36F)) {  // combining accents
+  if (IsCombiningAccent(zCharacter)) {
     return &Nothing;
   }
   const bool isBlank = zCharacter == 0xA0 || IsBetween(zCharacter, 0x2000, 0x200A) ||
@@ -298,6 +302,24 @@ class PlainTextMaker {
 };
 
 }  // namespace
+
+std::string WithPlainPunctuation(std::string_view zText) {
+  std::string text;
+  while (!zText.empty()) {
+    const Decoded decoded = DecodeFirst(zText);
+    const std::string_view* const plain =
+        decoded.character < 0x80 || IsCombiningAccent(decoded.character)
+            ? nullptr
+            : ReplacementOf(decoded.character);
+    if (plain != nullptr && plain->find_first_not_of(" \"'-./") == std::string_view::npos) {
+      text += *plain;
+    } else {
+      AppendUtf8(text, decoded.character);
+    }
+    zText.remove_prefix(decoded.size);
+  }
+  return text;
+}
 
 PlainText ToPlainText(std::string_view zText) {
   return PlainTextMaker().Make(zText);

@@ -29,4 +29,9 @@ constexpr char MicroSign = '\xB5';
 /// pass.
 PlainText ToPlainText(std::string_view zText);
 
+/// `zText` with quotation marks, dashes and spaces beyond ASCII as those of ASCII. Byte order marks
+/// and soft hyphens are removed. Everything else stays. The result is UTF-8; a byte of `zText` that
+/// is not UTF-8 counts as Windows-1252.
+std::string WithPlainPunctuation(std::string_view zText);
+
 }  // namespace loquitor

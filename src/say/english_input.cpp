@@ -52,6 +52,10 @@ std::optional<std::size_t> EnglishInput::AddWords(const std::string& zFile) {
     complaint_ = "cannot read " + zFile;
     return std::nullopt;
   }
+  if (list->find('\0') != std::string::npos) {
+    complaint_ = zFile + " is not a text in UTF-8";
+    return std::nullopt;
+  }
   const NewWords words = SoundOutNewWords(*list, *reader_, WordsOf(dictionary_, translator_));
   TellUnread("no words of Say Data: ", words.unread);
   if (!words.entries.empty() && !dictionary_.SaveEntries(words.entries)) {

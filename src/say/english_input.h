@@ -26,7 +26,7 @@ class EnglishInput {
 
   /// Adds to the dictionary the words of the list `zFile` that it has no sounds for, in one change
   /// of its file. Returns the number of added words. Nothing when a file could not be read or
-  /// written; Complaint says which.
+  /// written, or the list has NULs as UTF-16 has; Complaint says which.
   std::optional<std::size_t> AddWords(const std::string& zFile);
 
   /// What went wrong in AddWords.

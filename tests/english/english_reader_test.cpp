@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "english/blank_entries.h"
+#include "english/new_words.h"
 #include "tests/english/say_data_words_for_tests.h"
 #include "tests/support/scripted_phones.h"
 
@@ -98,6 +99,19 @@ TEST_F(EnglishReading, FillsTheBlankEntriesOfADictionary) {
   EXPECT_EQ(filled->count, 3U);
   EXPECT_THAT(filled->unread, ElementsAre("xyzzy", "we'll"));
   EXPECT_EQ(FillBlankEntries("", reader_, goOn)->text, "");
+}
+
+TEST_F(EnglishReading, FindsTheNewWordsOfAList) {
+  const NewWords words = SoundOutNewWords(
+      "\uFEFFsee \u201CMe\u201D robot is\u2014SEE 'was' we\u2019ll caf\xE9 cafe\u0301 12", reader_,
+      words_);
+  std::vector<std::string> found;
+  for (const ProfileValue& entry : words.entries) {
+    found.push_back(entry.key + "=" + entry.value);
+  }
+  EXPECT_THAT(found,
+              ElementsAre("see=\\SE \\IY", "me=\\MM \\IY", "is=\\IH \\ZZ", "was=\\WW \\OH \\ZZ"));
+  EXPECT_THAT(words.unread, ElementsAre("we'll", "caf\u00E9", "cafe\u0301"));
 }
 
 TEST_F(EnglishReading, CanBeCancelledWhileItFills) {

@@ -212,6 +212,9 @@ TEST_F(LoquitorSayTest, AddsTheWordsOfAListToTheDictionary) {
   EXPECT_EQ(Run("--add-words ."), 1);
   EXPECT_EQ(Run("--add-words missing"), 1);
   EXPECT_EQ(Errors(), "loquitor-say: cannot read missing\n");
+  WriteBytes(folder / "list", std::string("s\0e\0e\0", 6));
+  EXPECT_EQ(Run("--add-words list"), 1);
+  EXPECT_EQ(Errors(), "loquitor-say: list is not a text in UTF-8\n");
 }
 
 #endif
