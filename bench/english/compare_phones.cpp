@@ -84,7 +84,8 @@ int main(int zCount, char** zArguments) {
     }
     Phones own;
     const std::string lower = ToLower(word);
-    for (const Segment& segment : Pronounce(*source, std::span(&lower, 1)).front()) {
+    const std::vector<WordPhones> pronounced = Pronounce(*source, std::span(&lower, 1));
+    for (const Segment& segment : pronounced.front()) {
       own.push_back(WithoutSchwa(segment.phone));
     }
     const auto closest = std::min_element(
