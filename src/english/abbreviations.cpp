@@ -23,6 +23,10 @@ constexpr Abbreviation Abbreviations[] = {
     {"jr", Nothing, "junior", true},
     {"sr", Period, "senior", true},
     {"gen", PeriodAndCapital, "general"},
+    {"gov", PeriodAndCapital, "governor"},
+    {"sen", PeriodAndCapital, "senator"},
+    {"col", PeriodAndCapital, "colonel"},
+    {"ft", PeriodAndCapital, "fort"},
     {"capt", Period, "captain"},
     {"lt", PeriodAndCapital, "lieutenant"},
     {"sgt", Period, "sergeant"},
@@ -42,11 +46,14 @@ constexpr Abbreviation Abbreviations[] = {
     {"fig", PeriodAndNumber, "figure"},
     {"figs", PeriodAndNumber, "figures"},
     {"eq", PeriodAndNumber, "equation"},
+    {"tab", PeriodAndNumber, "table"},
+    {"ex", PeriodAndNumber, "exercise"},
     {"ver", PeriodAndNumber, "version"},
     {"rev", PeriodAndNumber, "revision"},
     {"ext", PeriodAndNumber, "extension"},
     {"ca", PeriodAndNumber, "about"},
     {"cf", Period, "compare"},
+    {"viz", Nothing, "namely"},
     {"al", Period, "al", true},
     {"incl", Period, "including"},
     {"excl", Period, "excluding"},
@@ -238,23 +245,17 @@ constexpr Unit Units[] = {
 
 /// Words in capitals that are spelled although they have a vowel letter.
 constexpr std::string_view SpelledCapitals[] = {
-    "AAA", "ABC",  "ABS", "AC",  "AD",   "ADC", "ADHD", "AI",   "AKA", "AM",  "AMD",  "AOL",  "API",
-    "ATM", "ATX",  "AUV", "AVR", "AWG",  "CAE", "CEO",  "CFO",  "CIA", "CPU", "CTO",  "DAC",  "DIY",
-    "DNA", "DOA",  "ECG", "EEG", "EGR",  "EKG", "EMC",  "EMF",  "EMI", "EOL", "EPA",  "ESC",  "ESP",
-    "ETA", "EU",   "FAQ", "FBI", "FPGA", "FYI", "GPA",  "GPIO", "GPU", "GUI", "HDMI", "HIV",  "IBM",
-    "IC",  "ICSP", "ICU", "ID",  "IDE",  "IEC", "IEEE", "IMHO", "IMU", "IO",  "IOT",  "IOU",  "IP",
-    "IPO", "IQ",   "IR",  "IRC", "IRS",  "ISP", "ISS",  "IT",   "ITU", "LED", "LTE",  "MBA",  "MIT",
-    "NBA", "NEC",  "NGO", "NSA", "OCR",  "ODM", "OEM",  "OMG",  "OS",  "OTA", "PA",   "PCIE", "PDA",
-    "PIR", "POE",  "PSU", "QA",  "RIP",  "RNA", "RPI",  "SOS",  "SPI", "SUV", "UAE",  "UART", "UAV",
-    "UDP", "UEFI", "UFO", "UHD", "UHF",  "UI",  "UK",   "UL",   "UN",  "URL", "US",   "USA",  "USB",
-    "USD", "USPS", "UTC", "UTF", "UV",   "UX",  "VFO",  "VGA",  "VIN", "VIP", "VOIP", "YMCA"};
-
-constexpr std::string_view RomanNumerals[][2] = {
-    {"II", "two"},      {"III", "three"},      {"IV", "four"},        {"VI", "six"},
-    {"VII", "seven"},   {"VIII", "eight"},     {"IX", "nine"},        {"XI", "eleven"},
-    {"XII", "twelve"},  {"XIII", "thirteen"},  {"XIV", "fourteen"},   {"XV", "fifteen"},
-    {"XVI", "sixteen"}, {"XVII", "seventeen"}, {"XVIII", "eighteen"}, {"XIX", "nineteen"},
-    {"XX", "twenty"}};
+    "AA",   "AAA", "ABC", "ABS",  "AC",   "AD",  "ADC", "ADHD", "AI",  "AKA",  "AM",   "AMD", "AOL",
+    "API",  "ATM", "ATX", "AUV",  "AVR",  "AWG", "CAE", "CEO",  "CFO", "CIA",  "CPU",  "CTO", "DAC",
+    "DIY",  "DNA", "DOA", "ECG",  "EEG",  "EGR", "EKG", "EMC",  "EMF", "EMI",  "EOL",  "EPA", "ESC",
+    "ESD",  "ESP", "EST", "ETA",  "EU",   "FAQ", "FBI", "FPGA", "FYI", "GPA",  "GPIO", "GPU", "GUI",
+    "HDMI", "HIV", "IBM", "IC",   "ICSP", "ICU", "ID",  "IDE",  "IEC", "IEEE", "IMHO", "IMU", "IO",
+    "IOT",  "IOU", "IP",  "IPO",  "IQ",   "IR",  "IRC", "IRS",  "ISP", "ISS",  "IT",   "ITU", "LED",
+    "LTE",  "MBA", "MIT", "NBA",  "NE",   "NEC", "NGO", "NSA",  "NYC", "OCR",  "ODM",  "OEM", "OMG",
+    "OS",   "OTA", "PA",  "PCIE", "PDA",  "PIR", "POE", "PSU",  "QA",  "RIP",  "RNA",  "RPI", "SE",
+    "SOS",  "SPI", "SUV", "UAE",  "UART", "UAV", "UDP", "UEFI", "UFO", "UHD",  "UHF",  "UI",  "UK",
+    "UL",   "UN",  "URL", "US",   "USA",  "USB", "USD", "USPS", "UTC", "UTF",  "UUID", "UV",  "UX",
+    "VFO",  "VGA", "VIN", "VIP",  "VOIP", "YMCA"};
 
 /// Words without a vowel letter that are not spelled.
 constexpr std::string_view VowellessWords[] = {"brr",  "grr", "hm", "hmm", "mm",  "nth",
@@ -312,12 +313,6 @@ bool IsSpelledOut(std::string_view zWord) {
 
 bool OftenBeginsSentence(std::string_view zWord) {
   return Holds(SentenceOpeners, ToLower(zWord));
-}
-
-std::string_view RomanNumeralWords(std::string_view zWord) {
-  const auto* const found = std::find_if(std::begin(RomanNumerals), std::end(RomanNumerals),
-                                         [zWord](const auto& zRow) { return zRow[0] == zWord; });
-  return found == std::end(RomanNumerals) ? std::string_view() : (*found)[1];
 }
 
 }  // namespace loquitor

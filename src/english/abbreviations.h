@@ -44,8 +44,4 @@ bool IsSpelledOut(std::string_view zWord);
 /// Whether `zWord` is one of the words that begin many sentences and few names (any letter case).
 bool OftenBeginsSentence(std::string_view zWord);
 
-/// The words of a Roman numeral in capitals with the value 2 to 20, except the single letters V and
-/// X. Empty for any other word.
-std::string_view RomanNumeralWords(std::string_view zWord);
-
 }  // namespace loquitor

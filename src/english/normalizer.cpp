@@ -10,6 +10,7 @@
 #include "english/number_words.h"
 #include "english/phone_source.h"
 #include "english/plain_text.h"
+#include "english/roman_numerals.h"
 #include "english/symbols.h"
 #include "text/letters.h"
 #include "text/words.h"
@@ -348,7 +349,7 @@ class Normalizer {
       Add(Kind::Entry, zWord);
     } else if (zWord.size() == 1) {
       ReadSingleLetter(zWord);
-    } else if (const std::string_view number = RomanNumeralWords(zWord); !number.empty()) {
+    } else if (const std::string number = RomanNumeralWords(zWord); !number.empty()) {
       AddWords(number);
     } else if (isPlural && IsSpelledOut(stem)) {
       AddSpelledPlural(stem);

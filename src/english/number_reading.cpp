@@ -48,12 +48,13 @@ Reading ReadFraction(Cursor zCursor) {
   return NumberReading{CardinalWords(count) + " " + (count == "1" ? name : many), zCursor.At()};
 }
 
-/// 1990s, 80's
-Reading ReadDecade(Cursor zCursor) {
+/// 1990s, 80s, 5's
+Reading ReadPlural(Cursor zCursor) {
   const std::string_view digits = zCursor.TakeDigits();
   const bool isDecade = (digits.size() == 2 || digits.size() == 4) && digits.back() == '0';
-  zCursor.Take('\'');
-  if (!isDecade || !zCursor.Take('s') || IsLetter(zCursor.Next())) {
+  const bool hasApostrophe = zCursor.Take('\'');
+  if (digits.empty() || !(isDecade || hasApostrophe) || !zCursor.Take('s') ||
+      IsLetter(zCursor.Next())) {
     return std::nullopt;
   }
   return NumberReading{PluralOf(PlainWords(digits)), zCursor.At()};
@@ -186,7 +187,7 @@ Reading ReadPlain(Cursor zCursor) {
 constexpr Reading (*Readers[])(Cursor) = {
     ReadMoney,   ReadMoneyBeforeSign, ReadAmericanNumber, ReadPointDate,
     ReadDotted,  ReadDuration,        ReadTime,           ReadRatio,
-    ReadIsoDate, ReadSlashDate,       ReadFraction,       ReadDecade,
+    ReadIsoDate, ReadSlashDate,       ReadFraction,       ReadPlural,
     ReadOrdinal, ReadYearRange,       ReadDigitGroups,    ReadRange,
     ReadHour,    ReadMeasure,         ReadFeetAndInches,  ReadWholeBeforeFraction,
     ReadPlain};
