@@ -150,6 +150,10 @@ TEST_F(EnglishSteps, EnglishToSoundsReadsTheSelectionOrTheWholeTextInOneStep) {
   const Rows<const char*, const char*> rows = {
       {"see the dog| see me", "\\SE\\IY \\DH\\AX dog \\SE\\IY \\MM\\IY|"},
       {"see [see dog] see", "see \\SE\\IY dog| see"},
+      {"dog [see ]dog", "dog \\SE\\IY |dog"},
+      {"dog[\nsee\n]dog", "dog\n \\SE\\IY \n|dog"},
+      {"dog, [see], dog", "dog, \\SE\\IY|, dog"},
+      {"dog\n[see] \ndog", "dog\n \\SE\\IY| \ndog"},
       {"see\nme\n\ndog|", "\\SE\\IY \\MM\\IY \\P3 \n\ndog|"}};
   for (const auto& [before, after] : rows) {
     GivenSayData(before);

@@ -4,7 +4,9 @@
 #include <QContextMenuEvent>
 #include <QStringList>
 #include <QTimer>
+#include <limits>
 #include <sstream>
+#include <utility>
 
 #include "english/unread_text.h"
 #include "text/words.h"
@@ -167,28 +169,42 @@ void EnglishSteps::EnglishToSounds() {
   }
 }
 
+/// What replaces the selection `zText` when `zSayData` is its reading. The blanks and line breaks
+/// at its ends stay, and it does not run together with the text around it.
+std::string EnglishSteps::ForSelection(const std::string& zText, std::string zSayData) const {
+  constexpr std::string_view blanks = " \t\r\n";
+  const std::string lead = zText.substr(0, zText.find_first_not_of(blanks));
+  const std::string trail = zText.substr(zText.find_last_not_of(blanks) + 1);
+  const int start = area_->SelectionStart();
+  const int end = start + area_->SelectionLength();
+  const TextAround around{area_->TextBetween(0, start) + lead,
+                          trail + area_->TextBetween(end, std::numeric_limits<int>::max())};
+  return lead + SeparatedFrom(around, std::move(zSayData)) + trail;
+}
+
 /// Replaces the selection, or else the whole text, by its sounds. Tells which words were left out.
 void EnglishSteps::ReadAsEnglish() {
   const bool isWhole = area_->SelectionLength() == 0;
   const std::string text = isWhole ? area_->Text() : area_->SelectedText();
   const EnglishReading reading =
       context_.english->ReadText(ToUtf8(text), WordsOf(context_.dictionary, context_.translator));
-  if (HasTooLongLine(reading.sayData)) {
-    Tell("Nothing was changed: the sounds would be too long for one line. Select less.");
-    return;
-  }
   if (reading.sayData.empty()) {
     Tell("Nothing was changed: there is nothing here that can be read as English.");
     return;
   }
-  if (reading.sayData == text) {
+  const std::string sayData = isWhole ? reading.sayData : ForSelection(text, reading.sayData);
+  if (HasTooLongLine(sayData)) {
+    Tell("Nothing was changed: the sounds would be too long for one line. Select less.");
+    return;
+  }
+  if (sayData == text) {
     Tell("Nothing was changed: every word here speaks already.");
     return;
   }
   if (isWhole) {
     area_->selectAll();
   }
-  area_->ReplaceSelection(reading.sayData);
+  area_->ReplaceSelection(sayData);
   if (!reading.unread.empty()) {
     Tell("Left out, because it cannot be read: " +
          QString::fromStdString(DescribeUnread(reading.unread)));

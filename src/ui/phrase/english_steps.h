@@ -45,6 +45,7 @@ class EnglishSteps : public QObject {
   void AddToDictionary();
   void EnglishToSounds();
   void ReadAsEnglish();
+  std::string ForSelection(const std::string& zText, std::string zSayData) const;
 
   std::optional<WordPlace> TakeWord();
   std::string SoundsOf(const WordPlace& zPlace) const;

@@ -1,5 +1,7 @@
 #include "ui/phrase/say_data_places.h"
 
+#include <algorithm>
+
 #include "core/say_data_runs.h"
 
 namespace loquitor {
@@ -7,6 +9,21 @@ namespace {
 
 constexpr std::string_view Pauses = " ,";
 constexpr std::string_view PausesAndBackslash = " ,\\";
+
+bool IsInRun(char zCharacter) {
+  return IsNameCharacter(zCharacter) || zCharacter == '\\';
+}
+
+/// Whether a word or a mnemonic is at this place, as far as the text that begins or ends there
+/// says. Other characters than pauses are ignored.
+template <typename Iterator>
+bool IsRunNext(Iterator zFrom, Iterator zEnd) {
+  const auto counts = [](char zCharacter) {
+    return IsInRun(zCharacter) || Pauses.find(zCharacter) != std::string_view::npos;
+  };
+  const auto next = std::find_if(zFrom, zEnd, counts);
+  return next != zEnd && IsInRun(*next);
+}
 
 }  // namespace
 
@@ -36,6 +53,16 @@ TextSpan WholeWords(std::string_view zText, TextSpan zView, bool zIsCutAtStart, 
   const bool isEmpty =
       start == std::string_view::npos || end == std::string_view::npos || end < start;
   return isEmpty ? TextSpan{0, 0} : TextSpan{start, end};
+}
+
+std::string SeparatedFrom(const TextAround& zAround, std::string zSayData) {
+  if (IsInRun(zSayData.front()) && IsRunNext(zAround.before.rbegin(), zAround.before.rend())) {
+    zSayData.insert(0, " ");
+  }
+  if (IsInRun(zSayData.back()) && IsRunNext(zAround.after.begin(), zAround.after.end())) {
+    zSayData += ' ';
+  }
+  return zSayData;
 }
 
 }  // namespace loquitor

@@ -32,4 +32,14 @@ struct TextSpan {
 /// when nothing is left.
 TextSpan WholeWords(std::string_view zText, TextSpan zView, bool zIsCutAtStart, bool zIsCutAtEnd);
 
+/// The parts of a Say Data text around a new part of it.
+struct TextAround {
+  std::string before;
+  std::string after;
+};
+
+/// `zSayData`, which is not empty, with a blank at each end where the word or mnemonic there would
+/// run together with the one beside it.
+std::string SeparatedFrom(const TextAround& zAround, std::string zSayData);
+
 }  // namespace loquitor
