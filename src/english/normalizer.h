@@ -31,9 +31,10 @@ struct SpokenText {
 };
 
 /// Turns English text into what is said: numbers, abbreviations and symbols become words, acronyms
-/// are spelled, punctuation becomes pauses. A line break is a space. `zText` is UTF-8; a byte that
-/// is not UTF-8 counts as Windows-1252. What has no reading by docs/english.md is in `unread`, and
-/// everything around it is read. Takes time proportional to the length of the text.
+/// are spelled, punctuation becomes pauses. A line break is a space, except that a word goes on
+/// after a hyphen at the end of a line. `zText` is UTF-8; a byte that is not UTF-8 counts as
+/// Windows-1252. What has no reading by docs/english.md is in `unread`, and everything around it is
+/// read. Takes time proportional to the length of the text.
 SpokenText NormalizeEnglish(std::string_view zText, const SayDataWords& zWords);
 
 }  // namespace loquitor

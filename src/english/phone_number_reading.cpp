@@ -33,8 +33,8 @@ bool TakeHyphen(Cursor& zCursor, std::string_view zFirst) {
   constexpr std::size_t ShortestPrefix = 3;
   const char separator = zCursor.Next();
   const bool isPrefix = zFirst[0] == '0' && zFirst.size() >= ShortestPrefix;
-  const bool isLoose = (separator == ' ' || separator == '/') && isPrefix &&
-                       IsDigit(zCursor.Next(2));
+  const bool isLoose =
+      (separator == ' ' || separator == '/') && isPrefix && IsDigit(zCursor.Next(2));
   return IsDigit(zCursor.Next(1)) && (separator == '-' || isLoose) && zCursor.Take(separator);
 }
 
@@ -59,8 +59,7 @@ Reading ReadInternationalNumber(Cursor zCursor) {
     }
     AddGroup(words, digits);
   } while (TakeSeparators(zCursor));
-  return groups > 1 && count >= MinDigits ? Reading({"plus " + words, zCursor.At()})
-                                          : std::nullopt;
+  return groups > 1 && count >= MinDigits ? Reading({"plus " + words, zCursor.At()}) : std::nullopt;
 }
 
 Reading ReadAmericanNumber(Cursor zCursor) {

@@ -25,8 +25,9 @@ constexpr char MicroSign = '\xB5';
 
 /// `zText` as plain text. It is UTF-8; a byte that is not UTF-8 counts as Windows-1252. Accents are
 /// removed (é becomes e). Quotation marks, dashes and spaces of all kinds become those of ASCII.
-/// Some symbols become their English name. A character without a reading becomes a space. Makes one
-/// pass.
+/// Some symbols become their English name. The star of a list at the beginning of a line becomes a
+/// hyphen. A hyphen after a small letter at the end of a line is removed with the line break if a
+/// small letter follows. A character without a reading becomes a space. Makes one pass.
 PlainText ToPlainText(std::string_view zText);
 
 /// `zText` with quotation marks, dashes and spaces beyond ASCII as those of ASCII. Byte order marks
