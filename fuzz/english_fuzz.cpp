@@ -82,7 +82,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* zData, std::size_t zSi
   static const SayDataTranslator translator(table, noDictionary);
   static const std::unique_ptr<PhoneSource> real = CreatePhoneSource();
   const SayDataWords words{
-      [](std::string_view zWord) { return zWord.size() == 4 || ToLower(zWord) == "r2d2"; },
+      [](std::string_view zWord) {
+        constexpr std::string_view oneCharacter = "5x#";
+        return zWord.size() == 4 || ToLower(zWord) == "r2d2" ||
+               (zWord.size() == 1 && oneCharacter.find(zWord) != std::string_view::npos);
+      },
       [](std::string_view zMnemonic) { return !translator.MnemonicsToCodes(zMnemonic).empty(); }};
   const std::string text(zData, zData + zSize);
 

@@ -54,7 +54,7 @@ class Normalizer {
       ReadInchSign(Since(start));
     } else if (const std::optional<NumberReading> phone = ReadPhoneNumber(Rest())) {
       Read(*phone);
-    } else if (IsLetter(At()) && IsBy(text_, at_)) {
+    } else if (IsLetter(At()) && IsBy(text_, at_) && !words_.hasEntry(Rest().substr(0, 1))) {
       AddWord("by");
       ++at_;
     } else if (IsLetter(At())) {

@@ -209,6 +209,10 @@ constexpr SpokenCase Pauses[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Pauses, Normalizing, ::testing::ValuesIn(Pauses));
 
+TEST(Normalizing, LeavesTheEntryOfAnXAsItIs) {
+  EXPECT_EQ(Spoken("10x15, 2 x 3", WordsWithEntries({"x"})), "ten <x> fifteen , two <x> three");
+}
+
 TEST(Normalizing, TellsANumberedShortFormFromTheWord) {
   EXPECT_EQ(Spoken("No. 5 no. Five. Sat. 5", WordsWithEntries({"no", "sat"})),
             "number five <no> . five . <Sat> . five");
