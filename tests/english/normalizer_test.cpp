@@ -205,7 +205,7 @@ constexpr SpokenCase Pauses[] = {
     {"one,.two", "one . two"},
     {"===== one #####", "one ."},
     {"# One", "one"},
-    {"* one\n * two\n- three *", "one , two , three star"},
+    {"* one\n * two\n- three *\n‣ four", "one , two , three star , four"},
 };
 INSTANTIATE_TEST_SUITE_P(Pauses, Normalizing, ::testing::ValuesIn(Pauses));
 
