@@ -153,7 +153,7 @@ constexpr Unit Units[] = {
     {"nF", "nano farad", "nano farads"},
     {"pF", "pico farad", "pico farads"},
     {"m", "meter", "meters"},
-    {"um", "micro meter", "micro meters"},
+    {"um", "micro meter", "micro meters", true},
     {"\xB5"
      "m",
      "micro meter", "micro meters"},

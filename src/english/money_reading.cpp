@@ -92,14 +92,17 @@ Reading ReadMoney(Cursor zCursor) {
 }
 
 Reading ReadMoneyBeforeSign(Cursor zCursor) {
-  const Amount amount = TakeMeasuredAmount(zCursor);
-  zCursor.Take(' ');
-  const Currency* const currency = CurrencyOf(zCursor.Next());
-  if (currency == nullptr || IsDigit(zCursor.Next(1))) {
-    return std::nullopt;
+  for (const auto take : {TakeEuropeanWhole, TakeMeasuredAmount}) {
+    Cursor after = zCursor;
+    const Amount amount = take(after);
+    after.Take(' ');
+    const Currency* const currency = CurrencyOf(after.Next());
+    if (currency != nullptr && !amount.whole.empty() && !IsDigit(after.Next(1))) {
+      after.Skip(1);
+      return NumberReading{MoneyWords(amount, "", *currency) + TakeTo(after), after.At()};
+    }
   }
-  zCursor.Skip(1);
-  return NumberReading{MoneyWords(amount, "", *currency) + TakeTo(zCursor), zCursor.At()};
+  return std::nullopt;
 }
 
 }  // namespace loquitor

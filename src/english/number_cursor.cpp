@@ -71,6 +71,18 @@ Amount TakeMeasuredAmount(Cursor& zCursor) {
   return amount;
 }
 
+Amount TakeEuropeanWhole(Cursor& zCursor) {
+  Cursor after = zCursor;
+  Amount amount;
+  amount.isPlain = false;
+  const std::string whole = TakeWhole(after, IsEuropeanGroup);
+  if (after.At() - zCursor.At() > whole.size()) {
+    amount.whole = whole;
+    zCursor = after;
+  }
+  return amount;
+}
+
 std::string TakeTo(Cursor& zCursor) {
   if (zCursor.Next() != '-' || !StartsWithNumber(zCursor.Rest().substr(1))) {
     return "";

@@ -79,6 +79,9 @@ Amount TakeAmount(Cursor& zCursor);
 /// or 1.299,00, with one or two decimals.
 Amount TakeMeasuredAmount(Cursor& zCursor);
 
+/// Takes 1.299 and 1.000.000, with a point between thousands. Takes nothing when no group is there.
+Amount TakeEuropeanWhole(Cursor& zCursor);
+
 /// Takes the hyphen of a range if another number follows it. Returns " to", or the empty text.
 std::string TakeTo(Cursor& zCursor);
 

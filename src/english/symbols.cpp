@@ -81,7 +81,7 @@ std::string_view NumberSignName(const Neighbours& zAround) {
   const bool isNote = zAround.Before() >= 'A' && zAround.Before() <= 'G' &&
                       !IsNameCharacter(zAround.Before(2)) && !IsNameCharacter(zAround.After());
   const bool isHeading =
-      zAround.IsAtStart() && zAround.After() == ' ' && IsLetter(zAround.After(1));
+      zAround.IsAtStart() && zAround.After() == ' ' && IsCapital(zAround.After(1));
   return isNote ? "sharp" : isHeading ? "" : "number";
 }
 

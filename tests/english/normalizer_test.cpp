@@ -113,6 +113,9 @@ constexpr SpokenCase Measures[] = {
      "cents one hundred yen fifty cents"},
     {"5,99 € €1.299,00 € 5",
      "<five> euros and ninety nine cents one thousand two hundred ninety nine euros <five> euros"},
+    {"1.299 €, 1.000.000 € $1.299 1.5 €",
+     "one thousand two hundred ninety nine euros , one million euros one point two nine nine "
+     "dollars one point <five> euros"},
     {"1,5 kg, 1,5", "one point <five> kilograms , one , <five>"},
     {"1 000 000 1'000 12 345", "one million one thousand twelve three hundred forty <five>"},
     {"$2bn $3m 5 EUR", "two billion dollars three million dollars <five> euros"},
@@ -205,6 +208,7 @@ constexpr SpokenCase Pauses[] = {
     {"one,.two", "one . two"},
     {"===== one #####", "one ."},
     {"# One", "one"},
+    {"# of robots", "number of robots"},
     {"* one\n * two\n- three *\n‣ four", "one , two , three star , four"},
 };
 INSTANTIATE_TEST_SUITE_P(Pauses, Normalizing, ::testing::ValuesIn(Pauses));
