@@ -97,7 +97,7 @@ Reading ReadMoneyBeforeSign(Cursor zCursor) {
     const Amount amount = take(after);
     after.Take(' ');
     const Currency* const currency = CurrencyOf(after.Next());
-    if (currency != nullptr && !amount.whole.empty() && !IsDigit(after.Next(1))) {
+    if (currency != nullptr && !IsDigit(after.Next(1))) {
       after.Skip(1);
       return NumberReading{MoneyWords(amount, "", *currency) + TakeTo(after), after.At()};
     }

@@ -113,9 +113,9 @@ constexpr SpokenCase Measures[] = {
      "cents one hundred yen fifty cents"},
     {"5,99 € €1.299,00 € 5",
      "<five> euros and ninety nine cents one thousand two hundred ninety nine euros <five> euros"},
-    {"1.299 €, 1.000.000 € $1.299 1.5 €",
+    {"1.299 €, 1.000.000 € $1.299 1.5 € .50 €",
      "one thousand two hundred ninety nine euros , one million euros one point two nine nine "
-     "dollars one point <five> euros"},
+     "dollars one point <five> euros fifty cents"},
     {"1,5 kg, 1,5", "one point <five> kilograms , one , <five>"},
     {"1 000 000 1'000 12 345", "one million one thousand twelve three hundred forty <five>"},
     {"$2bn $3m 5 EUR", "two billion dollars three million dollars <five> euros"},
