@@ -23,7 +23,7 @@ void Session::Run() {
   while (!line_.IsAskedToStop() && std::cout) {
     line_.Wait(LongestWait());
     TakeInput(line_.ReadInput());
-    if (ReceiveAll()) {
+    if (Receive() > 0) {
       lastArrival_ = Clock::now();
       isPendingShown_ = false;
     } else if (Clock::now() - lastArrival_ >= QuietTime) {
@@ -33,7 +33,7 @@ void Session::Run() {
       soundOutput_->Tick();
     }
   }
-  ReceiveAll();
+  ReceiveRest();
   ShowPending();
   if (soundOutput_ != nullptr) {
     soundOutput_->Finish();
@@ -48,18 +48,26 @@ std::optional<milliseconds> Session::LongestWait() const {
   return isWaitingForRest ? std::make_optional(QuietTime) : std::nullopt;
 }
 
-bool Session::ReceiveAll() {
-  bool hasReceived = false;
-  for (std::string bytes; !(bytes = line_.Read()).empty() && std::cout;) {
-    hasReceived = true;
-    for (const ChipEvent& event : chip_.Receive(bytes)) {
-      if (soundOutput_ != nullptr) {
-        soundOutput_->Sound().Hear(event, chip_);
-      }
-      std::cout << chip_.Describe(event) << std::endl;
+/// Takes one piece and returns its size. A line that never falls silent then leaves everything else
+/// its turn.
+std::size_t Session::Receive() {
+  const std::string bytes = line_.Read();
+  for (const ChipEvent& event : chip_.Receive(bytes)) {
+    if (soundOutput_ != nullptr) {
+      soundOutput_->Sound().Hear(event, chip_);
     }
+    std::cout << chip_.Describe(event) << std::endl;
   }
-  return hasReceived;
+  return bytes.size();
+}
+
+/// Takes what arrived before the end was asked for.
+void Session::ReceiveRest() {
+  constexpr std::size_t mostOnLine = 65536;  // bytes; a line holds fewer
+  std::size_t size = 1;
+  for (std::size_t taken = 0; size > 0 && taken < mostOnLine && std::cout; taken += size) {
+    size = Receive();
+  }
 }
 
 void Session::ShowPending() {

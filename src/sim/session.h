@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,7 +26,8 @@ class Session {
  private:
   using Clock = std::chrono::steady_clock;
   std::optional<std::chrono::milliseconds> LongestWait() const;
-  bool ReceiveAll();
+  std::size_t Receive();
+  void ReceiveRest();
   void ShowPending();
   void TakeInput(std::string_view zText);
   void ChangeInput(const std::string& zLine);

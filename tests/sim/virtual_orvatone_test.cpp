@@ -80,6 +80,19 @@ TEST_F(VirtualOrvatoneTest, StopsCleanlyAndRemovesItsLink) {
   }
 }
 
+TEST_F(VirtualOrvatoneTest, StopsWhileBytesKeepArriving) {
+  ChildProcess program(
+      {"sh", "-c", "exec \"$0\" \"$@\" >/dev/null", VIRTUAL_ORVATONE, "--link", link.string()});
+  AwaitLink();
+  ChildProcess sender({"sh", "-c",
+                       "{ yes | head -c 100000; echo more than the line holds >&3; exec yes; } "
+                       "3>&1 >\"$0\"",
+                       link.string()});
+  ASSERT_TRUE(Await([&] { return !sender.Output().empty(); }));
+  program.Signal(SIGTERM);
+  EXPECT_EQ(program.WaitForEnd(), 0);
+}
+
 TEST_F(VirtualOrvatoneTest, ReplacesALeftOverLinkAndLeavesThatOfARunningOne) {
   // A link that leads nowhere, and one to a pseudo-terminal that now belongs to someone else.
   PseudoTerminal other;
