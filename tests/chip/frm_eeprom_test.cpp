@@ -62,6 +62,15 @@ TEST_F(EepromEditor, ShowsTheStoredPhrasesAndWhatTheyTake) {
   EXPECT_EQ(Sent(), "");
 }
 
+TEST_F(EepromEditor, DimsTheInvitationOfAnEmptyRowThatIsDisabled) {
+  Open<frmEEPROM>();
+  QAbstractButton* row = PhraseLabel(6);
+  row->setEnabled(false);
+  const QImage empty = row->grab().toImage();
+  row->setText("Click to write a phrase");
+  EXPECT_EQ(empty, row->grab().toImage()) << "not as dim as a phrase";
+}
+
 TEST_F(EepromEditor, WritesWhatPhrasesAndDictionaryHoldNow) {
   GivenPhrase(3, "hello");
   Open<frmEEPROM>();

@@ -77,7 +77,9 @@ void PhraseLabel::SetPhrase(std::string_view zPhrase, const QString& zWarning) {
 
 void PhraseLabel::paintEvent(QPaintEvent*) {
   if (text().isEmpty()) {
-    Draw(HowToFill, Qt::AlignLeft, palette().color(QPalette::PlaceholderText));
+    // A click does nothing while the row is disabled, and the style's colour would not show that.
+    const auto colour = isEnabled() ? QPalette::PlaceholderText : foregroundRole();
+    Draw(HowToFill, Qt::AlignLeft, palette().color(colour));
     return;
   }
   const QString mark = isMarked_ ? QString(WarningSign) + QLatin1Char(' ') : QString();
