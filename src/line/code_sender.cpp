@@ -26,6 +26,7 @@ CodeSender::~CodeSender() {
 
 void CodeSender::SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase, SendTicket* zTicket) {
   host_.StopClosingTimer();
+  isClosingSoon_ = false;
   if (IsRefused(zCodes, zIsPhrase)) {
     return;
   }
@@ -44,6 +45,11 @@ void CodeSender::SendCodesToOrvatone(std::string_view zCodes, bool zIsPhrase, Se
     WritePendingOutput();
   }
   current_ = 0;
+  StartClosingTimer();
+}
+
+void CodeSender::StartClosingTimer() {
+  isClosingSoon_ = true;
   host_.StartClosingTimer(ClosingDelay);
 }
 
@@ -66,6 +72,9 @@ void CodeSender::Tick() {
   queue_.BeginTurn();
   if (!queue_.IsEmpty() && port_.IsReadyForByte()) {
     WriteNextByte();
+  }
+  if (IsSending() && !isClosingSoon_ && IsDone()) {
+    StartClosingTimer();
   }
 }
 

@@ -119,8 +119,9 @@ class CodeSender {
   /// The bytes of the send under way that are not written yet. Valid until the next call.
   std::string_view PendingOutput() const { return queue_.Bytes(); }
 
-  /// Writes the next byte. This keeps a send going while a modal window that was opened during it
-  /// holds up its own loop. Does nothing when no byte is pending or the port is not ready.
+  /// Writes the next byte if one is pending and the port is ready. Starts the closing timer when
+  /// the send under way has nothing left to do. This keeps a send going, and lets the port close
+  /// after it, while a modal window that was opened during it holds up its own loop.
   void Tick();
 
   /// True while a send is under way, or several that nest.
@@ -149,6 +150,7 @@ class CodeSender {
   bool IsDone() const;
   void WriteNextByte();
   void OnPortFailed();
+  void StartClosingTimer();
 
   SerialPort& port_;
   SenderHost& host_;
@@ -160,6 +162,7 @@ class CodeSender {
   int inputHolds_ = 0;         // how many UserInputHolds there are
   bool isLineSlow_ = false;    // a send without user input gave up, and no byte was written since
   bool isPortShownOpen_ = false;
+  bool isClosingSoon_ = false;  // the closing timer was started, and no send has begun since
   PortFailure failure_;
   std::string device_;  // the one that was opened last
 };

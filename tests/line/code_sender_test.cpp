@@ -253,6 +253,22 @@ TEST_F(CodeSenderTest, TicksCarryOnWhileAModalWindowHoldsUpTheLoop) {
   EXPECT_EQ(port.TakeWritten(), "abcde");
 }
 
+TEST_F(CodeSenderTest, ThePortClosesAfterASendWhoseLoopIsHeldUp) {
+  port.unsentBytes = 1;
+  host.acts.push_back([this] {
+    Do({"tick", "tick"});
+    EXPECT_FALSE(host.isTimerRunning) << "the port still holds a byte";
+    Do({"release", "tick"});
+    EXPECT_TRUE(host.isTimerRunning);
+    sender.CloseSerialPort();  // as the timer does
+    Speak("x");
+    EXPECT_TRUE(port.opened.back().hardwareHandshaking);
+  });
+  Send("ab");
+  EXPECT_EQ(port.TakeWritten(), "abx");
+  EXPECT_EQ(TakeLog(), "green white green ");
+}
+
 TEST_F(CodeSenderTest, ShutUpCutsALongWriteAtEveryTenthByte) {
   std::string write;
   for (int location = 0; location < 234; ++location) {
