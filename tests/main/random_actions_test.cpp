@@ -215,6 +215,7 @@ class RandomActions : public WindowTest {
   void RunProgram(SerialPort& zPort, int zActions, const std::function<void()>& zMishap) {
     constexpr int rounds = 10;
     for (int round = 0; round < rounds; ++round) {
+      settings.SaveIniValue("Serial", "Port", "1");  // nonsense typed before would stay
       frmUtility mainWindow(zPort, settings, dictionary, rash);
       mainWindow.Open();
       RestlessUser user(&mainWindow, random, zActions / rounds);
