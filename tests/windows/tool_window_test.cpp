@@ -112,6 +112,14 @@ TEST_F(ToolWindowTest, LooksLikeAToolWindowInTheMiddleOfTheScreen) {
   EXPECT_EQ(resizable.size(), QSize(500, 5));
 }
 
+TEST_F(ToolWindowTest, DoesNotOpenOverAnOwnerThatHasBeenClosed) {
+  NotingWindow window(&owner);
+  QTimer::singleShot(0, &window, &QWidget::close);  // in case it opens after all
+  owner.close();
+  window.ShowModal();
+  EXPECT_EQ(window.steps, "");
+}
+
 TEST_F(ToolWindowTest, IsUnloadedWithItsOwnerFreeBeforeShowModalReturns) {
   NotingWindow window(&owner);
   bool isShownModal = false;

@@ -25,6 +25,9 @@ ToolWindow::ToolWindow(QWidget* zOwner, const QString& zCaption, TwipSize zClien
 }
 
 void ToolWindow::ShowModal() {
+  if (parentWidget() != nullptr && !parentWidget()->isVisible()) {
+    return;
+  }
   LoadOnce();
   static_cast<void>(exec());  // the result code has no meaning here
 }

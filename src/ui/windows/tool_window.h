@@ -19,7 +19,9 @@ class ToolWindow : public QDialog {
   ToolWindow(QWidget* zOwner, const QString& zCaption, TwipSize zClientSize,
              Sizing zSizing = Sizing::Fixed);
 
-  /// Loads and shows the window modally and returns when it has been closed.
+  /// Loads and shows the window modally and returns when it has been closed. Does nothing when its
+  /// owner is not shown: events that ran during the click may have closed it, or have ended the
+  /// program.
   void ShowModal();
 
   /// Loads and shows the window and returns at once (tests).
