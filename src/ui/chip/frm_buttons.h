@@ -58,7 +58,6 @@ class frmButtons : public ToolWindow {
   std::vector<NumberBox> UnusableNumbers() const;
   void Report(const std::vector<NumberBox>& zUnusable);
   void WriteEvents();
-  void ShowPhraseOf(TextBox* zBox);
 
   void btnWrite_Click();
   void btnShutUp_Click();
