@@ -1,6 +1,6 @@
 #pragma once
 
-/// What a Speaker sends with on this system. On Windows that needs no Qt.
+/// The port and the event loop of a Speaker on this system. On Windows they need no Qt.
 
 #ifdef _WIN32
 
@@ -27,7 +27,7 @@ struct SpeakerApplication {
   SpeakerApplication(int&, char**) {}
 };
 
-/// The serial devices that this machine has now, in natural order of their names.
+/// The serial devices that are present now, in natural order of their names.
 inline std::vector<SerialDevice> DevicesPresent() {
   return PresentComPorts();
 }
@@ -52,10 +52,10 @@ class SpeakerPort : public QtSerialPort {
   explicit SpeakerPort(SpeakerTurns&) {}
 };
 
-/// Exists while a Speaker does.
+/// Must exist before a Speaker is made, and outlive it.
 using SpeakerApplication = QCoreApplication;
 
-/// The serial devices that this machine has now, in natural order of their names.
+/// The serial devices that are present now, in natural order of their names.
 inline std::vector<SerialDevice> DevicesPresent() {
   return PresentSerialDevices();
 }

@@ -1,4 +1,4 @@
-// In place of audio_device.cpp on Windows.
+// Replaces audio_device.cpp on Windows.
 
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX

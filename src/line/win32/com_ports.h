@@ -6,8 +6,8 @@
 
 namespace loquitor {
 
-/// The COM ports that this machine has now, COM2 before COM10, with what Windows calls them. Texts
-/// in UTF-8. Asks Windows each time (some milliseconds).
+/// The COM ports that are present now, COM2 before COM10, with the descriptions of the device
+/// manager. Texts are UTF-8. Asks Windows each time, which takes some milliseconds.
 std::vector<SerialDevice> PresentComPorts();
 
 }  // namespace loquitor

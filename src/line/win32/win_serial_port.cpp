@@ -16,8 +16,7 @@ namespace {
 
 constexpr DWORD LongestCloseMilliseconds = 100;
 
-/// The other end needs a moment to read the rest of what one program has sent until it takes the
-/// next one.
+/// The other end first reads the rest of what the program before has sent.
 constexpr DWORD LongestPipeWaitMilliseconds = 100;
 
 /// Why CreateFile did not open a device. Windows denies access to a port that another program has.
@@ -242,7 +241,7 @@ int WinSerialPort::UnsentBytes() const {
 }
 
 void WinSerialPort::CloseWhenSent() {
-  // What a pipe has taken is read from it even when this end is closed.
+  // The other end of a pipe can read the bytes in it after this end is closed.
   if (IsOpen() && GetFileType(line_->Handle()) != FILE_TYPE_PIPE) {
     static_cast<void>(FlushFileBuffers(line_->Handle()));  // closing anyway
   }

@@ -13,27 +13,27 @@ class WinSerialPort : public SerialPort {
   /// Runs an action later, from the event loop.
   using RunLater = std::function<void(std::function<void()>)>;
 
-  /// `zRunLater` delivers a failure. The action may run after this port has been destroyed; it does
-  /// nothing then.
+  /// `zRunLater` delivers failures. It may run an action after this port has been destroyed; the
+  /// action then does nothing.
   explicit WinSerialPort(RunLater zRunLater);
   ~WinSerialPort() override;
 
   /// `zSettings.device` in UTF-8: the name of a port, such as COM3, or the whole name of a pipe,
-  /// such as \\.\pipe\NAME. Speed and handshaking mean nothing to a pipe. Waits up to 0.1 s for a
-  /// pipe that another program has.
+  /// such as \\.\pipe\NAME. A pipe ignores speed and handshaking. Waits up to 0.1 s for a pipe that
+  /// another program has open.
   PortFailure Open(const SerialPortSettings& zSettings) override;
   void Close() override;
   bool IsOpen() const override;
   void DiscardReceived() override;
   bool IsReadyForByte() const override;
 
-  /// The byte is in the hands of the operating system when this returns true.
+  /// The operating system has the byte when this returns true.
   bool WriteByte(std::uint8_t zByte) override;
 
   int UnsentBytes() const override;
 
-  /// Closes the port once the line has taken what was handed over, and discards nothing. Only after
-  /// UnsentBytes has come to 0: it does not watch for a line that is held back.
+  /// Closes the port after the line has taken every byte; discards nothing. Call it only when
+  /// UnsentBytes is 0, because it blocks while the line is held back.
   void CloseWhenSent();
 
   void SetFailureHandler(std::function<void()> zHandler) override;

@@ -12,10 +12,10 @@ namespace loquitor {
 
 namespace {
 
-// A queue of sixteen bytes lasts 8 ms at 19200 bits a second; looking every 2 ms keeps it filled.
+// A queue of sixteen bytes lasts 8 ms at 19200 bits per second. A tick every 2 ms keeps it filled.
 constexpr DWORD TickMilliseconds = 2;
 
-constexpr UINT ClockMilliseconds = 1;  // else Windows sleeps 16 ms at a time
+constexpr UINT ClockMilliseconds = 1;  // otherwise Windows sleeps 16 ms at a time
 
 }  // namespace
 

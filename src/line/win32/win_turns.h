@@ -7,22 +7,22 @@
 
 namespace loquitor {
 
-/// Three functions of SenderHost for a program without windows; see there. Nobody clicks or types
-/// in it, so UserInput makes no difference.
+/// The last three functions of SenderHost, for a program without windows. It has no user input, so
+/// UserInput makes no difference.
 class WinTurns {
  public:
-  /// `zOnTick` calls CodeSender::Tick.
+  /// `zOnTick` must call CodeSender::Tick.
   explicit WinTurns(std::function<void()> zOnTick);
   ~WinTurns();
   WinTurns(const WinTurns&) = delete;
   WinTurns& operator=(const WinTurns&) = delete;
 
-  /// Has the next call of LetEventsRun or WaitForEvents run `zAction`. For WinSerialPort.
+  /// The next call of LetEventsRun or WaitForEvents runs `zAction`. For WinSerialPort.
   void RunLater(std::function<void()> zAction);
 
   void LetEventsRun(UserInput zInput);
 
-  /// Ticks, if that is on.
+  /// Waits one tick, runs the actions, and calls `zOnTick` while ticking is on.
   void WaitForEvents(UserInput zInput);
 
   void SetTicking(bool zIsOn) { isTicking_ = zIsOn; }
