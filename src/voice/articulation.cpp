@@ -9,8 +9,7 @@ namespace loquitor {
 
 namespace {
 
-constexpr double FrameMs = 2;
-static_assert(VocalTract::FrameSamples == VoiceSampleRate * 2 / 1000);
+constexpr double FrameMs = VocalTract::FrameMs;
 
 /// Within a phrase the breath never stops.
 constexpr double RestingBreath = 0.002;
@@ -23,6 +22,15 @@ struct Phase {
   double noise;
   NoisePlace place = NoisePlace::None;
 };
+
+/// The time from the start of a sound to the middle of its frame `zFrame`.
+double MiddleMs(std::size_t zFrame) {
+  return FrameMs * (static_cast<double>(zFrame) + 0.5);
+}
+
+double DurationMs(const std::vector<TractFrame>& zFrames) {
+  return FrameMs * static_cast<double>(zFrames.size());
+}
 
 bool IsObstruent(const VoiceSound* zSound) {
   return zSound != nullptr &&
@@ -227,7 +235,7 @@ Meeting MeetingBefore(const VoiceSound& zSound, const SoundContext& zContext,
 
 void MoveFormants(std::vector<TractFrame>& zFrames, const VoiceSound& zSound,
                   const SoundContext& zContext) {
-  const double ms = FrameMs * static_cast<double>(zFrames.size());
+  const double ms = DurationMs(zFrames);
   const Course course = CourseOf(zSound, zContext);
   const Meeting left = MeetingBefore(zSound, zContext, course);
   const Meeting right =
@@ -236,7 +244,7 @@ void MoveFormants(std::vector<TractFrame>& zFrames, const VoiceSound& zSound,
   const double leftMs = std::min(left.afterMs, ms / 2);
   const double rightMs = std::min(std::max(right.beforeMs, stops), ms / 2);
   for (std::size_t i = 0; i < zFrames.size(); ++i) {
-    const double at = FrameMs * (static_cast<double>(i) + 0.5);
+    const double at = MiddleMs(i);
     const double glide =
         Ease((at / ms - course.glideBegin) / (course.glideEnd - course.glideBegin));
     const double leftShare = leftMs > 0 ? 1 - Ease(at / leftMs) : 0;
@@ -257,9 +265,9 @@ void LowerPalate(std::vector<TractFrame>& zFrames, const VoiceSound& zSound,
   const bool isBefore = zContext.after != nullptr && zContext.after->kind == SoundKind::Nasal;
   const bool isAfter = zContext.before != nullptr && zContext.before->kind == SoundKind::Nasal;
   const bool mayPass = !IsObstruent(&zSound);
-  const double ms = FrameMs * static_cast<double>(zFrames.size());
+  const double ms = DurationMs(zFrames);
   for (std::size_t i = 0; i < zFrames.size(); ++i) {
-    const double at = FrameMs * (static_cast<double>(i) + 0.5);
+    const double at = MiddleMs(i);
     double nasality = isNasal ? 1 : 0;
     if (!isNasal && mayPass) {
       nasality = std::max(isBefore ? 0.6 * (1 - Ease((ms - at) / 80)) : 0,
@@ -280,14 +288,37 @@ std::array<double, 3> BandwidthsOf(const VoiceSound& zSound, const TractFrame& z
 /// Fades the end of the last sound of a phrase.
 void FadeOut(std::vector<TractFrame>& zFrames) {
   constexpr double fadeMs = 50;
-  const double ms = FrameMs * static_cast<double>(zFrames.size());
+  const double ms = DurationMs(zFrames);
   for (std::size_t i = 0; i < zFrames.size(); ++i) {
-    const double left = ms - FrameMs * (static_cast<double>(i) + 0.5);
+    const double left = ms - MiddleMs(i);
     const double share = Ease(left / std::min(fadeMs, ms / 2));
     zFrames[i].voice *= share;
     zFrames[i].noise *= share;
     zFrames[i].breath *= share;
   }
+}
+
+/// The amplitudes of the phases of a sound. At least one frame.
+std::vector<TractFrame> FramesOf(const std::vector<Phase>& zPhases, const Manner& zManner) {
+  std::vector<TractFrame> frames;
+  double due = 0;  // a sum, so that rounding errors of the phases do not add up
+  for (const Phase& phase : zPhases) {
+    due += phase.ms / zManner.tempo;
+    TractFrame frame{.voice = phase.voice * zManner.loudness,
+                     .breath = std::max(phase.breath, RestingBreath) * zManner.loudness,
+                     .noise = phase.noise * zManner.loudness,
+                     .place = phase.place};
+    if (zManner.isSoft) {
+      frame.breath += 0.08 * frame.voice;
+    }
+    while (MiddleMs(frames.size()) < due) {
+      frames.push_back(frame);
+    }
+  }
+  if (frames.empty()) {
+    frames.emplace_back();
+  }
+  return frames;
 }
 
 }  // namespace
@@ -298,24 +329,7 @@ bool IsVowel(const VoiceSound& zSound) {
 
 std::vector<TractFrame> Articulate(const VoiceSound& zSound, const SoundContext& zContext,
                                    const Manner& zManner) {
-  std::vector<TractFrame> frames;
-  double due = 0;  // a sum, so that rounding errors of the phases do not add up
-  for (const Phase& phase : PhasesOf(zSound, zContext)) {
-    due += phase.ms / zManner.tempo;
-    TractFrame frame{.voice = phase.voice * zManner.loudness,
-                     .breath = std::max(phase.breath, RestingBreath) * zManner.loudness,
-                     .noise = phase.noise * zManner.loudness,
-                     .place = phase.place};
-    if (zManner.isSoft) {
-      frame.breath += 0.08 * frame.voice;
-    }
-    while (FrameMs * (static_cast<double>(frames.size()) + 0.5) < due) {
-      frames.push_back(frame);
-    }
-  }
-  if (frames.empty()) {
-    frames.emplace_back();
-  }
+  std::vector<TractFrame> frames = FramesOf(PhasesOf(zSound, zContext), zManner);
   MoveFormants(frames, zSound, zContext);
   LowerPalate(frames, zSound, zContext);
   if (zContext.after == nullptr && zSound.kind != SoundKind::Stop) {

@@ -29,7 +29,7 @@ constexpr int Delay = 30;
 constexpr int Reset = 31;
 }  // namespace code
 
-constexpr double FrameMs = 2;
+constexpr double FrameMs = VocalTract::FrameMs;
 
 struct Pause {
   double ms;

@@ -26,7 +26,8 @@ struct TractFrame {
 /// describes it. The same frames give the same samples.
 class VocalTract {
  public:
-  static constexpr std::size_t FrameSamples = VoiceSampleRate / 500;  ///< 2 ms
+  static constexpr int FrameMs = 2;  ///< duration of a frame
+  static constexpr std::size_t FrameSamples = VoiceSampleRate * FrameMs / 1000;
   using Samples = std::array<double, FrameSamples>;
 
   VocalTract();
