@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "text/letters.h"
+#include "text/windows_1252.h"
 
 namespace loquitor {
 
@@ -125,19 +126,8 @@ constexpr std::string_view LatinLetters =
     "W w Y y Y Z z Z z Z z s ";
 constexpr char32_t FirstLatinLetter = 0xC0;
 
-/// The code points of the bytes 0x80 to 0x9F of Windows-1252. Source: the chart of the code page.
-/// The five unassigned bytes stand for the code points of the same value.
-constexpr char32_t HighControls[] = {
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
-
 bool IsBetween(char32_t zCharacter, char32_t zFirst, char32_t zLast) {
   return zCharacter >= zFirst && zCharacter <= zLast;
-}
-
-char32_t FromWindows1252(std::uint8_t zByte) {
-  return IsBetween(zByte, 0x80, 0x9F) ? HighControls[zByte - 0x80] : zByte;
 }
 
 /// A character of a text and the number of its bytes.
@@ -160,7 +150,7 @@ Decoded DecodeFirst(std::string_view zText) {
   }
   isWhole = isWhole && character >= Smallest[size] && character <= 0x10FFFF &&
             !IsBetween(character, 0xD800, 0xDFFF);
-  return isWhole ? Decoded{character, size} : Decoded{FromWindows1252(first), 1};
+  return isWhole ? Decoded{character, size} : Decoded{CharacterOf(zText[0]), 1};
 }
 
 void AppendUtf8(std::string& zText, char32_t zCharacter) {
