@@ -1,5 +1,7 @@
 #include "say/say_options.h"
 
+#include "terminal/option_value.h"
+
 namespace loquitor {
 
 const std::string_view SayHelpText =
@@ -41,42 +43,50 @@ const std::string_view SayHelpText =
 
 namespace {
 
-/// Sets an option in `zOptions`. False when it does not exist.
-bool TakeOption(SayOptions& zOptions, std::string_view zOption) {
-  if (zOption == "--help" || zOption == "-h") {
-    zOptions.wantsHelp = true;
-  } else if (zOption == "--codes") {
-    zOptions.wantsCodes = true;
-  } else if (zOption == "--check") {
-    zOptions.wantsCheck = true;
-  } else if (zOption == "--say-data") {
-    zOptions.wantsSayData = true;
-  } else if (zOption == "--english") {
-    zOptions.isEnglish = true;
-  } else if (zOption == "--force") {
-    zOptions.isForced = true;
-  } else if (zOption == "--ports") {
-    zOptions.wantsPorts = true;
-  } else if (zOption == "--version") {
-    zOptions.wantsVersion = true;
-  } else {
-    return false;
-  }
-  return true;
-}
+/// An option without a value.
+struct Flag {
+  std::string_view name;
+  bool SayOptions::*member;
+};
 
-/// Takes the value of option `zName` from "NAME VALUE" or "NAME=VALUE" at `zAt`, which moves on to
-/// VALUE. A missing value is empty. False when another argument is there.
-bool TakeValue(std::string_view zName, const std::vector<std::string_view>& zArguments,
-               std::size_t& zAt, std::optional<std::string>& zValue) {
-  const std::string_view argument = zArguments[zAt];
-  if (argument == zName) {
-    zValue = ++zAt < zArguments.size() ? zArguments[zAt] : "";
-    return true;
+constexpr Flag Flags[] = {
+    {"--help", &SayOptions::wantsHelp},        {"-h", &SayOptions::wantsHelp},
+    {"--codes", &SayOptions::wantsCodes},      {"--check", &SayOptions::wantsCheck},
+    {"--say-data", &SayOptions::wantsSayData}, {"--english", &SayOptions::isEnglish},
+    {"--force", &SayOptions::isForced},        {"--ports", &SayOptions::wantsPorts},
+    {"--version", &SayOptions::wantsVersion},
+};
+
+/// An option with a value, and what the value is.
+struct ValueOption {
+  std::string_view name;
+  std::optional<std::string> SayOptions::*member;
+  const char* kind;
+};
+
+constexpr ValueOption ValueOptions[] = {
+    {"--set-port", &SayOptions::device, "a device"},
+    {"--add-port", &SayOptions::addedDevice, "a device"},
+    {"--wav", &SayOptions::wavFile, "a file"},
+    {"--add-words", &SayOptions::wordList, "a file"},
+};
+
+/// Sets the option at index `zAt`, which moves on to the value if it has one. A missing value is a
+/// complaint. False when there is no such option.
+bool TakeOption(SayOptions& zOptions, const std::vector<std::string_view>& zArguments,
+                std::size_t& zAt) {
+  for (const Flag& flag : Flags) {
+    if (zArguments[zAt] == flag.name) {
+      zOptions.*flag.member = true;
+      return true;
+    }
   }
-  if (argument.starts_with(zName) && argument.substr(zName.size(), 1) == "=") {
-    zValue = argument.substr(zName.size() + 1);
-    return true;
+  for (const ValueOption& option : ValueOptions) {
+    if (const auto value = TakeOptionValue(option.name, zArguments, zAt)) {
+      zOptions.*option.member = value;
+      zOptions.complaint = value->empty() ? std::string(option.name) + " needs " + option.kind : "";
+      return true;
+    }
   }
   return false;
 }
@@ -111,15 +121,7 @@ SayOptions ParseSayOptions(const std::vector<std::string_view>& zArguments) {
       AddText(options, argument);
     } else if (argument == "--") {
       areOptionsOver = true;
-    } else if (TakeValue("--set-port", zArguments, i, options.device)) {
-      options.complaint = options.device->empty() ? "--set-port needs a device" : "";
-    } else if (TakeValue("--add-port", zArguments, i, options.addedDevice)) {
-      options.complaint = options.addedDevice->empty() ? "--add-port needs a device" : "";
-    } else if (TakeValue("--wav", zArguments, i, options.wavFile)) {
-      options.complaint = options.wavFile->empty() ? "--wav needs a file" : "";
-    } else if (TakeValue("--add-words", zArguments, i, options.wordList)) {
-      options.complaint = options.wordList->empty() ? "--add-words needs a file" : "";
-    } else if (!TakeOption(options, argument)) {
+    } else if (!TakeOption(options, zArguments, i)) {
       options.complaint = "unknown option " + std::string(argument) +
                           " (put -- before a text that begins with a hyphen)";
     }

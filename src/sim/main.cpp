@@ -9,6 +9,7 @@
 #include "sim/chip_line.h"
 #include "sim/session.h"
 #include "sim/sound_output.h"
+#include "terminal/option_value.h"
 #include "terminal/terminal.h"
 
 namespace {
@@ -39,22 +40,16 @@ struct Options {
   std::string complaint;    ///< what is wrong with the arguments; empty when nothing is
 };
 
-/// Takes the value of option `zName` from "NAME VALUE" or "NAME=VALUE" at `zAt`, which moves on to
-/// VALUE. False when another argument is there. A missing value sets `zComplaint`.
-bool TakeValue(const std::vector<std::string_view>& zArguments, std::size_t& zAt,
-               std::string_view zName, std::string& zValue, std::string& zComplaint) {
-  const std::string_view argument = zArguments[zAt];
-  if (argument == zName) {
-    zValue = ++zAt < zArguments.size() ? zArguments[zAt] : "";
-  } else if (argument.starts_with(std::string(zName) + "=")) {
-    zValue = argument.substr(zName.size() + 1);
-  } else {
-    return false;
+/// Takes the path that follows option `zName` at index `zAt`, as TakeOptionValue does. A missing
+/// path is a complaint. False when another argument is there.
+bool TakePath(const std::vector<std::string_view>& zArguments, std::size_t& zAt,
+              std::string_view zName, std::string& zPath, std::string& zComplaint) {
+  const auto value = loquitor::TakeOptionValue(zName, zArguments, zAt);
+  if (value) {
+    zPath = *value;
+    zComplaint = zPath.empty() ? std::string(zName) + " needs a path" : "";
   }
-  if (zValue.empty()) {
-    zComplaint = std::string(zName) + " needs a path";
-  }
-  return true;
+  return value.has_value();
 }
 
 Options ParseOptions(const std::vector<std::string_view>& zArguments) {
@@ -71,8 +66,8 @@ Options ParseOptions(const std::vector<std::string_view>& zArguments) {
     }
     if (argument == "--speak") {
       options.isSpoken = true;
-    } else if (!TakeValue(zArguments, i, "--link", options.link, options.complaint) &&
-               !TakeValue(zArguments, i, "--wav", options.wavFile, options.complaint)) {
+    } else if (!TakePath(zArguments, i, "--link", options.link, options.complaint) &&
+               !TakePath(zArguments, i, "--wav", options.wavFile, options.complaint)) {
       options.complaint = "unknown argument: " + std::string(argument);
     }
   }
