@@ -6,6 +6,7 @@
 
 #include "files/profile_lines.h"
 #include "text/letters.h"
+#include "text/words.h"
 
 namespace loquitor {
 namespace {
@@ -155,12 +156,6 @@ std::vector<ProfileEdit> EditsInSection(ProfileLineReader& zReader, const Profil
 }
 
 }  // namespace
-
-std::string InOneLine(std::string_view zValue) {
-  std::string line(zValue);
-  std::erase_if(line, [](char zByte) { return zByte == '\r' || zByte == '\n'; });
-  return line;
-}
 
 std::optional<ProfileEdit> EditForValue(std::string_view zText, std::string_view zSection,
                                         std::string_view zKey, std::string_view zValue) {

@@ -22,9 +22,6 @@ struct ProfileEdit {
   std::string replacement;
 };
 
-/// `zValue` as a profile file stores it: without its line breaks.
-std::string InOneLine(std::string_view zValue);
-
 /// The change that stores InOneLine of `zValue` under `zSection` and `zKey` in the profile text
 /// `zText`:
 ///

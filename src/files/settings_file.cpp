@@ -2,9 +2,9 @@
 
 #include <charconv>
 
-#include "files/profile_edit.h"
 #include "files/profile_lines.h"
 #include "text/number_text.h"
+#include "text/words.h"
 
 namespace loquitor {
 

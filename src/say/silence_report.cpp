@@ -1,6 +1,6 @@
 #include "say/silence_report.h"
 
-#include <algorithm>
+#include "text/words.h"
 
 namespace loquitor {
 namespace {
@@ -30,12 +30,6 @@ class Place {
   int column_ = 1;
 };
 
-std::string WithoutLineBreaks(std::string_view zText) {
-  std::string text(zText);
-  std::erase_if(text, [](char zCharacter) { return zCharacter == '\n' || zCharacter == '\r'; });
-  return text;
-}
-
 }  // namespace
 
 std::string SilenceReport(std::string_view zText, const std::vector<SilentPart>& zParts,
@@ -46,7 +40,7 @@ std::string SilenceReport(std::string_view zText, const std::vector<SilentPart>&
     place.MoveTo(part.start);
     report.append(place.Text())
         .append(": ")
-        .append(WithoutLineBreaks(zText.substr(part.start, part.length)))
+        .append(InOneLine(zText.substr(part.start, part.length)))
         .append(part.kind == SilentPart::Kind::Word
                     ? ": no sounds for this word in the dictionary\n"
                     : ": no such mnemonic or code\n");

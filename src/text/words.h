@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 
 namespace loquitor {
@@ -34,6 +35,13 @@ inline std::string_view TrimBlanks(std::string_view zText) {
 /// `zText` without the spaces at its start and without the spaces and NULs at its end.
 inline std::string_view TrimSpacesAndNuls(std::string_view zText) {
   return Trim(zText, " ", {" \0", 2});
+}
+
+/// `zText` without its line breaks (CR and LF).
+inline std::string InOneLine(std::string_view zText) {
+  std::string line(zText);
+  std::erase_if(line, [](char zByte) { return zByte == '\r' || zByte == '\n'; });
+  return line;
 }
 
 /// Calls `zDo` with each word of `zText`, in order. Runs of spaces separate the words.

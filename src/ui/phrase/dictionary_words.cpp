@@ -1,6 +1,5 @@
 #include "ui/phrase/dictionary_words.h"
 
-#include "files/profile_edit.h"
 #include "files/profile_lines.h"
 #include "text/letters.h"
 #include "text/words.h"
