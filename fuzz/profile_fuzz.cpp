@@ -13,15 +13,10 @@
 
 namespace {
 
-using loquitor::EditForValue;
 using loquitor::ProfileSnapshot;
+using loquitor::ProfileValue;
 using loquitor::testing::AsLoaded;
 using loquitor::testing::PlainProfile;
-
-/// `zText` after `zEdit`.
-std::string Edited(std::string zText, const loquitor::ProfileEdit& zEdit) {
-  return zText.replace(zEdit.begin, zEdit.end - zEdit.begin, zEdit.replacement);
-}
 
 std::string TakeField(std::string& zInput) {
   const std::size_t end = std::min(zInput.find('\0'), zInput.size());
@@ -55,13 +50,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* zData, std::size_t zSi
   CompareRead(text, section, key);
 
   PlainProfile expected(text);
-  const auto edit = EditForValue(text, section, key, value);
-  Require(edit.has_value() == expected.Write(section, key, value), "refusal of a write");
-  if (edit) {
-    const std::string written = Edited(text, *edit);
-    Require(written == expected.Text(), "written text");
-    CompareRead(written, section, key);
-    Require(ProfileSnapshot(AsLoaded(written)).Find(section, key).has_value(), "own write found");
+  const ProfileValue stored{key, value};
+  const auto written = loquitor::TextWithValues(text, section, {&stored, 1});
+  Require(written.has_value() == expected.Write(section, key, value), "refusal of a write");
+  if (written) {
+    Require(*written == expected.Text(), "written text");
+    CompareRead(*written, section, key);
+    Require(ProfileSnapshot(AsLoaded(*written)).Find(section, key).has_value(), "own write found");
   }
   return 0;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <span>
 #include <string>
@@ -14,32 +13,20 @@ struct ProfileValue {
   std::string value;
 };
 
-/// A change of a text: `replacement` takes the place of the bytes from offset `begin` up to, not
-/// including, offset `end`.
-struct ProfileEdit {
-  std::size_t begin;
-  std::size_t end;
-  std::string replacement;
-};
-
-/// The change that stores InOneLine of `zValue` under `zSection` and `zKey` in the profile text
-/// `zText`:
+/// `zText`, the text of a profile file, with `zValues` stored in section `zSection`, one after the
+/// other:
 ///
-/// - a new line in place of the line that a read would find; the key keeps its spelling,
+/// - a new line in place of the line that a read would find; the key keeps its spelling. A value
+///   that is there already is left as it is,
 /// - without such a line, a new line after the last line of the section that is not blank,
 /// - without such a section, a new section at the end of the text.
 ///
-/// New lines end in CR LF. A last line without a line end gets one first. When the value is there
-/// already, the change is empty: it replaces nothing by nothing.
+/// Values are stored by InOneLine. New lines end in CR LF. A last line without a line end gets one
+/// first.
 ///
 /// Nothing when the format cannot hold a name (without the blanks around it): an empty key, a key
 /// with an equals sign, a key that begins like a header or a comment, a section with a closing
 /// bracket, or a line break in either.
-std::optional<ProfileEdit> EditForValue(std::string_view zText, std::string_view zSection,
-                                        std::string_view zKey, std::string_view zValue);
-
-/// `zText` with all `zValues` of `zSection` stored, with the same result as EditForValue for one
-/// after the other, in one pass. Nothing when the format cannot hold one of the names.
 std::optional<std::string> TextWithValues(std::string_view zText, std::string_view zSection,
                                           std::span<const ProfileValue> zValues);
 

@@ -41,7 +41,7 @@ class ProfileFile {
   std::string ReadSetting(std::string_view zSection, std::string_view zKey,
                           std::string_view zDefault) const;
 
-  /// Stores a value as EditForValue describes, and creates the file when it is missing. All other
+  /// Stores a value as TextWithValues describes, and creates the file when it is missing. All other
   /// bytes of the file stay as they were. A value is stored in one line: its line breaks are left
   /// out. A value that is there already is not written again.
   ///
