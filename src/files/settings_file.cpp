@@ -32,7 +32,7 @@ bool IsTrueText(std::string_view zText) {
   return EqualNames(TrimBlanks(zText), "true") || NumberAtStart(zText) != 0;
 }
 
-bool IsFlowControlStored(const SettingsFile& zSettings) {
+bool WantsFlowControl(const SettingsFile& zSettings) {
   const std::string stored = zSettings.GetIniValue("Serial", "FlowControl", "1");
   const char* const end = stored.data() + stored.size();
   int value = 1;

@@ -59,6 +59,6 @@ bool IsTrueText(std::string_view zText);
 
 /// Whether the setting "Serial", "FlowControl" asks for hardware flow control. It does unless it is
 /// the number 0 or 2 (2 is a greyed check box).
-bool IsFlowControlStored(const SettingsFile& zSettings);
+bool WantsFlowControl(const SettingsFile& zSettings);
 
 }  // namespace loquitor

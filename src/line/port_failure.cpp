@@ -22,7 +22,7 @@ std::string Reason(const PortFailure& zFailure) {
       return "you are not permitted to use " + device + "." +
              (zFailure.group.empty() ? ""
                                      : " Join the group " + zFailure.group + " and log in again.");
-    case PortError::NotASpeed:
+    case PortError::BadBaudRate:
       return "BaudRate=" + zFailure.baudRate +
              " in section [Serial] of Loquitor.ini is not a speed of this port. Use 2400, 4800, "
              "9600 or 19200.";

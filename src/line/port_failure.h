@@ -13,7 +13,7 @@ enum class PortError {
   NotSerial,     ///< the device is no serial port
   InUse,         ///< another program has the device open
   NotPermitted,  ///< the user may not open the device
-  NotASpeed,     ///< the stored baud rate is no speed that the port can use
+  BadBaudRate,   ///< the stored baud rate is no speed that the port can use
   Unusable,      ///< the system gave another reason
   Lost,          ///< the port failed after it was opened
 };
@@ -23,7 +23,7 @@ struct PortFailure {
   PortError error = PortError::None;
   std::string device = {};    ///< the device that was to be opened; empty for NoDevice
   std::string group = {};     ///< for NotPermitted: the group that may open it; empty if unknown
-  std::string baudRate = {};  ///< for NotASpeed: the stored text
+  std::string baudRate = {};  ///< for BadBaudRate: the stored text
 };
 
 /// One or two sentences for the user: what is wrong with port `zNumber`, and what to do. `zNumber`

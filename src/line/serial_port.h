@@ -37,7 +37,7 @@ class SerialPort {
   /// Opens the port for this program alone; closes it first if it is open. The result has
   /// PortError::None on success. Otherwise it says why the port cannot be opened with these
   /// settings, and the port is closed. A baud rate that BaudRateOf cannot read is
-  /// PortError::NotASpeed.
+  /// PortError::BadBaudRate.
   virtual PortFailure Open(const SerialPortSettings& zSettings) = 0;
 
   /// Closes the port. Waits at most 0.1 s for its queue to go out and discards the rest. Does

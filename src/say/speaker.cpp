@@ -52,7 +52,7 @@ std::string Speaker::PortDevice() const {
 }
 
 bool Speaker::IsFlowControlTicked() const {
-  return IsFlowControlStored(settings_);
+  return WantsFlowControl(settings_);
 }
 
 void Speaker::ShowPortState(PortState zState) {

@@ -73,13 +73,13 @@ TEST_F(SettingsFileTest, KnowsATruthValueByItsWordOrNumber) {
 }
 
 TEST_F(SettingsFileTest, WantsFlowControlUnlessANumberSaysOtherwise) {
-  EXPECT_TRUE(IsFlowControlStored(settings));
+  EXPECT_TRUE(WantsFlowControl(settings));
   const Rows<const char*, bool> rows{{"1", true},  {"", true},    {"no", true},
                                      {"0x", true}, {"-1", true},  {"99999999999", true},
                                      {"0", false}, {"00", false}, {"2", false}};
   for (const auto& [stored, isOn] : rows) {
     settings.SaveIniValue("Serial", "FlowControl", stored);
-    EXPECT_EQ(IsFlowControlStored(settings), isOn) << stored;
+    EXPECT_EQ(WantsFlowControl(settings), isOn) << stored;
   }
 }
 

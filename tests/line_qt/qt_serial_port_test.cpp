@@ -117,7 +117,7 @@ TEST_F(QtSerialPortTest, SpeedAndHandshakingReachTheLine) {
     EXPECT_EQ((settings.c_cflag & CRTSCTS) != 0, handshaking) << baudRate;
     EXPECT_EQ(settings.c_cflag & (CSIZE | PARENB | CSTOPB), unsigned{CS8}) << baudRate;
   }
-  EXPECT_EQ(ErrorOfOpening(terminal.Path(), "9600 baud"), PortError::NotASpeed);
+  EXPECT_EQ(ErrorOfOpening(terminal.Path(), "9600 baud"), PortError::BadBaudRate);
 }
 
 TEST_F(QtSerialPortTest, APortInUseIsRefusedAndKeepsItsSettings) {

@@ -99,7 +99,7 @@ TEST_F(WinSerialPortTest, SaysWhyItCannotBeOpened) {
       {"\\\\.\\pipe\\loquitor-no-such-pipe", "9600", PortError::Missing},
       {"", "9600", PortError::Missing},
       {"NUL", "9600", PortError::NotSerial},
-      {PipeChip::Name(), "fast", PortError::NotASpeed},
+      {PipeChip::Name(), "fast", PortError::BadBaudRate},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(Open(row.device, row.baudRate), row.error) << row.device;

@@ -19,7 +19,7 @@ PortError ErrorOf(QSerialPort::SerialPortError zError) {
     case QSerialPort::PermissionError:
       return PortError::InUse;
     case QSerialPort::UnsupportedOperationError:
-      return PortError::NotASpeed;
+      return PortError::BadBaudRate;
     default:
       return PortError::Unusable;
   }
@@ -48,7 +48,7 @@ PortFailure QtSerialPort::Open(const SerialPortSettings& zSettings) {
   if (failure.error == PortError::NotPermitted) {
     failure.group = GroupOfDevice(zSettings.device);
   }
-  if (failure.error == PortError::NotASpeed) {
+  if (failure.error == PortError::BadBaudRate) {
     failure.baudRate = zSettings.baudRate;
   }
   // A driver that does not report an unused transmitter as empty does not know.
@@ -62,7 +62,8 @@ PortError QtSerialPort::TryToOpen(const SerialPortSettings& zSettings) {
     return error;
   }
   const auto baudRate = BaudRateOf(zSettings.baudRate);
-  return baudRate ? OpenConfigured(*baudRate, zSettings.hardwareHandshaking) : PortError::NotASpeed;
+  return baudRate ? OpenConfigured(*baudRate, zSettings.hardwareHandshaking)
+                  : PortError::BadBaudRate;
 }
 
 PortError QtSerialPort::OpenConfigured(std::int32_t zBaudRate, bool zHardwareHandshaking) {

@@ -57,7 +57,7 @@ HANDLE OpenDevice(const std::string& zDevice) {
 PortError Configure(HANDLE zPort, const SerialPortSettings& zSettings) {
   const auto baudRate = BaudRateOf(zSettings.baudRate);
   if (!baudRate) {
-    return PortError::NotASpeed;
+    return PortError::BadBaudRate;
   }
   if (GetFileType(zPort) == FILE_TYPE_PIPE) {
     return PortError::None;
@@ -78,7 +78,7 @@ PortError Configure(HANDLE zPort, const SerialPortSettings& zSettings) {
   state.fOutxCtsFlow = zSettings.hardwareHandshaking ? TRUE : FALSE;
   state.fRtsControl = zSettings.hardwareHandshaking ? RTS_CONTROL_HANDSHAKE : RTS_CONTROL_ENABLE;
   if (!SetCommState(zPort, &state)) {
-    return PortError::NotASpeed;
+    return PortError::BadBaudRate;
   }
   COMMTIMEOUTS timeouts{};  // a write waits as long as the line is held back
   timeouts.ReadIntervalTimeout = MAXDWORD;
@@ -185,7 +185,7 @@ PortFailure WinSerialPort::Open(const SerialPortSettings& zSettings) {
   }
   auto line = std::make_shared<Line>(handle);
   failure.error = Configure(handle, zSettings);
-  if (failure.error == PortError::NotASpeed) {
+  if (failure.error == PortError::BadBaudRate) {
     failure.baudRate = zSettings.baudRate;
   }
   if (failure.error == PortError::None) {

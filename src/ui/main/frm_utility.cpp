@@ -102,7 +102,7 @@ void frmUtility::Open() {
 
 void frmUtility::Load() {
   txtComPort_->SetText(settings_.GetIniValue("Serial", "Port", "1"));
-  chkFlow_->SetValue(IsFlowControlStored(settings_) ? 1 : 0);
+  chkFlow_->SetValue(WantsFlowControl(settings_) ? 1 : 0);
   parts_.BuildCodeTable();
   serial_.ShowPortState(PortState::Closed);
 }
