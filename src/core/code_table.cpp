@@ -37,7 +37,6 @@ constexpr CodeRun CodeRuns[] = {
     {252, "M0 M1 M2"},
 };
 
-constexpr int PitchCode = 22;
 constexpr int FirstNoteIndex = 301;
 constexpr int NotesPerOctave = 12;
 constexpr int OctaveStep = 20;
@@ -101,7 +100,7 @@ std::string CodeTable::TokenCodes(std::string_view zToken) const {
   if (index == NotFound) {
     return {};
   }
-  return index < CodeCount ? codes({index}) : codes({PitchCode, GetNotePitch(index)});
+  return index < CodeCount ? codes({index}) : codes({chip_code::Pitch, GetNotePitch(index)});
 }
 
 std::uint8_t CodeTable::GetNotePitch(std::int16_t zNoteIndex) const {

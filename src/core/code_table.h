@@ -8,6 +8,25 @@
 
 namespace loquitor {
 
+/// The codes that the program treats in ways of their own.
+namespace chip_code {
+inline constexpr int Fast = 7;
+inline constexpr int Slow = 8;
+inline constexpr int Stress = 14;
+inline constexpr int Relax = 15;
+inline constexpr int Wait = 16;
+inline constexpr int Soft = 18;
+inline constexpr int Volume = 20;
+inline constexpr int Speed = 21;
+inline constexpr int Pitch = 22;
+inline constexpr int Bend = 23;
+inline constexpr int Repeat = 26;
+inline constexpr int Call = 28;
+inline constexpr int Play = 29;
+inline constexpr int Delay = 30;
+inline constexpr int Reset = 31;
+}  // namespace chip_code
+
 /// The codes of the chip and their mnemonics. Entries 0 to 255 are chip codes. Entries 301 to 352
 /// are notes: the index is 300 + 20 x (octave - 1) + position, where the octave is 1 to 3 and the
 /// position 1 to 12 from C to B. Entries without a mnemonic are empty. docs/say-data.md lists all

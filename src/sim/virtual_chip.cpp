@@ -12,8 +12,6 @@ namespace loquitor {
 
 namespace {
 
-constexpr int CallCode = 28;
-constexpr int PlayCode = 29;
 constexpr int EndOfPhrase = 255;
 constexpr int PhraseAreaEnd = 235;  ///< the first location after the stored phrases
 constexpr std::size_t StoreZeroCount = 5;
@@ -202,11 +200,11 @@ void VirtualChip::ReceiveValue(char zByte, Events& zEvents) {
   const int value = ByteValue(zByte);
   piece_ += zByte;
   mode_ = Mode::Speech;
-  if (code != PlayCode && code != CallCode) {
+  if (code != chip_code::Play && code != chip_code::Call) {
     Emit(zEvents, {.kind = ChipEventKind::ControlCode, .number = code, .value = value});
     return;
   }
-  Emit(zEvents, {.kind = code == PlayCode ? ChipEventKind::Play : ChipEventKind::Call,
+  Emit(zEvents, {.kind = code == chip_code::Play ? ChipEventKind::Play : ChipEventKind::Call,
                  .number = code,
                  .value = value,
                  .codes = StoredPhrase(value)});
@@ -352,7 +350,7 @@ void VirtualChip::AddReachedPhrases(int zSlot, Events& zEvents) const {
     for (std::size_t i = 0; i + 1 < codes.size(); i += TakesValue(ByteValue(codes[i])) ? 2 : 1) {
       const int code = ByteValue(codes[i]);
       const int slot = ByteValue(codes[i + 1]);
-      const bool isReached = code == CallCode || code == PlayCode;
+      const bool isReached = code == chip_code::Call || code == chip_code::Play;
       if (isReached && !std::exchange(isListed[static_cast<std::size_t>(slot)], true)) {
         open.push_back(slot);
         zEvents.push_back(

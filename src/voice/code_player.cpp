@@ -11,24 +11,6 @@ namespace loquitor {
 
 namespace {
 
-namespace code {
-constexpr int Fast = 7;
-constexpr int Slow = 8;
-constexpr int Stress = 14;
-constexpr int Relax = 15;
-constexpr int Wait = 16;
-constexpr int Soft = 18;
-constexpr int Volume = 20;
-constexpr int Speed = 21;
-constexpr int Pitch = 22;
-constexpr int Bend = 23;
-constexpr int Repeat = 26;
-constexpr int Call = 28;
-constexpr int Play = 29;
-constexpr int Delay = 30;
-constexpr int Reset = 31;
-}  // namespace code
-
 constexpr double FrameMs = VocalTract::FrameMs;
 
 struct Pause {
@@ -43,8 +25,8 @@ bool EndsPhrase(int zCode) {
   const bool isPlainPause = zCode >= 0 && zCode < static_cast<int>(Pauses.size()) &&
                             !Pauses[static_cast<std::size_t>(zCode)].hasTransition;
   // The look-ahead does not go into stored phrases.
-  const bool isStoredPhrase = zCode == code::Call || zCode == code::Play;
-  return isPlainPause || isStoredPhrase || zCode == code::Wait || zCode == code::Delay;
+  const bool isStoredPhrase = zCode == chip_code::Call || zCode == chip_code::Play;
+  return isPlainPause || isStoredPhrase || zCode == chip_code::Wait || zCode == chip_code::Delay;
 }
 
 }  // namespace
@@ -134,10 +116,10 @@ void CodePlayer::Take(int zCode) {
   if (zCode < static_cast<int>(Pauses.size())) {
     const Pause& pause = Pauses[static_cast<std::size_t>(zCode)];
     StartPause(pause.ms / Tempo(), pause.hasTransition);
-  } else if (zCode == code::Wait) {
+  } else if (zCode == chip_code::Wait) {
     isWaiting_ = true;
     before_ = nullptr;
-  } else if (zCode == code::Reset) {
+  } else if (zCode == chip_code::Reset) {
     settings_ = {};
   } else if (FindSound(sound) != nullptr || FindEffect(sound) != nullptr) {
     repeatsLeft_ = std::exchange(repeats_, 1);
@@ -153,23 +135,23 @@ void CodePlayer::Take(int zCode) {
 
 void CodePlayer::TakeModifier(int zCode) {
   switch (zCode) {
-    case code::Fast:
+    case chip_code::Fast:
       modifiers_.tempo *= 1.5;
       break;
-    case code::Slow:
+    case chip_code::Slow:
       modifiers_.tempo *= 0.5;
       break;
-    case code::Stress:
+    case chip_code::Stress:
       modifiers_.tempo *= 0.8;
       modifiers_.loudness *= 1.25;
       modifiers_.pitch *= 1.08;
       break;
-    case code::Relax:
+    case chip_code::Relax:
       modifiers_.tempo *= 1.1;
       modifiers_.loudness *= 0.8;
       modifiers_.pitch *= 0.95;
       break;
-    case code::Soft:
+    case chip_code::Soft:
       modifiers_.loudness *= 0.5;
       modifiers_.isSoft = true;
       break;
@@ -180,26 +162,26 @@ void CodePlayer::TakeModifier(int zCode) {
 
 void CodePlayer::TakeValue(int zCode, int zValue) {
   switch (zCode) {
-    case code::Volume:
+    case chip_code::Volume:
       settings_.volume = std::min(zValue, 127);
       break;
-    case code::Speed:
+    case chip_code::Speed:
       settings_.speed = std::min(zValue, 127);
       break;
-    case code::Pitch:
+    case chip_code::Pitch:
       settings_.pitch = zValue;
       break;
-    case code::Bend:
+    case chip_code::Bend:
       settings_.bend = std::min(zValue, 15);
       break;
-    case code::Repeat:
+    case chip_code::Repeat:
       repeats_ = zValue;
       break;
-    case code::Call:
-    case code::Play:
+    case chip_code::Call:
+    case chip_code::Play:
       AddFirst(phrase_(zValue));
       break;
-    case code::Delay:
+    case chip_code::Delay:
       StartPause(10.0 * zValue, false);
       break;
     default:  // the codes of the output pins, which make no sound

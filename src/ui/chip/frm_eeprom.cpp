@@ -11,7 +11,6 @@
 namespace loquitor {
 namespace {
 
-constexpr int PlayCode = 29;
 constexpr int SlotsPerColumn = 8;
 
 // Two columns of rows, then one row of buttons.
@@ -200,7 +199,7 @@ void frmEEPROM::Phrase_Click(int zIndex) {
 }
 
 void frmEEPROM::lbs_Click(int zIndex) {
-  const char codes[] = {static_cast<char>(PlayCode), static_cast<char>(zIndex)};
+  const char codes[] = {static_cast<char>(chip_code::Play), static_cast<char>(zIndex)};
   context_.sender.SendCodesToOrvatone(std::string_view(codes, sizeof codes), true);
 }
 

@@ -11,14 +11,6 @@
 
 namespace loquitor {
 
-/// The chip codes that the palette treats in a way of their own.
-namespace palette_code {
-inline constexpr std::int16_t Wait = 16;
-inline constexpr std::int16_t Pitch = 22;
-inline constexpr std::int16_t Repeat = 26;
-inline constexpr std::int16_t Reset = 31;
-}  // namespace palette_code
-
 /// Whether a code-table index is that of a note.
 bool IsNote(std::int16_t zCode);
 

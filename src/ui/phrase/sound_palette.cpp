@@ -59,7 +59,7 @@ void SoundPalette::Connect(const Sound& zSound) {
   connect(zSound.label, &ClickLabel::clicked, this, [=, this] { Command1_Click(index); });
   connect(zSound.label, &ClickLabel::DoubleClick, this, [=, this] { Command1_DblClick(index); });
   // These clicks end in a box, which would swallow the second press of a double click.
-  zSound.label->SetHoldsClick(zSound.code == palette_code::Wait);
+  zSound.label->SetHoldsClick(zSound.code == chip_code::Wait);
   if (zSound.valueBox != nullptr) {
     connect(zSound.valueBox, &TextBox::textChanged, this, [zSound] {
       zSound.valueBox->SetBackground({});
@@ -74,7 +74,7 @@ void SoundPalette::Command1_Click(int zIndex) {
 
 void SoundPalette::Play(const Sound& zSound) {
   const std::string prefix = TakePrefix();
-  if (zSound.code == palette_code::Wait && !ConfirmWait()) {
+  if (zSound.code == chip_code::Wait && !ConfirmWait()) {
     return;
   }
   const std::optional<std::string> codes = CodesOf(zSound);
@@ -83,7 +83,7 @@ void SoundPalette::Play(const Sound& zSound) {
     return;
   }
   ShowInVoiceControls(zSound);
-  if (zSound.code == palette_code::Repeat) {
+  if (zSound.code == chip_code::Repeat) {
     context_.shared.SkipControlsOnce = true;
   }
   context_.sender.SendCodesToOrvatone(prefix + *codes, true);
@@ -98,7 +98,7 @@ std::string SoundPalette::TakePrefix() {
 /// What a click sends after the prefix. Nothing when the number in the value box is not a byte.
 std::optional<std::string> SoundPalette::CodesOf(const Sound& zSound) const {
   if (IsNote(zSound.code)) {
-    return SoundCodes(palette_code::Pitch, context_.codeTable.GetNotePitch(zSound.code));
+    return SoundCodes(chip_code::Pitch, context_.codeTable.GetNotePitch(zSound.code));
   }
   if (zSound.valueBox == nullptr) {
     return SoundCodes(zSound.code);
@@ -108,7 +108,7 @@ std::optional<std::string> SoundPalette::CodesOf(const Sound& zSound) const {
 }
 
 void SoundPalette::ShowInVoiceControls(const Sound& zSound) {
-  if (zSound.code == palette_code::Reset) {
+  if (zSound.code == chip_code::Reset) {
     voice_.SetDefaults();
   } else if (IsNote(zSound.code)) {
     voice_.SetPitch(context_.codeTable.GetNotePitch(zSound.code));
