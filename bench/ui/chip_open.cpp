@@ -19,7 +19,7 @@ namespace {
 /// The program over a large dictionary, with sixteen long phrases stored.
 struct FullProgram {
   FullProgram() {
-    for (int slot = 0; slot < PhraseSlotCount; ++slot) {
+    for (int slot = 0; slot < eeprom::PhraseCount; ++slot) {
       std::string phrase;
       for (int word = 0; phrase.size() < 240; ++word) {
         phrase += bench::SampleDictionary::Word(slot * 1000 + word) + ' ';

@@ -1,14 +1,11 @@
 #include "sim/configuration_words.h"
 
+#include "core/eeprom.h"
+
 namespace loquitor {
 
 namespace {
 
-constexpr int PowerUp = 237;
-constexpr int InputsAndOutputs = 238;
-constexpr int OutputStart = 239;
-constexpr int FirstInputEvent = 240;
-constexpr int LastInputEvent = 255;
 constexpr int OutputCount = 3;
 
 bool HasBit(std::uint8_t zValue, int zBit) {
@@ -59,17 +56,17 @@ std::string EventWords(const EventAction& zEvent) {
 }
 
 std::string ConfigurationWords(int zLocation, std::uint8_t zValue) {
-  if (zLocation >= FirstInputEvent && zLocation <= LastInputEvent) {
+  if (zLocation >= eeprom::FirstInputEvent && zLocation < eeprom::Size) {
     return EventWords(DecodeEvent(zValue));
   }
   switch (zLocation) {
-    case PowerUp:
+    case eeprom::PowerUp:
       return EventWords(PowerUpEvent(zValue));
-    case InputsAndOutputs:
+    case eeprom::InputsAndOutputs:
       return OutputWords(zValue, "by chip", "by phrase") + InputWords(7, HasBit(zValue, 4)) +
              InputWords(6, HasBit(zValue, 5)) + ", auto silence " +
              (HasBit(zValue, 3) ? "on" : "off");
-    case OutputStart:
+    case eeprom::OutputStartAndNode:
       return OutputWords(zValue, "on", "off") + ", SCP node " + std::to_string((zValue >> 4) & 7);
     default:
       return {};

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/eeprom.h"
 #include "sim/configuration_words.h"
 
 namespace loquitor {
@@ -27,8 +28,7 @@ std::optional<InputChange> ParseInputLine(std::string_view zLine) {
 }
 
 std::uint8_t EventByte(const InputChange& zChange, const VirtualChip& zChip) {
-  constexpr int firstEvent = 240;
-  return zChip.Eeprom(firstEvent + 2 * zChange.input + (zChange.isHigh ? 0 : 1));
+  return zChip.Eeprom(eeprom::FirstInputEvent + 2 * zChange.input + (zChange.isHigh ? 0 : 1));
 }
 
 std::string DescribeChange(const InputChange& zChange, const VirtualChip& zChip) {

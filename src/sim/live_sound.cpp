@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/eeprom.h"
 #include "voice/filters.h"
 
 namespace loquitor {
@@ -18,8 +19,6 @@ constexpr std::size_t KeptSilence = VoiceSampleRate / 2;
 std::string Bytes(int zCode, int zValue) {
   return {static_cast<char>(zCode), static_cast<char>(zValue)};
 }
-
-constexpr int PowerUpEvent = 237;  // location in the EEPROM
 
 }  // namespace
 
@@ -45,7 +44,7 @@ void LiveSound::Hear(const ChipEvent& zEvent, const VirtualChip& zChip) {
       break;
     case ChipEventKind::Reset:
       sound_.Reset();
-      sound_.RunEvent(DecodeEvent(zChip.Eeprom(PowerUpEvent)));
+      sound_.RunEvent(DecodeEvent(zChip.Eeprom(eeprom::PowerUp)));
       break;
     case ChipEventKind::RegisterWrite:
       sound_.SetRegister(zEvent.number, zEvent.value);

@@ -42,7 +42,7 @@ class LiveSound {
 
  private:
   mutable std::mutex mutex_;  // guards everything below
-  std::array<std::string, VirtualChip::PhraseCount> phrases_;
+  std::array<std::string, eeprom::PhraseCount> phrases_;
   ChipSound sound_;
   bool isRecording_ = false;
   std::vector<std::int16_t> recorded_;

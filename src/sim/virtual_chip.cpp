@@ -12,8 +12,6 @@ namespace loquitor {
 
 namespace {
 
-constexpr int EndOfPhrase = 255;
-constexpr int PhraseAreaEnd = 235;  ///< the first location after the stored phrases
 constexpr std::size_t StoreZeroCount = 5;
 constexpr std::size_t MaxOperand = 8;  ///< longer than any number that a command takes
 
@@ -87,19 +85,19 @@ std::string RegisterName(int zRegister) {
 }
 
 std::string LocationName(int zLocation) {
-  if (zLocation < VirtualChip::PhraseCount) {
+  if (zLocation < eeprom::PhraseCount) {
     return "start of phrase " + std::to_string(zLocation);
   }
-  if (zLocation < PhraseAreaEnd) {
+  if (zLocation < eeprom::PhrasesEnd) {
     return "phrases";
   }
-  if (zLocation >= 240) {
-    return "input " + std::to_string((zLocation - 240) / 2) +
+  if (zLocation >= eeprom::FirstInputEvent) {
+    return "input " + std::to_string((zLocation - eeprom::FirstInputEvent) / 2) +
            (zLocation % 2 == 0 ? " goes high" : " goes low");
   }
   constexpr const char* names[] = {"clock detune", "not used", "power up and reset",
                                    "inputs and outputs", "output start-up and node"};
-  return names[zLocation - PhraseAreaEnd];
+  return names[zLocation - eeprom::PhrasesEnd];
 }
 
 /// The location's name, and the meaning of its value if it is a configuration byte.
@@ -123,7 +121,7 @@ std::string ByteWords(std::string_view zBytes) {
 
 VirtualChip::VirtualChip() {
   codeTable_.BuildCodeTable();
-  eeprom_.fill(EndOfPhrase);
+  eeprom_.fill(eeprom::EndOfPhrase);
   ResetRegisters();
 }
 
@@ -152,11 +150,11 @@ int VirtualChip::Register(int zRegister) const {
 
 std::string VirtualChip::StoredPhrase(int zSlot) const {
   std::string codes;
-  if (zSlot < 0 || zSlot >= PhraseCount) {
+  if (zSlot < 0 || zSlot >= eeprom::PhraseCount) {
     return codes;
   }
-  for (int location = Eeprom(zSlot); location < PhraseAreaEnd; ++location) {
-    if (Eeprom(location) == EndOfPhrase) {
+  for (int location = Eeprom(zSlot); location < eeprom::PhrasesEnd; ++location) {
+    if (Eeprom(location) == eeprom::EndOfPhrase) {
       break;
     }
     codes += static_cast<char>(Eeprom(location));
@@ -299,7 +297,7 @@ bool VirtualChip::RunPlainCommand(char zLetter, Events& zEvents) {
 
 bool VirtualChip::SelectLocation(std::string_view zOperand) {
   location_ = ParsePlainDecimal(zOperand);
-  return location_ && *location_ < EepromSize;
+  return location_ && *location_ < eeprom::Size;
 }
 
 bool VirtualChip::SelectHighAddress(std::string_view zOperand) {

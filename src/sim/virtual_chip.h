@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/code_table.h"
+#include "core/eeprom.h"
 
 namespace loquitor {
 
@@ -45,9 +46,7 @@ struct ChipEvent {
 /// not depend on the portions. The memory and the time per byte are bounded.
 class VirtualChip {
  public:
-  static constexpr int EepromSize = 256;
   static constexpr int RegisterCount = 16;
-  static constexpr int PhraseCount = 16;
 
   /// A chip with an erased EEPROM (all 255) and the synthesizer in its quiet state.
   VirtualChip();
@@ -99,7 +98,7 @@ class VirtualChip {
   std::string CodeWords(std::string_view zCodes) const;
 
   CodeTable codeTable_;
-  std::array<std::uint8_t, EepromSize> eeprom_;
+  std::array<std::uint8_t, eeprom::Size> eeprom_;
   std::array<int, RegisterCount> registers_;
   Mode mode_ = Mode::Speech;
   std::string piece_;             ///< received bytes that belong to no event yet

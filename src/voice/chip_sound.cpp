@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "core/eeprom.h"
+
 namespace loquitor {
 
 namespace {
@@ -24,16 +26,11 @@ double Limit(double zSound) {
 }  // namespace
 
 EventAction DecodeEvent(std::uint8_t zEvent) {
-  constexpr int phraseBits = 0x0F;
-  constexpr int keepWaiting = 0x10;
-  constexpr int call = 0x20;
-  constexpr int keepQueue = 0x40;
-  constexpr int sayNothing = 0x80;
-  return {.saysPhrase = (zEvent & sayNothing) == 0,
-          .phrase = zEvent & phraseBits,
-          .isCall = (zEvent & call) != 0,
-          .emptiesQueue = (zEvent & keepQueue) == 0,
-          .restarts = (zEvent & keepWaiting) == 0};
+  return {.saysPhrase = (zEvent & event_bit::NoPlay) == 0,
+          .phrase = zEvent & event_bit::Phrase,
+          .isCall = (zEvent & event_bit::Call) != 0,
+          .emptiesQueue = (zEvent & event_bit::NoClear) == 0,
+          .restarts = (zEvent & event_bit::NoRestart) == 0};
 }
 
 ChipSound::ChipSound(PhraseLookup zPhrase, int zPatienceMs)

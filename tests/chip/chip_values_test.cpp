@@ -23,13 +23,12 @@ TEST(Detune, SendsOnlyBytesInHexadecimal) {
 }
 
 TEST(EepromImage, PutsFilledSlotsInOrderAfterTheirOffsetsModulo256) {
-  std::array<SlotCodes, PhraseSlotCount> phrases;
+  std::array<SlotCodes, eeprom::PhraseCount> phrases;
   phrases[0] = "\x80";
   phrases[2] = "";  // mnemonics without a code still take their place
   phrases[15] = std::string("\0\x83", 2);
-  EXPECT_EQ(BuildEepromImage(phrases), std::string("\x10\xff\x12", 3) +
-                                           std::string(12, EndOfPhrase) + "\x13" +
-                                           std::string("\x80\xff\xff\0\x83\xff", 6));
+  EXPECT_EQ(BuildEepromImage(phrases), std::string("\x10\xff\x12", 3) + std::string(12, '\xff') +
+                                           "\x13" + std::string("\x80\xff\xff\0\x83\xff", 6));
   phrases[0] = std::string(238, '\x80');  // 16 + 238 + 1 = 255
   phrases[1] = std::string(4, '\x81');    // 255 + 4 + 1 = 260
   EXPECT_EQ(BuildEepromImage(phrases).substr(0, 4), "\x10\xff\x04\xff");

@@ -1,5 +1,6 @@
 #include "ui/chip/detune.h"
 
+#include "core/eeprom.h"
 #include "line/scp.h"
 #include "text/number_text.h"
 
@@ -13,7 +14,7 @@ DetuneRequest ReadDetune(std::string_view zText) {
   if (value < 0 || value > 255) {
     return {.command = {}, .isRefused = true};
   }
-  return {.command = MemoryWriteGroup(DetuneLocation, static_cast<std::uint8_t>(value))};
+  return {.command = MemoryWriteGroup(eeprom::Detune, static_cast<std::uint8_t>(value))};
 }
 
 }  // namespace loquitor

@@ -5,8 +5,6 @@
 
 namespace loquitor {
 
-inline constexpr int DetuneLocation = 235;  ///< where the EEPROM holds the clock detune
-
 /// What to send for a detune text.
 struct DetuneRequest {
   std::string command;     ///< one memory write group without a closing sequence, or empty

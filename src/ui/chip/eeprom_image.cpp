@@ -12,17 +12,18 @@ SlotCodes TranslateSlot(const SayDataTranslator& zTranslator, std::string_view z
   return zTranslator.MnemonicsToCodes(mnemonics);
 }
 
-std::string BuildEepromImage(const std::array<SlotCodes, PhraseSlotCount>& zSlots) {
+std::string BuildEepromImage(const std::array<SlotCodes, eeprom::PhraseCount>& zSlots) {
+  constexpr char end = static_cast<char>(eeprom::EndOfPhrase);
   std::string offsets;
   std::string data;
   for (const SlotCodes& codes : zSlots) {
     if (!codes) {
-      offsets += EndOfPhrase;
+      offsets += end;
       continue;
     }
-    offsets += static_cast<char>((zSlots.size() + data.size()) % EepromSize);
+    offsets += static_cast<char>((zSlots.size() + data.size()) % eeprom::Size);
     data += *codes;
-    data += EndOfPhrase;
+    data += end;
   }
   return offsets + data;
 }
@@ -37,12 +38,12 @@ std::string EepromWriteString(std::string_view zImage) {
 }
 
 std::string UsageText(std::size_t zUsed) {
-  return std::to_string(zUsed) + " used of " + std::to_string(EepromSize);
+  return std::to_string(zUsed) + " used of " + std::to_string(eeprom::Size);
 }
 
 UsageBand BandOfUsage(std::size_t zUsed) {
   constexpr std::size_t mostRoomy = 240;
-  if (zUsed > EepromSize) {
+  if (zUsed > eeprom::Size) {
     return UsageBand::Overfull;
   }
   return zUsed > mostRoomy ? UsageBand::Tight : UsageBand::Roomy;

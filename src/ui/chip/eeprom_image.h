@@ -6,15 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "core/eeprom.h"
 #include "core/say_data.h"
 
 namespace loquitor {
 
-inline constexpr int PhraseSlotCount = 16;            ///< phrases that the chip stores, from 0
-inline constexpr std::size_t MaxImageLength = 235;    ///< locations 0 to 234 hold the image
-inline constexpr std::size_t ReservedLocations = 21;  ///< 235 to 255: detune and configuration
-inline constexpr std::size_t EepromSize = 256;
-inline constexpr char EndOfPhrase = '\xff';  ///< as a start offset it means an empty slot
+/// The most bytes that an image may have.
+inline constexpr std::size_t MaxImageLength = eeprom::PhrasesEnd;
 
 /// The code string of a slot, without the byte that ends it; nothing for an empty slot.
 using SlotCodes = std::optional<std::string>;
@@ -25,15 +23,16 @@ SlotCodes TranslateSlot(const SayDataTranslator& zTranslator, std::string_view z
 
 /// The bytes for location 0 onward: 16 start offsets (position in the image modulo 256, 255 for an
 /// empty slot), then the codes of each filled slot in slot order, each followed by 255.
-std::string BuildEepromImage(const std::array<SlotCodes, PhraseSlotCount>& zSlots);
+std::string BuildEepromImage(const std::array<SlotCodes, eeprom::PhraseCount>& zSlots);
 
 /// The command string that writes `zImage` (at most MaxImageLength bytes) to location 0 onward, and
 /// ends with the connection test.
 std::string EepromWriteString(std::string_view zImage);
 
-/// How many locations are in use when an image of `zImageLength` bytes is stored.
+/// How many locations are in use when an image of `zImageLength` bytes is stored, with those of the
+/// detune and the configuration.
 constexpr std::size_t UsedLocations(std::size_t zImageLength) {
-  return zImageLength + ReservedLocations;
+  return zImageLength + (eeprom::Size - MaxImageLength);
 }
 
 /// For example "40 used of 256".

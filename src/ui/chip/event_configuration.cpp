@@ -1,16 +1,13 @@
 #include "ui/chip/event_configuration.h"
 
+#include <span>
+
+#include "core/eeprom.h"
 #include "line/scp.h"
 #include "text/number_text.h"
 
 namespace loquitor {
 namespace {
-
-constexpr unsigned PhraseBits = 0x0f;
-constexpr unsigned NoRestartBit = 0x10;
-constexpr unsigned CallBit = 0x20;
-constexpr unsigned NoClearBit = 0x40;
-constexpr unsigned NoPlayBit = 0x80;
 
 constexpr unsigned AutoSilenceBit = 0x08;
 constexpr unsigned InputOutputFixedBits = 0xc0;
@@ -31,11 +28,11 @@ unsigned BitsOfChosen(const EventConfiguration& zConfiguration, OptionFrame zFra
 }  // namespace
 
 std::uint8_t EventByte(const EventSetting& zEvent) {
-  unsigned byte = static_cast<unsigned>(zEvent.phrase) & PhraseBits;
-  byte |= zEvent.restartsFromWait ? 0 : NoRestartBit;
-  byte |= zEvent.callsPhrase ? CallBit : 0;
-  byte |= zEvent.clearsBuffer ? 0 : NoClearBit;
-  byte |= zEvent.playsPhrase ? 0 : NoPlayBit;
+  int byte = PlayedPhrase(zEvent.phrase);
+  byte |= zEvent.restartsFromWait ? 0 : event_bit::NoRestart;
+  byte |= zEvent.callsPhrase ? event_bit::Call : 0;
+  byte |= zEvent.clearsBuffer ? 0 : event_bit::NoClear;
+  byte |= zEvent.playsPhrase ? 0 : event_bit::NoPlay;
   return static_cast<std::uint8_t>(byte);
 }
 
@@ -59,13 +56,13 @@ std::uint8_t StartupNodeByte(const EventConfiguration& zConfiguration) {
 
 std::string EventConfigurationString(const EventConfiguration& zConfiguration) {
   std::string command(scp::Reset);
-  for (std::size_t row = 0; row < InputEventCount; ++row) {
-    command += MemoryWriteGroup(EventRows[row].location, EventByte(zConfiguration.events[row]));
+  int location = eeprom::FirstInputEvent;
+  for (const EventSetting& event : std::span(zConfiguration.events).first<InputEventCount>()) {
+    command += MemoryWriteGroup(location++, EventByte(event));
   }
-  command += MemoryWriteGroup(EventRows[PowerUpEvent].location,
-                              PowerUpByte(zConfiguration.events[PowerUpEvent]));
-  command += MemoryWriteGroup(InputOutputLocation, InputOutputByte(zConfiguration));
-  command += MemoryWriteGroup(StartupNodeLocation, StartupNodeByte(zConfiguration));
+  command += MemoryWriteGroup(eeprom::PowerUp, PowerUpByte(zConfiguration.events[PowerUpEvent]));
+  command += MemoryWriteGroup(eeprom::InputsAndOutputs, InputOutputByte(zConfiguration));
+  command += MemoryWriteGroup(eeprom::OutputStartAndNode, StartupNodeByte(zConfiguration));
   return command.append(scp::StoreConfiguration).append(scp::Test);
 }
 
@@ -74,7 +71,7 @@ std::optional<int> PhraseNumberOf(std::string_view zText) {
 }
 
 int PlayedPhrase(int zNumber) {
-  return static_cast<int>(static_cast<unsigned>(zNumber) & PhraseBits);
+  return zNumber & event_bit::Phrase;
 }
 
 std::string DescribePhraseNumber(std::optional<int> zNumber, std::string_view zPhrase) {

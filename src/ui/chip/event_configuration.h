@@ -8,39 +8,19 @@
 
 namespace loquitor {
 
-/// One event of the chip: its caption ("&&" shows as one "&") and the location of its byte.
-struct EventRow {
-  const char* caption;
-  int location;
-};
-
 inline constexpr int InputEventCount = 16;  ///< the rows before the power-up row
 inline constexpr int PowerUpEvent = 16;     ///< the last row
 inline constexpr int EventCount = 17;
 
-inline constexpr std::array<EventRow, EventCount> EventRows{{
-    {"Input #0 - Goes High", 240},
-    {"Input #0 - Goes Low", 241},
-    {"Input #1 - Goes High", 242},
-    {"Input #1 - Goes Low", 243},
-    {"Input #2 - Goes High", 244},
-    {"Input #2 - Goes Low", 245},
-    {"Input #3 - Goes High", 246},
-    {"Input #3 - Goes Low", 247},
-    {"Input #4 - Goes High", 248},
-    {"Input #4 - Goes Low", 249},
-    {"Input #5 - Goes High", 250},
-    {"Input #5 - Goes Low", 251},
-    {"Input #6 - Goes High", 252},
-    {"Input #6 - Goes Low", 253},
-    {"Input #7 - Goes High", 254},
-    {"Input #7 - Goes Low", 255},
-    {"Power up && Reset", 237},
-}};
-
-/// The locations of the two configuration bytes.
-inline constexpr int InputOutputLocation = 238;
-inline constexpr int StartupNodeLocation = 239;
+/// The captions of the events ("&&" shows as one "&"). Those of the inputs are in the order of
+/// their bytes in the EEPROM.
+inline constexpr std::array<const char*, EventCount> EventCaptions{
+    "Input #0 - Goes High", "Input #0 - Goes Low", "Input #1 - Goes High", "Input #1 - Goes Low",
+    "Input #2 - Goes High", "Input #2 - Goes Low", "Input #3 - Goes High", "Input #3 - Goes Low",
+    "Input #4 - Goes High", "Input #4 - Goes Low", "Input #5 - Goes High", "Input #5 - Goes Low",
+    "Input #6 - Goes High", "Input #6 - Goes Low", "Input #7 - Goes High", "Input #7 - Goes Low",
+    "Power up && Reset",
+};
 
 /// The frames that hold the option pairs.
 enum class OptionFrame { InputStyle, OutputControl, OutputStartup };

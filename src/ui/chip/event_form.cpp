@@ -113,7 +113,7 @@ constexpr int PowerUpControls = 2;
 
 void AddEventRow(Form& zForm, int zRow) {
   const int top = RowsTop + zRow * RowPitch;
-  const char* const caption = EventRows[static_cast<std::size_t>(zRow)].caption;
+  const char* const caption = EventCaptions[static_cast<std::size_t>(zRow)];
   zForm.Add(PlainRow(Label, "Label1", "Frame1", caption,
                      {180, top + 60, ColumnsLeft - 300, RowPitch - 90}, zRow));
   int column = 0;
@@ -193,7 +193,7 @@ void AddOption(Form& zForm, int zIndex) {
 const TwipSize EventClientSize{OptionsLeft + OptionsWidth + Margin, Bottom + Margin};
 
 QString EventCaption(int zRow) {
-  return ShownCaption(QString::fromUtf8(EventRows[static_cast<std::size_t>(zRow)].caption));
+  return ShownCaption(QString::fromUtf8(EventCaptions[static_cast<std::size_t>(zRow)]));
 }
 
 void BuildEventForm(Form& zForm) {

@@ -91,7 +91,7 @@ frmEEPROM::frmEEPROM(QWidget* zOwner, const EditorContext& zContext)
     : ToolWindow(zOwner, QStringLiteral("Orvatone EEPROM Editor"), ClientSize),
       context_(zContext),
       form_(this) {
-  for (int index = 0; index < PhraseSlotCount; ++index) {
+  for (int index = 0; index < eeprom::PhraseCount; ++index) {
     AddSlot(index);
   }
   form_.Add(BottomRow);
@@ -131,7 +131,7 @@ void frmEEPROM::AddSlot(int zIndex) {
 }
 
 std::string frmEEPROM::GetEEPROMPhraseString() const {
-  std::array<SlotCodes, PhraseSlotCount> codes;
+  std::array<SlotCodes, eeprom::PhraseCount> codes;
   for (std::size_t slot = 0; slot < codes.size(); ++slot) {
     codes[slot] = TranslateSlot(context_.translator, phrases_[slot]->Phrase());
   }
@@ -152,7 +152,7 @@ void frmEEPROM::ShowPhrase(int zIndex, std::string_view zPhrase) {
 }
 
 void frmEEPROM::Load() {
-  for (int index = 0; index < PhraseSlotCount; ++index) {
+  for (int index = 0; index < eeprom::PhraseCount; ++index) {
     ShowPhrase(index, context_.settings.GetIniValue("EEPROM", PhraseKey(index), ""));
   }
   ReportUsed();
@@ -161,7 +161,7 @@ void frmEEPROM::Load() {
 
 void frmEEPROM::Unload() {
   std::vector<ProfileValue> entries;
-  for (int index = 0; index < PhraseSlotCount; ++index) {
+  for (int index = 0; index < eeprom::PhraseCount; ++index) {
     entries.push_back({PhraseKey(index), phrases_[static_cast<std::size_t>(index)]->Phrase()});
   }
   context_.settings.SaveIniValues("EEPROM", entries);

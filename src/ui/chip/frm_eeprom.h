@@ -46,8 +46,8 @@ class frmEEPROM : public ToolWindow {
 
   EditorContext context_;
   Form form_;
-  std::array<SlotLabel*, PhraseSlotCount> lbs_{};
-  std::array<PhraseLabel*, PhraseSlotCount> phrases_{};
+  std::array<SlotLabel*, eeprom::PhraseCount> lbs_{};
+  std::array<PhraseLabel*, eeprom::PhraseCount> phrases_{};
   ChipWrite* write_ = nullptr;
 };
 
