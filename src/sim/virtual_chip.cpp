@@ -64,20 +64,22 @@ std::optional<int> ParseTwoDigitHex(std::string_view zText) {
 }
 
 std::string RegisterName(int zRegister) {
-  if (zRegister >= 1 && zRegister <= 5) {
-    return "frequency of oscillator " + std::to_string(zRegister);
-  }
-  if (zRegister >= 11) {
-    return "volume of oscillator " + std::to_string(zRegister - 10);
+  for (int i = 1; i <= synth::OscillatorCount; ++i) {
+    if (zRegister == synth::FrequencyRegister(i)) {
+      return "frequency of oscillator " + std::to_string(i);
+    }
+    if (zRegister == synth::VolumeRegister(i)) {
+      return "volume of oscillator " + std::to_string(i);
+    }
   }
   switch (zRegister) {
-    case 0:
+    case synth::EnvelopeFrequencyRegister:
       return "envelope frequency";
-    case 6:
+    case synth::DistortionRegister:
       return "distortion";
-    case 7:
+    case synth::MasterVolumeRegister:
       return "master volume";
-    case 8:
+    case synth::EnvelopeControlRegister:
       return "envelope control";
     default:
       return "not used";
@@ -309,7 +311,7 @@ bool VirtualChip::WriteValue(std::string_view zOperand, Events& zEvents) {
   const std::size_t location = static_cast<std::size_t>(*location_);
   const std::optional<int> value =
       isMemory_ ? ParseTwoDigitHex(zOperand) : ParseSignedDecimal(zOperand);
-  if (!value || (!isMemory_ && location >= RegisterCount)) {
+  if (!value || (!isMemory_ && location >= synth::RegisterCount)) {
     return false;
   }
   if (isMemory_) {
@@ -360,11 +362,10 @@ void VirtualChip::AddReachedPhrases(int zSlot, Events& zEvents) const {
 
 /// Returns the synthesizer to its quiet state.
 void VirtualChip::ResetRegisters() {
-  constexpr std::size_t envelopeFrequency = 0;
-  constexpr std::size_t masterVolume = 7;
   registers_.fill(0);
-  registers_[envelopeFrequency] = 88;
-  registers_[masterVolume] = 96;
+  for (const auto& [number, value] : synth::QuietState) {
+    registers_[static_cast<std::size_t>(number)] = value;
+  }
 }
 
 void VirtualChip::EndPiece() {

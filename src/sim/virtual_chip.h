@@ -9,6 +9,7 @@
 
 #include "core/code_table.h"
 #include "core/eeprom.h"
+#include "core/synth_registers.h"
 
 namespace loquitor {
 
@@ -46,8 +47,6 @@ struct ChipEvent {
 /// not depend on the portions. The memory and the time per byte are bounded.
 class VirtualChip {
  public:
-  static constexpr int RegisterCount = 16;
-
   /// A chip with an erased EEPROM (all 255) and the synthesizer in its quiet state.
   VirtualChip();
 
@@ -99,7 +98,7 @@ class VirtualChip {
 
   CodeTable codeTable_;
   std::array<std::uint8_t, eeprom::Size> eeprom_;
-  std::array<int, RegisterCount> registers_;
+  std::array<int, synth::RegisterCount> registers_;
   Mode mode_ = Mode::Speech;
   std::string piece_;             ///< received bytes that belong to no event yet
   std::size_t operandStart_ = 0;  ///< offset in `piece_`

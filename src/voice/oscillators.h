@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
+#include "core/synth_registers.h"
 #include "voice/effects.h"
 #include "voice/filters.h"
 
@@ -10,8 +12,6 @@ namespace loquitor {
 /// The five oscillators of the chip's synthesizer, played by its registers (docs/wire-format.md).
 class Oscillators {
  public:
-  static constexpr int RegisterCount = 16;
-
   Oscillators() { Reset(); }
 
   /// Sets register `zRegister` (0 to 15) to `zValue`. A value outside the register's range counts
@@ -36,13 +36,13 @@ class Oscillators {
     double gain = 0;   // approaches the volume slowly, so that nothing clicks
     double level = 0;  // the present value of noise, held for half a period
   };
+  int Register(int zRegister) const { return registers_[static_cast<std::size_t>(zRegister)]; }
   double Tone(Oscillator& zOscillator, double zHertz);
   double HeldNoise(Oscillator& zOscillator, double zHertz);
   double Envelope();
 
-  static constexpr int OscillatorCount = 5;
-  std::array<int, RegisterCount> registers_{};
-  std::array<Oscillator, OscillatorCount> oscillators_{};
+  std::array<int, synth::RegisterCount> registers_{};
+  std::array<Oscillator, synth::OscillatorCount> oscillators_{};
   double envelopePhase_ = 0;
   NoiseSource noise_;
 };

@@ -10,7 +10,7 @@
 #include "ui/controls/form.h"
 #include "ui/synth/register_writer.h"
 #include "ui/synth/sound.h"
-#include "ui/synth/synth_registers.h"
+#include "ui/synth/synth_values.h"
 #include "ui/windows/editor_context.h"
 #include "ui/windows/tool_window.h"
 

@@ -5,9 +5,9 @@
 #include <functional>
 #include <string>
 
+#include "core/synth_registers.h"
 #include "line/code_sender.h"
 #include "line/scp.h"
-#include "ui/synth/synth_registers.h"
 
 namespace loquitor {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "files/sound_library.h"
-#include "ui/synth/synth_registers.h"
+#include "ui/synth/synth_values.h"
 
 namespace loquitor {
 

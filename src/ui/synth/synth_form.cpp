@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/synth/synth_registers.h"
+#include "core/synth_registers.h"
 
 namespace loquitor {
 

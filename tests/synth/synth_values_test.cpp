@@ -1,4 +1,4 @@
-#include "ui/synth/synth_registers.h"
+#include "ui/synth/synth_values.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 namespace loquitor::testing {
 namespace {
 
-TEST(SynthRegisters, HarmoniseFindsTheNearestMultipleThatFits) {
+TEST(SynthValues, HarmoniseFindsTheNearestMultipleThatFits) {
   const double infinity = std::numeric_limits<double>::infinity();
   const Rows<int, double, int> rows = {{54, 110, 0},       {55, 110, 110},    {3999, 110, 3960},
                                        {0, 110, 0},        {3999, 1, 3999},   {7, 2.5, 8},

@@ -1,4 +1,4 @@
-#include "ui/synth/synth_registers.h"
+#include "ui/synth/synth_values.h"
 
 #include <algorithm>
 #include <cmath>
