@@ -84,17 +84,11 @@ void Correct(const std::string& zWord, WordPhones& zPhones) {
 }  // namespace
 
 std::vector<WordPhones> Pronounce(PhoneSource& zSource, std::span<const std::string> zWords) {
-  std::vector<WordPhones> phones;
-  for (std::size_t start = 0; start < zWords.size(); start += PhoneSource::MaxWords) {
-    std::vector<std::string> asked;
-    const std::size_t count = std::min(PhoneSource::MaxWords, zWords.size() - start);
-    for (const std::string& word : zWords.subspan(start, count)) {
-      asked.push_back(AskedWord(word));
-    }
-    for (WordPhones& word : zSource.PhonesOf(asked)) {
-      phones.push_back(std::move(word));
-    }
+  std::vector<std::string> asked;
+  for (const std::string& word : zWords) {
+    asked.push_back(AskedWord(word));
   }
+  std::vector<WordPhones> phones = zSource.PhonesOf(asked);
   for (std::size_t i = 0; i < phones.size(); ++i) {
     Correct(zWords[i], phones[i]);
   }

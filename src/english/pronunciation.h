@@ -8,9 +8,9 @@
 
 namespace loquitor {
 
-/// The phones of each of `zWords`, as `zSource` gives them, with corrections for words that a
-/// source may get wrong: contractions with n't, and a few short words. The words must be as
-/// PhoneSource takes them, but there may be more: the source then gets MaxWords at a time.
+/// The phones of each of `zWords`, which are as PhoneSource::PhonesOf takes them. They come from
+/// `zSource`, with corrections for words that a source may get wrong: contractions with n't, and a
+/// few short words.
 std::vector<WordPhones> Pronounce(PhoneSource& zSource, std::span<const std::string> zWords);
 
 }  // namespace loquitor
