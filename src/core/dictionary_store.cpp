@@ -14,6 +14,12 @@ std::string_view DictionarySnapshot::Entry(std::string_view zWord) const {
   return TrimSpacesAndNuls(entry.value_or("").substr(0, DictionaryStore::MaxEntry));
 }
 
+std::string DictionarySnapshot::SayDataOf(std::string_view zWords) const {
+  std::string sayData;
+  ForEachWord(zWords, [&](std::string_view zWord) { sayData.append(Entry(zWord)).append(" "); });
+  return sayData;
+}
+
 DictionaryStore::DictionaryStore(const std::filesystem::path& zFolder)
     : file_(zFolder / "Loquitor.Dic") {}
 

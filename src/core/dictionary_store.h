@@ -21,6 +21,10 @@ class DictionarySnapshot {
   /// the word is missing. The view lives as long as the snapshot.
   std::string_view Entry(std::string_view zWord) const;
 
+  /// What loading the words of `zWords` puts into an empty Say Data box: the entry of each word and
+  /// a space.
+  std::string SayDataOf(std::string_view zWords) const;
+
   /// The whole text of the file.
   std::string_view Text() const { return file_->Text(); }
 

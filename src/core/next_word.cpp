@@ -10,15 +10,6 @@ namespace {
 /// Only words before this one are found.
 constexpr std::string_view Sentinel = "zzzzzzzzz!!!";
 
-/// What loading the space-separated words of `zWords` puts into an empty Say Data box.
-std::string SayDataOf(const DictionarySnapshot& zDictionary, std::string_view zWords) {
-  std::string sayData;
-  ForEachWord(zWords, [&](std::string_view zWord) {
-    sayData.append(zDictionary.Entry(zWord)).append(" ");
-  });
-  return sayData;
-}
-
 /// The first wanted word after `zCurrent` and before the sentinel.
 std::optional<std::string> FirstAfter(const DictionarySnapshot& zDictionary,
                                       std::string_view zCurrent, const IsWantedSayData& zIsWanted) {
@@ -33,7 +24,7 @@ std::optional<std::string> FirstAfter(const DictionarySnapshot& zDictionary,
     }
     const std::string_view word = TrimBlanks(line.text.substr(0, equals));
     if (CompareNames(word, zCurrent) > 0 && CompareNames(word, best) < 0 &&
-        (!zIsWanted || zIsWanted(SayDataOf(zDictionary, word)))) {
+        (!zIsWanted || zIsWanted(zDictionary.SayDataOf(word)))) {
       best = ToLower(word);
       isFound = true;
     }

@@ -9,9 +9,8 @@
 
 namespace loquitor {
 
-/// Whether a search may end at a word. `zSayData` is what loading the word puts into an empty Say
-/// Data box: its entry and a space. For a key with spaces in it, the entry of each of its words and
-/// a space.
+/// Whether a search may end at a word. `zSayData` is DictionarySnapshot::SayDataOf of the word,
+/// which may have spaces in it.
 using IsWantedSayData = std::function<bool(std::string_view zSayData)>;
 
 /// The word of the dictionary file that follows `zCurrent` in the order of their bytes. The first

@@ -48,7 +48,7 @@ void DictionaryBrowser::LoadDictWords() {
 }
 
 void DictionaryBrowser::cmdLoadOver_Click() {
-  ReplaceSayData(LoadedText(context_.dictionary, txtDict_->Text()));
+  ReplaceSayData(context_.dictionary.Snapshot().SayDataOf(txtDict_->Text()));
   emit Loaded(txtDict_, txtDict_->Text());
 }
 
@@ -87,7 +87,8 @@ bool DictionaryBrowser::GetNextWord(NextWordMode zMode) {
   if (!word) {
     return false;
   }
-  history_->Record(*word, [&] { ReplaceSayData(LoadedText(context_.dictionary, *word)); });
+  const std::string sayData = context_.dictionary.Snapshot().SayDataOf(*word);
+  history_->Record(*word, [&] { ReplaceSayData(sayData); });
   return true;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/phrase/dictionary_words.h"
 
+#include "core/dictionary_store.h"
 #include "files/profile_lines.h"
 #include "text/letters.h"
 #include "text/words.h"
@@ -17,14 +18,6 @@ std::optional<NextWordMode> NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTi
     return zIsWithoutTicked ? NextWordMode::Any : NextWordMode::WithData;
   }
   return zIsWithoutTicked ? std::optional(NextWordMode::WithoutData) : std::nullopt;
-}
-
-std::string LoadedText(const DictionaryStore& zDictionary, std::string_view zText) {
-  std::string text;
-  ForEachWord(zText, [&](std::string_view zWord) {
-    text += zDictionary.GetDictionaryValue(DictionaryStore::Section, zWord, "") + " ";
-  });
-  return text;
 }
 
 bool IsWanted(NextWordMode zMode, std::string_view zSayData, std::string_view zFindWith) {

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/dictionary_store.h"
-
 namespace loquitor {
 
 /// What a step to the next dictionary word looks for.
@@ -18,9 +16,6 @@ enum class NextWordMode {
 
 /// The mode that the two check boxes mean. Nothing when neither is ticked.
 std::optional<NextWordMode> NextWordModeOf(bool zIsWithTicked, bool zIsWithoutTicked);
-
-/// The entries of the words of `zText`, each followed by one blank. A missing entry is empty.
-std::string LoadedText(const DictionaryStore& zDictionary, std::string_view zText);
 
 /// Whether a step in that mode stops at a word whose entry loads as `zSayData`. In the mode
 /// WithData, `zSayData` must also contain `zFindWith` converted to upper case.
