@@ -2,9 +2,7 @@
 // shows for a file, what a save writes, sort, clean, search and import.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <cstdint>
-#include <random>
 #include <string>
 #include <string_view>
 #include <unordered_set>

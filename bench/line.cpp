@@ -10,6 +10,7 @@
 
 #include <algorithm>
 
+#include "files/settings_file.h"
 #include "line/code_sender.h"
 #include "line/scp.h"
 #include "tests/support/simulated_line.h"

@@ -2,8 +2,6 @@
 
 #include <chrono>
 #include <filesystem>
-#include <fstream>
-#include <stdexcept>
 #include <string>
 #include <thread>
 

@@ -12,6 +12,7 @@
 #include "tests/support/program.h"
 #include "ui/chip/frm_buttons.h"
 #include "ui/chip/frm_eeprom.h"
+#include "ui/controls/text_box.h"
 
 namespace loquitor {
 namespace {

@@ -17,6 +17,7 @@
 #include "bench/support/window_main.h"
 #include "english/english_reader.h"
 #include "tests/support/program.h"
+#include "ui/controls/text_area.h"
 #include "ui/dictedit/frm_dict_edit.h"
 
 namespace loquitor {

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include "files/settings_file.h"
 #include "line/code_sender.h"
 #include "line/qt/event_turns.h"
 #include "line/qt/qt_serial_port.h"

@@ -1,5 +1,6 @@
 #include "core/next_word.h"
 
+#include "core/dictionary_store.h"
 #include "files/profile_lines.h"
 #include "text/letters.h"
 #include "text/words.h"

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/dictionary_store.h"
-
 namespace loquitor {
+
+class DictionaryStore;
 
 /// Whether a search may end at a word. `zSayData` is DictionarySnapshot::SayDataOf of the word,
 /// which may have spaces in it.

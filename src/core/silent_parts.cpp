@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "core/code_table.h"
 #include "core/say_data_runs.h"
 #include "text/letters.h"
 

@@ -4,10 +4,11 @@
 #include <string_view>
 #include <vector>
 
-#include "core/code_table.h"
 #include "core/expansion.h"
 
 namespace loquitor {
+
+class CodeTable;
 
 /// A part of a Say Data text for which the chip gets no code.
 struct SilentPart {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "english/english_reader.h"
-#include "files/profile_file.h"
+#include "files/profile_edit.h"
 
 namespace loquitor {
 

@@ -6,7 +6,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "files/profile_edit.h"
 #include "files/profile_snapshot.h"

@@ -1,5 +1,6 @@
 #include "line/code_sender.h"
 
+#include "files/settings_file.h"
 #include "line/scp.h"
 
 namespace loquitor {

@@ -4,11 +4,12 @@
 #include <string>
 #include <string_view>
 
-#include "files/settings_file.h"
 #include "line/send_queue.h"
 #include "line/serial_port.h"
 
 namespace loquitor {
+
+class SettingsFile;
 
 /// The state of the port, for the user.
 enum class PortState {

@@ -13,6 +13,7 @@
 #include "text/wide_text.h"
 #endif
 
+#include "files/settings_file.h"
 #include "text/path_text.h"
 
 namespace loquitor {

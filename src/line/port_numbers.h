@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "files/settings_file.h"
-
 namespace loquitor {
+
+class SettingsFile;
 
 /// A serial device of this machine. Texts are as TextOf gives paths.
 struct SerialDevice {

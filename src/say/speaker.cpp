@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "files/settings_file.h"
 #include "line/port_numbers.h"
 #include "text/number_text.h"
 

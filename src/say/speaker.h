@@ -5,11 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "files/settings_file.h"
 #include "line/code_sender.h"
 #include "say/system_line.h"
 
 namespace loquitor {
+
+class SettingsFile;
 
 /// Sends phrases to the port of the settings, without a window. Needs a SpeakerApplication.
 class Speaker : private SenderHost {

@@ -1,6 +1,5 @@
 #include "say/spoken_file.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <stdexcept>
 #include <utility>

@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <stdexcept>
-#include <string>
 #include <utility>
 
 #include "voice/filters.h"

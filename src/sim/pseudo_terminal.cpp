@@ -9,7 +9,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <stdexcept>
-#include <string_view>
 #include <system_error>
 #include <utility>
 

@@ -3,7 +3,9 @@
 #include <iostream>
 #include <optional>
 
+#include "sim/chip_line.h"
 #include "sim/input_line.h"
+#include "sim/sound_output.h"
 
 namespace loquitor {
 

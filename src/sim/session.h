@@ -6,11 +6,12 @@
 #include <string>
 #include <string_view>
 
-#include "sim/chip_line.h"
-#include "sim/sound_output.h"
 #include "sim/virtual_chip.h"
 
 namespace loquitor {
+
+class ChipLine;
+class SoundOutput;
 
 /// A run of the virtual Orvatone. Feeds the chip with the bytes from its line, prints and plays
 /// what they mean, and changes the chip's inputs by the lines of standard input.

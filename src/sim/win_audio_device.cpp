@@ -9,7 +9,6 @@
 #include <array>
 #include <atomic>
 #include <stdexcept>
-#include <string>
 #include <thread>
 #include <utility>
 

@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <limits>
 #include <string>
-#include <string_view>
 #include <system_error>
 
 #include "text/path_text.h"

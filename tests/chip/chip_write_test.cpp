@@ -6,6 +6,7 @@
 
 #include "line/scp.h"
 #include "tests/support/window_test.h"
+#include "ui/chip/eeprom_image.h"
 #include "ui/chip/frm_buttons.h"
 #include "ui/chip/frm_eeprom.h"
 

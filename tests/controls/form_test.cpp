@@ -4,8 +4,6 @@
 
 #include <QDialog>
 #include <QLabel>
-#include <QPushButton>
-#include <QSignalSpy>
 #include <QTest>
 #include <array>
 

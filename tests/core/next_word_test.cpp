@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 
+#include "core/dictionary_store.h"
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 

@@ -5,7 +5,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "tests/e2e/desktop.h"
 #include "tests/e2e/pty_chip.h"

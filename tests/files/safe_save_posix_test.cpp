@@ -16,7 +16,6 @@
 #include <random>
 #include <string>
 #include <thread>
-#include <vector>
 
 #include "files/file_bytes.h"
 #include "tests/files/safe_save.h"

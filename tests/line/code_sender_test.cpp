@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "files/settings_file.h"
 #include "line/scp.h"
 #include "tests/support/rows.h"
 #include "tests/support/scripted_port.h"

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "files/settings_file.h"
 #include "tests/support/temp_folder.h"
 
 namespace loquitor::testing {

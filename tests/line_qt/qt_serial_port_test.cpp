@@ -11,7 +11,6 @@
 #include <QElapsedTimer>
 #include <QTest>
 #include <filesystem>
-#include <memory>
 
 #include "tests/support/pseudo_terminal.h"
 #include "tests/support/rows.h"

@@ -3,6 +3,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "files/settings_file.h"
 #include "line/code_sender.h"
 #include "line/qt/event_turns.h"
 #include "line/qt/qt_serial_port.h"

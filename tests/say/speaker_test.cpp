@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 
+#include "files/settings_file.h"
 #include "tests/e2e/pty_chip.h"
 #include "tests/support/temp_folder.h"
 

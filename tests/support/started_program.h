@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>

@@ -1,5 +1,6 @@
 #include "ui/chip/eeprom_image.h"
 
+#include "core/say_data.h"
 #include "line/scp.h"
 
 namespace loquitor {

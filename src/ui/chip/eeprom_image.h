@@ -7,9 +7,10 @@
 #include <string_view>
 
 #include "core/eeprom.h"
-#include "core/say_data.h"
 
 namespace loquitor {
+
+class SayDataTranslator;
 
 /// The most bytes that an image may have.
 inline constexpr std::size_t MaxImageLength = eeprom::PhrasesEnd;

@@ -2,8 +2,10 @@
 
 #include <QLabel>
 
+#include "ui/chip/event_configuration.h"
 #include "ui/controls/check_box.h"
 #include "ui/controls/fitting.h"
+#include "ui/controls/form.h"
 #include "ui/controls/text_box.h"
 
 namespace loquitor {

@@ -2,10 +2,11 @@
 
 #include <QString>
 
-#include "ui/chip/event_configuration.h"
-#include "ui/controls/form.h"
+#include "ui/controls/twips.h"
 
 namespace loquitor {
+
+class Form;
 
 /// The client area of the event configuration window.
 extern const TwipSize EventClientSize;

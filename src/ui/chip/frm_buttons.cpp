@@ -3,12 +3,15 @@
 #include <utility>
 
 #include "text/number_text.h"
+#include "ui/chip/chip_write.h"
 #include "ui/chip/decimal_form.h"
 #include "ui/chip/event_form.h"
 #include "ui/chip/phrase_tooltip.h"
+#include "ui/controls/check_box.h"
 #include "ui/controls/code_page.h"
 #include "ui/controls/colours.h"
 #include "ui/controls/push_button.h"
+#include "ui/controls/text_box.h"
 #include "ui/windows/busy.h"
 
 namespace loquitor {

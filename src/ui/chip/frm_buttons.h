@@ -6,15 +6,17 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/chip/chip_write.h"
 #include "ui/chip/event_configuration.h"
-#include "ui/controls/check_box.h"
 #include "ui/controls/form.h"
-#include "ui/controls/text_box.h"
 #include "ui/windows/editor_context.h"
 #include "ui/windows/tool_window.h"
 
 namespace loquitor {
+
+class CheckBox;
+class ChipWrite;
+class OptionGroup;
+class TextBox;
 
 /// The editor of the chip's reactions to power-up and to its inputs, and of its input, output and
 /// node settings. The settings file keeps all of it between runs, except the node.

@@ -3,6 +3,9 @@
 #include <QLabel>
 #include <vector>
 
+#include "ui/chip/chip_write.h"
+#include "ui/chip/eeprom_image.h"
+#include "ui/chip/slot_label.h"
 #include "ui/controls/colours.h"
 #include "ui/controls/push_button.h"
 #include "ui/phrase/frm_phrase.h"

@@ -4,14 +4,16 @@
 #include <string>
 #include <string_view>
 
-#include "ui/chip/chip_write.h"
-#include "ui/chip/eeprom_image.h"
-#include "ui/chip/slot_label.h"
+#include "core/eeprom.h"
 #include "ui/controls/form.h"
 #include "ui/windows/editor_context.h"
 #include "ui/windows/tool_window.h"
 
 namespace loquitor {
+
+class ChipWrite;
+class PhraseLabel;
+class SlotLabel;
 
 /// The editor of the sixteen phrases that the chip stores. It shows them, opens each in the phrase
 /// editor, plays what the chip holds, shows how much of the EEPROM they take and writes them. The

@@ -12,11 +12,14 @@
 #include <utility>
 
 #include "core/dictionary_text.h"
+#include "core/word_import.h"
+#include "english/blank_entries.h"
 #include "english/unread_text.h"
 #include "files/file_bytes.h"
 #include "ui/controls/code_page.h"
 #include "ui/controls/colours.h"
 #include "ui/controls/hint.h"
+#include "ui/controls/text_area.h"
 #include "ui/dictedit/editable_text.h"
 #include "ui/dictedit/word_list.h"
 #include "ui/windows/busy.h"

@@ -5,14 +5,15 @@
 #include <string>
 #include <string_view>
 
-#include "core/word_import.h"
-#include "english/blank_entries.h"
 #include "ui/controls/form.h"
-#include "ui/controls/text_area.h"
 #include "ui/windows/editor_context.h"
 #include "ui/windows/tool_window.h"
 
 namespace loquitor {
+
+class TextArea;
+class WordImport;
+struct FilledEntries;
 
 /// The dictionary editor: the dictionary file as one text that can be typed in, searched, saved,
 /// sorted, cleaned, extended with the words of ImportWords.txt (in the working directory), and

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 
+#include "files/settings_file.h"
 #include "line/port_numbers.h"
 #include "line/qt/serial_devices.h"
 #include "text/number_text.h"
 #include "ui/controls/check_box.h"
 #include "ui/controls/text_box.h"
+#include "ui/windows/prompts.h"
 
 namespace loquitor {
 namespace {

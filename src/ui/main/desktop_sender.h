@@ -5,16 +5,16 @@
 #include <QWidget>
 #include <string>
 
-#include "files/settings_file.h"
 #include "line/code_sender.h"
 #include "line/qt/event_turns.h"
 #include "ui/windows/failure_hint.h"
-#include "ui/windows/prompts.h"
 #include "ui/windows/send_progress.h"
 
 namespace loquitor {
 
 class CheckBox;
+class Prompts;
+class SettingsFile;
 class TextBox;
 
 /// The sender of the desktop program, and its host: the port number and the flow control box of the

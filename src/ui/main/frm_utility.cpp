@@ -5,8 +5,6 @@
 #include <QKeyEvent>
 #include <utility>
 
-#include "line/port_numbers.h"
-#include "line/qt/serial_devices.h"
 #include "line/scp.h"
 #include "ui/chip/frm_baud_rate.h"
 #include "ui/chip/frm_buttons.h"

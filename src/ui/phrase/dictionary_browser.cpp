@@ -5,7 +5,12 @@
 
 #include "core/next_word.h"
 #include "text/words.h"
+#include "ui/controls/check_box.h"
+#include "ui/controls/form.h"
 #include "ui/controls/hint.h"
+#include "ui/controls/text_area.h"
+#include "ui/controls/text_box.h"
+#include "ui/phrase/word_history.h"
 #include "ui/windows/busy.h"
 
 namespace loquitor {

@@ -3,15 +3,16 @@
 #include <QObject>
 #include <string>
 
-#include "ui/controls/check_box.h"
-#include "ui/controls/form.h"
-#include "ui/controls/text_area.h"
-#include "ui/controls/text_box.h"
 #include "ui/phrase/dictionary_words.h"
-#include "ui/phrase/word_history.h"
 #include "ui/windows/editor_context.h"
 
 namespace loquitor {
+
+class CheckBox;
+class Form;
+class TextArea;
+class TextBox;
+class WordHistory;
 
 /// The Dictionary frame of the phrase editor. It loads the entries of words into the Say Data,
 /// steps through the dictionary in alphabetical order, and saves the Say Data as a word's entry.

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace loquitor {

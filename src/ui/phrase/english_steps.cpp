@@ -8,10 +8,12 @@
 #include <sstream>
 #include <utility>
 
+#include "english/english_reader.h"
 #include "english/unread_text.h"
 #include "text/words.h"
 #include "ui/controls/code_page.h"
 #include "ui/controls/hint.h"
+#include "ui/controls/text_area.h"
 #include "ui/phrase/dictionary_words.h"
 #include "ui/windows/busy.h"
 

@@ -5,14 +5,14 @@
 #include <string>
 #include <string_view>
 
-#include "english/english_reader.h"
-#include "ui/controls/text_area.h"
 #include "ui/phrase/say_data_places.h"
 #include "ui/windows/editor_context.h"
 
 class QAction;
 
 namespace loquitor {
+
+class TextArea;
 
 /// Three actions for English words in the Say Data box, with entries in its context menu and keys:
 /// Insert Its Sounds (F6) and Add to Dictionary (Shift+F6) for one word, English to Sounds (F9) for

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ui/controls/push_button.h"
+#include "ui/controls/text_area.h"
 #include "ui/controls/text_box.h"
 #include "ui/phrase/dictionary_browser.h"
 #include "ui/phrase/english_steps.h"

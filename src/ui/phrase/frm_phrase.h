@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "ui/controls/form.h"
-#include "ui/controls/text_area.h"
 #include "ui/windows/editor_context.h"
 #include "ui/windows/tool_window.h"
 
@@ -13,6 +12,7 @@ namespace loquitor {
 class DictionaryBrowser;
 class SilentMarks;
 class SoundPalette;
+class TextArea;
 class VoiceControls;
 
 /// The phrase editor. The user writes a phrase as Say Data, hears it, views its codes, and builds

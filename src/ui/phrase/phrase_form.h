@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "ui/controls/form.h"
+#include "ui/controls/control_row.h"
 
 namespace loquitor {
 

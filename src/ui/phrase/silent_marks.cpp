@@ -3,6 +3,8 @@
 #include <QEvent>
 #include <algorithm>
 
+#include "core/say_data.h"
+#include "ui/controls/text_area.h"
 #include "ui/phrase/say_data_places.h"
 
 namespace loquitor {

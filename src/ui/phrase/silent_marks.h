@@ -3,10 +3,10 @@
 #include <QObject>
 #include <QTimer>
 
-#include "core/say_data.h"
-#include "ui/controls/text_area.h"
-
 namespace loquitor {
+
+class SayDataTranslator;
+class TextArea;
 
 /// Underlines the words and mnemonics of a Say Data box for which the chip gets no code. Looks at
 /// what is in view only, so the time that it takes does not grow with the text. Looks again in the

@@ -3,7 +3,9 @@
 #include <QStringList>
 #include <limits>
 
+#include "core/code_table.h"
 #include "text/number_text.h"
+#include "ui/phrase/palette_table.h"
 
 namespace loquitor {
 

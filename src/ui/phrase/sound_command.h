@@ -6,10 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/code_table.h"
-#include "ui/phrase/palette_table.h"
-
 namespace loquitor {
+
+struct PaletteMember;
 
 /// Whether a code-table index is that of a note.
 bool IsNote(std::int16_t zCode);

@@ -2,6 +2,9 @@
 
 #include <QTextDocument>
 
+#include "ui/controls/text_area.h"
+#include "ui/controls/text_box.h"
+
 namespace loquitor {
 
 WordHistory::WordHistory(TextArea* zArea, TextBox* zWordBox)

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "ui/controls/text_area.h"
-#include "ui/controls/text_box.h"
-
 namespace loquitor {
+
+class TextArea;
+class TextBox;
 
 /// Keeps a word box in step with the undo history of a text area. When an edit that loaded the
 /// entry of a word is undone, the box gets the word from before it back. When the edit is redone,

@@ -6,14 +6,17 @@
 #include <string>
 
 #include "text/number_text.h"
+#include "ui/controls/bar_and_box.h"
 #include "ui/controls/check_box.h"
 #include "ui/controls/code_page.h"
 #include "ui/controls/colours.h"
 #include "ui/controls/push_button.h"
 #include "ui/controls/scroll_bar.h"
 #include "ui/controls/text_box.h"
+#include "ui/synth/sound.h"
 #include "ui/synth/sound_name_box.h"
 #include "ui/synth/synth_form.h"
+#include "ui/synth/synth_values.h"
 
 namespace loquitor {
 

@@ -5,17 +5,16 @@
 #include <functional>
 #include <optional>
 
+#include "core/synth_registers.h"
 #include "files/sound_library.h"
-#include "ui/controls/bar_and_box.h"
 #include "ui/controls/form.h"
 #include "ui/synth/register_writer.h"
-#include "ui/synth/sound.h"
-#include "ui/synth/synth_values.h"
 #include "ui/windows/editor_context.h"
 #include "ui/windows/tool_window.h"
 
 namespace loquitor {
 
+class BarAndBox;
 class OptionGroup;
 class SoundNameBox;
 

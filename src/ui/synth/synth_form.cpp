@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/synth_registers.h"
+#include "ui/controls/form.h"
 
 namespace loquitor {
 

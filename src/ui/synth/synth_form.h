@@ -1,8 +1,10 @@
 #pragma once
 
-#include "ui/controls/form.h"
+#include "ui/controls/twips.h"
 
 namespace loquitor {
+
+class Form;
 
 /// The client area of the synth control window.
 inline constexpr TwipSize SynthClientSize{9375, 7860};
