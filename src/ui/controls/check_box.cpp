@@ -34,6 +34,16 @@ void DrawOutline(QPainter& zPainter, QStyle::PrimitiveElement zMark, const QStyl
   zPainter.setRenderHint(QPainter::Antialiasing, false);
 }
 
+/// Draws the wrapped caption in `zPlace` and returns the place that its text takes.
+QRect DrawCaption(QPainter& zPainter, const QWidget* zButton, const QString& zCaption,
+                  const QRect& zPlace) {
+  constexpr int Flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+  zPainter.setFont(WrappingFont(zButton->font(), zCaption, {zPlace.width(), zButton->height()}));
+  zPainter.setPen(zButton->palette().color(QPalette::WindowText));
+  zPainter.drawText(zPlace, Flags, zCaption);
+  return zPainter.fontMetrics().boundingRect(zPlace, Flags, zCaption);
+}
+
 /// Draws the mark and the wrapped caption. The style itself would keep the caption on one line.
 /// Without a caption the mark is in the middle.
 void PaintWrapped(QAbstractButton* zButton, QStyleOptionButton zOption,
@@ -55,12 +65,8 @@ void PaintWrapped(QAbstractButton* zButton, QStyleOptionButton zOption,
   painter.drawPrimitive(zMark, zOption);
   DrawOutline(painter, zMark, zOption);
 
-  painter.setFont(WrappingFont(zButton->font(), caption, {text.width(), zButton->height()}));
-  constexpr int Flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
-  const QRect used = caption.isEmpty() ? zOption.rect.adjusted(-1, -3, 0, 2)
-                                       : painter.fontMetrics().boundingRect(text, Flags, caption);
-  painter.setPen(zButton->palette().color(QPalette::WindowText));
-  painter.drawText(text, Flags, caption);
+  const QRect place = DrawCaption(painter, zButton, caption, text);
+  const QRect used = caption.isEmpty() ? zOption.rect.adjusted(-1, -3, 0, 2) : place;
   if (hasFocus) {
     painter.setPen(zButton->palette().color(QPalette::Highlight));
     painter.drawRect(used.adjusted(-2, 0, 2, 0).intersected(all.adjusted(0, 0, -1, -1)));
