@@ -54,8 +54,9 @@ class Normalizer {
       ReadInchSign(Since(start));
     } else if (const std::optional<NumberReading> phone = ReadPhoneNumber(Rest())) {
       Read(*phone);
-    } else if (IsLetter(At()) && IsBy(text_, at_) && !words_.hasEntry(Rest().substr(0, 1))) {
-      AddWord("by");
+    } else if (IsLetter(At()) && !words_.hasEntry(Rest().substr(0, 1)) &&
+               !NameOfX(text_, at_).empty()) {
+      AddWord(NameOfX(text_, at_));
       ++at_;
     } else if (IsLetter(At())) {
       ReadLetters();

@@ -88,7 +88,7 @@ std::string_view NumberSignName(const Neighbours& zAround) {
 /// Whether an equals sign ends the sum that `zRest` begins with.
 bool IsSum(std::string_view zRest) {
   constexpr std::size_t Longest = 40;
-  const std::size_t end = zRest.substr(0, Longest).find_first_not_of("0123456789 .+-*/");
+  const std::size_t end = zRest.substr(0, Longest).find_first_not_of("0123456789 .+-*/x");
   return end != std::string_view::npos && zRest[end] == '=';
 }
 
@@ -164,18 +164,20 @@ std::string_view PeriodName(std::string_view zText, std::size_t zAt) {
 
 bool IsInPartName(std::string_view zText, std::size_t zAt) {
   const Neighbours around(zText, zAt, zAt);
-  const bool isAfterLetter = IsLetter(around.Before()) && !(zAt > 0 && IsBy(zText, zAt - 1));
+  const bool isAfterLetter =
+      IsLetter(around.Before()) && (zAt == 0 || NameOfX(zText, zAt - 1).empty());
   const bool isJoined = around.Before() == '-' || around.Before() == '.';
   return isAfterLetter || (isJoined && IsCapital(around.Before(2)));
 }
 
-bool IsBy(std::string_view zText, std::size_t zAt) {
+std::string_view NameOfX(std::string_view zText, std::size_t zAt) {
   const Neighbours around(zText, zAt, zAt + 1);
   const bool isHexadecimal = around.Before() == '0' && !IsDigit(around.Before(2));
   const bool isAfterInches = around.Before() == ' ' && around.Before(2) == '"' &&
                              around.After() == ' ' && IsDigit(around.After(1));
-  return LowerCase(zText[zAt]) == 'x' && !isHexadecimal &&
-         (IsBetweenDigits(around) || isAfterInches);
+  const bool isX =
+      LowerCase(zText[zAt]) == 'x' && !isHexadecimal && (IsBetweenDigits(around) || isAfterInches);
+  return !isX ? "" : IsSum(around.Rest()) ? "times" : "by";
 }
 
 }  // namespace loquitor

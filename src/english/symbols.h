@@ -29,8 +29,9 @@ bool IsMinus(std::string_view zText, std::size_t zAt);
 /// "point". Empty for any other period.
 std::string_view PeriodName(std::string_view zText, std::size_t zAt);
 
-/// Whether the letter x at `zAt` of `zText` is the "by" between two numbers: 10x15, 10 x 15.
-bool IsBy(std::string_view zText, std::size_t zAt);
+/// The word for the letter x at `zAt` of `zText` between two numbers: "times" in 3 x 4 = 12, "by"
+/// in 10x15. Empty for any other letter.
+std::string_view NameOfX(std::string_view zText, std::size_t zAt);
 
 /// Whether the digits at `zAt` of `zText` follow the letters of the name of a part: RS232, RS-232,
 /// H.264.

@@ -189,6 +189,7 @@ constexpr SpokenCase Words[] = {
      "two X plus one , two X squared equals X squared plus X cubed plus X to the power of twenty "
      "three , twelve divided by four equals three"},
     {"3 x 4 12\" x 18\" 1/4\"", "three by four twelve inches by eighteen inches one quarter inch"},
+    {"3 x 4 x 2 = 24", "three times four times two equals twenty four"},
     {"10x15 M3x10 0x1F 4x4 x2", "ten by fifteen M three by ten zero X one F four by four X two"},
     {"**bold** *it.* a * b 5* p*q", "bold it . a star B <five> star P star Q"},
     {"C# G# H# # ", "C sharp G sharp H number number"},
