@@ -237,8 +237,13 @@ std::optional<LoadedFile> LoadFile(const fs::path& zFile) {
 }
 
 std::optional<fs::path> FollowLinks(const fs::path& zFile) {
+  // While another program saves the file, it may be missing for a moment. weakly_canonical looks
+  // several times and takes that badly, so it gets links only. They stay when their file is saved.
+  const DWORD attributes = GetFileAttributesW(zFile.c_str());
+  const bool isLink =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
   std::error_code error;
-  const fs::path file = fs::weakly_canonical(zFile, error);
+  const fs::path file = isLink ? fs::weakly_canonical(zFile, error) : fs::absolute(zFile, error);
   return error ? std::nullopt : std::make_optional(file);
 }
 
