@@ -13,7 +13,7 @@ namespace loquitor {
 /// How large a text may become by typing and pasting.
 struct TextLimits {
   /// In characters. A key in a longer line could take longer than a frame of the screen.
-  std::size_t longestLine = 50'000;
+  std::size_t longestLine = 40'000;
   std::size_t characters = std::numeric_limits<std::size_t>::max();  ///< with the line breaks
   std::size_t lines = std::numeric_limits<std::size_t>::max();
 };
