@@ -15,8 +15,8 @@ using EntryLookUp = std::function<std::string(std::string_view zWord)>;
 /// missing there. The result ends before the first part that would make it longer than `zMaxLength`
 /// bytes.
 ///
-/// Takes time proportional to `zMaxLength` plus the length of `zSayData`, whatever the entries are:
-/// entries that would take longer are left out. Only memory limits the depth of nesting.
+/// The work in entries is at most that of reading 8 MiB, plus eight times the length of `zSayData`:
+/// entries that would take more are left out. Only memory limits the depth of nesting.
 std::string ExpandWords(std::string_view zSayData, const EntryLookUp& zEntryOf,
                         std::size_t zMaxLength);
 

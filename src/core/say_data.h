@@ -29,8 +29,8 @@ class SayDataTranslator {
   /// the time of the call. Fast enough to call after every key.
   std::vector<SilentPart> FindSilentParts(std::string_view zSayData) const;
 
-  /// What ends the expansion of a dictionary whose entries multiply each other. Pauses and names in
-  /// the Say Data grow four times at most, so a text without words is never cut.
+  /// The limit of an expansion, because entries may multiply each other. Pauses and names in the
+  /// Say Data grow four times at most, so a text without words is never cut.
   static constexpr std::size_t MaxExpansion = std::size_t{1} << 20;  ///< in bytes
   static constexpr std::size_t MaxGrowth = 16;
 
